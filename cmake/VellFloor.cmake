@@ -1,0 +1,31 @@
+# One floor of the house: a static library that may link only lower floors.
+#   vell_floor(NAME log SOURCES clsLog.cpp ... LINKS vell_platform)
+function(vell_floor)
+  cmake_parse_arguments(FLOOR "" "NAME" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
+  add_library(vell_${FLOOR_NAME} STATIC ${FLOOR_SOURCES})
+  vell_options(vell_${FLOOR_NAME})
+  target_link_libraries(vell_${FLOOR_NAME} PUBLIC ${FLOOR_LINKS} PRIVATE ${FLOOR_PRIVATE_LINKS})
+endfunction()
+
+# What every target of ours is compiled with.
+function(vell_options target)
+  target_include_directories(${target} PUBLIC ${CMAKE_SOURCE_DIR})
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+  if(VELL_WERROR)
+    target_compile_options(${target} PRIVATE -Werror)
+  endif()
+  if(VELL_SANITIZE)
+    target_compile_options(${target} PUBLIC -fsanitize=address,undefined -fno-sanitize-recover=undefined
+                                            -fno-omit-frame-pointer)
+    target_link_options(${target} PUBLIC -fsanitize=address,undefined)
+  endif()
+endfunction()
+
+# A program of ours.
+#   vell_program(NAME vell-console SOURCES main.cpp ... LINKS vell_core)
+function(vell_program)
+  cmake_parse_arguments(PROGRAM "" "NAME" "SOURCES;LINKS" ${ARGN})
+  add_executable(${PROGRAM_NAME} ${PROGRAM_SOURCES})
+  vell_options(${PROGRAM_NAME})
+  target_link_libraries(${PROGRAM_NAME} PRIVATE ${PROGRAM_LINKS})
+endfunction()

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace vell {
+
+// Tells whether a file is still the one that was looked at before: equal stamps mean unchanged content.
+struct FileStamp {
+    std::int64_t Size = 0;
+    std::int64_t ModifiedNanoseconds = 0;
+    std::uint64_t Identity = 0;  // inode or file index: a file that took the place of another has another one
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+// A file open for writing. It is closed, whatever happened, when the object goes.
+class OutputFile {
+  public:
+    virtual ~OutputFile() = default;
+    virtual void Write(std::string_view bytes) = 0;
+    // Closes now and raises what a late write failed with. A second call does nothing.
+    virtual void Close() = 0;
+};
+
+enum class Durability {
+    Rename,   // survives the end of the program
+    Flushed,  // survives a power cut too; costs a wait for the disk
+};
+
+// Paths are texts in code page 1253 with backslashes; an implementation maps them to the system's form. A path whose
+// name differs only in case from one on disk means that one. Failures raise RunTimeError with a number of
+// base/errors.h, unless the return type says otherwise; the path stands in the description.
+class Files {
+  public:
+    virtual ~Files() = default;
+
+    // True when the attributes of a file or folder can be read.
+    [[nodiscard]] virtual bool PathExists(std::string_view path) const = 0;
+    // Length in bytes; nothing when there is no such file.
+    [[nodiscard]] virtual std::optional<std::int64_t> FileSize(std::string_view path) const = 0;
+    [[nodiscard]] virtual std::optional<FileStamp> Stamp(std::string_view path) const = 0;
+
+    struct Entry {
+        std::string Name;       // without the folder
+        std::int64_t Size = 0;  // 0 for folders
+    };
+    enum class Kind { Files, Folders };
+    // What a folder holds of one kind, in name order without regard to case; "." and ".." are never among it. The
+    // pattern knows "*" and "?", without regard to case; "*.*" means everything. A missing folder holds nothing.
+    [[nodiscard]] virtual std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern,
+                                                       Kind kind) const = 0;
+
+    [[nodiscard]] virtual std::string ReadFile(std::string_view path) const = 0;
+    // Replaces or makes the file; what lies under its name is the old content or the new, never a part.
+    virtual void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) = 0;
+    // Makes the file when it is missing.
+    virtual void Append(std::string_view path, std::string_view bytes) = 0;
+    // Opens for writing from `offset` on (0 to the file's length) and cuts off what lies behind it; makes the file
+    // when it is missing.
+    [[nodiscard]] virtual std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) = 0;
+    // Makes an empty file that only its owner may read, or leaves an existing one as it is.
+    virtual void MakePrivateFile(std::string_view path) = 0;
+
+    virtual void DeleteFile(std::string_view path) = 0;
+    // One level only.
+    virtual void MakeFolder(std::string_view path) = 0;
+    // The folder must be empty.
+    virtual void RemoveFolder(std::string_view path) = 0;
+
+    // Free bytes for the calling user on the drive that holds `path`, which need not exist itself; nothing when the
+    // system cannot tell.
+    [[nodiscard]] virtual std::optional<std::uint64_t> FreeBytes(std::string_view path) const = 0;
+};
+
+}  // namespace vell

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+namespace vell {
+
+class Clock;
+class EventLoop;
+class Files;
+class IniFile;
+class InternetApi;
+class MessageBoxes;
+class Process;
+class Shell;
+
+// Everything that the program has of the operating system, handed down by constructors. Owned by the program's main.
+struct Platform {
+    Clock& Time;
+    EventLoop& Loop;
+    Files& Disk;
+    IniFile& Ini;
+    InternetApi& Internet;
+    MessageBoxes& Boxes;
+    Process& Program;
+    Shell& Opener;
+};
+
+}  // namespace vell

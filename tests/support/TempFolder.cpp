@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/TempFolder.h"
+
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+#include <stdlib.h>
+
+namespace vell::test {
+
+TempFolder::TempFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "vell-test-XXXXXX").string();
+    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
+    path_ = name;
+}
+
+TempFolder::~TempFolder() {
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+void TempFolder::put(const std::string& name, std::string_view bytes) const {
+    std::filesystem::create_directories((path_ / name).parent_path());
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+}
+
+std::string TempFolder::get(const std::string& name) const {
+    std::ifstream file(path_ / name, std::ios::binary);
+    if (!file) throw std::runtime_error("no file: " + name);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+}  // namespace vell::test
