@@ -55,6 +55,13 @@ class ErrorLog {
     virtual void LogError(const RunTimeError& error, std::string_view procedure) noexcept = 0;
 };
 
+// Where a procedure says what it does. The event log implements it.
+class TextLog {
+  public:
+    virtual ~TextLog() = default;
+    virtual void WriteLog(std::string_view text) noexcept = 0;
+};
+
 // The error being handled, as a RunTimeError. To be called inside a catch block only.
 [[nodiscard]] RunTimeError currentError();
 

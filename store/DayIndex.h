@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "platform/Files.h"
+
+namespace vell {
+
+// The index file of the day that is being downloaded, in which clippings are marked as they become complete. The file
+// is read once; it is read again only when somebody else has changed it, so that marking does not become slower
+// with the number of clippings.
+class DayIndex {
+  public:
+    explicit DayIndex(Files& files);
+
+    // Rewrites the index in `dayFolder`: lines without "||" are dropped, and in the lines of the clipping, named by its
+    // PDF file, every "||-||" becomes "||d||". The file ends with an empty line, which the index reader counts on.
+    // Returns how many lines are the clipping's. Raises RunTimeError when the file cannot be read or written.
+    int markDownloaded(const std::string& dayFolder, const std::string& pdfName);
+
+  private:
+    void load(const std::string& path);
+
+    Files& files_;
+    std::string path_;
+    std::optional<FileStamp> stamp_;
+    std::string text_;
+    std::unordered_map<std::string, std::vector<std::size_t>> linesOf_;  // where a clipping's lines begin in text_
+};
+
+}  // namespace vell

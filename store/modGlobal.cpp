@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "store/modGlobal.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <unordered_map>
+#include <utility>
+
+#include "base/Date.h"
+#include "base/text.h"
+#include "config/Settings.h"
+#include "config/modIni.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+
+namespace vell {
+
+namespace {
+
+// yyyymmdd of "dd/mm/yyyy".
+std::string sortKey(std::string_view dayName) {
+    return std::string(Mid(dayName, 7, 4)).append(Mid(dayName, 4, 2)).append(Mid(dayName, 1, 2));
+}
+
+}  // namespace
+
+modGlobal::modGlobal(Files& files, EventLoop& loop, MessageBoxes& boxes, modIni& ini, EventLog& log,
+                     const Settings& settings, DayState& day)
+    : files_(files), loop_(loop), boxes_(boxes), ini_(ini), log_(log), settings_(settings), day_(day) {}
+
+bool modGlobal::CreateDownloadDirPath() {
+    return trap(log_, "CreateDownloadDirPath()", false, [&] {
+        if (Trim(settings_.LocalDir).empty())
+            throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
+        const std::string path = settings_.LocalDir + "\\" + day_.gCurrentDate + "\\";
+        log_.WriteLog("Download directory is '" + path + "'");
+        if (!PathExists(path)) files_.MakeFolder(path);
+        day_.gDayFolder = path;
+        return true;
+    });
+}
+
+bool modGlobal::PathExists(std::string_view path) const {
+    return files_.PathExists(path);
+}
+
+std::vector<std::string> modGlobal::GetLocalDirectories(const std::string& folder, bool includeDotEntries) {
+    return trap(log_, "GetLocalDirectories()", std::vector<std::string>{}, [&] {
+        std::vector<std::string> names;
+        if (includeDotEntries) names = {".", ".."};
+        for (auto& entry : files_.Enumerate(folder, "*.*", Files::Kind::Folders))
+            names.push_back(std::move(entry.Name));
+        return names;
+    });
+}
+
+CFtpFiles modGlobal::GetLocalFiles(const std::string& dayFolder, std::span<const std::string> patterns) {
+    CFtpFiles files;
+    trapStep(log_, "GetLocalFiles()", [&] {
+        for (std::size_t i = 0; i + 1 < patterns.size(); ++i)
+            addMatches(files, dayFolder, patterns[i]);
+        loadIndex(dayFolder);
+        joinIndex(files);
+    });
+    return files;
+}
+
+void modGlobal::addMatches(CFtpFiles& files, const std::string& dayFolder, const std::string& pattern) const {
+    for (auto& entry : files_.Enumerate(dayFolder, pattern, Files::Kind::Files)) {
+        auto file = std::make_shared<CFtpFile>();
+        file->FileName = std::move(entry.Name);
+        file->FilePath = dayFolder;
+        file->FileSize =
+            static_cast<std::int32_t>(std::min<std::int64_t>(entry.Size, std::numeric_limits<std::int32_t>::max()));
+        files.add(std::move(file));
+    }
+}
+
+void modGlobal::loadIndex(const std::string& dayFolder) {
+    const std::string path = dayFolder + std::string(indexFileName);
+    indexTable_.clear();
+    if (files_.PathExists(path)) indexTable_ = readIndex(files_.ReadFile(path));
+}
+
+void modGlobal::joinIndex(CFtpFiles& files) const {
+    std::unordered_map<std::string, const IndexRecord*> firstOf;
+    firstOf.reserve(indexTable_.size());
+    for (const IndexRecord& record : indexTable_)
+        firstOf.emplace(Upper(record.FileName), &record);
+    for (const auto& file : files) {
+        const auto match = firstOf.find(Upper(file->FileName));
+        if (match == firstOf.end()) continue;
+        file->NewspaperName = match->second->NewspaperName;
+        file->Description = match->second->Description;
+        file->Category = match->second->Category;
+        file->ArticleType = match->second->ArticleType;
+    }
+}
+
+std::vector<std::string> modGlobal::DateSort(std::vector<std::string> dayNames) {
+    trapStep(log_, "DateSort()", [&] {
+        std::stable_sort(dayNames.begin(), dayNames.end(),
+                         [](const std::string& a, const std::string& b) { return sortKey(a) > sortKey(b); });
+    });
+    return dayNames;
+}
+
+std::string modGlobal::folderOfDay(std::string_view dayName) const {
+    const auto date = Date::fromDayName(dayName);
+    if (!date) throw RunTimeError(error_number::PathNotFound, "Path not found: no day '" + std::string(dayName) + "'");
+    if (Trim(settings_.LocalDir).empty())
+        throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
+    return settings_.LocalDir + "\\" + date->folderName() + "\\";
+}
+
+void modGlobal::DeleteContent(const std::string& dayName) {
+    bool again = true;
+    while (again) {
+        again = false;
+        try {
+            const std::string folder = folderOfDay(dayName);
+            for (const auto& entry : files_.Enumerate(folder, "*.*", Files::Kind::Files))
+                files_.DeleteFile(folder + entry.Name);
+            loop_.DoEvents();
+            files_.RemoveFolder(folder);
+            loop_.DoEvents();
+        } catch (...) {
+            const RunTimeError error = currentError();
+            again = boxes_.Show(
+                        "Cannot delete one or more files. There has been a sharing violation. Make sure no files are "
+                        "in use.",
+                        "Sharing Violation", Buttons::RetryCancel, BoxIcon::None) == Answer::Retry;
+            log_.LogError(error, "DeleteContent()");
+        }
+    }
+}
+
+void modGlobal::DeleteArticleFiles(const std::string& fileName) {
+    const std::string textName = Replace(fileName, ".PDF", ".TXT");
+    const std::array<std::string, 3> forms{fileName, textName, Replace(textName, ".TXT", ".MT")};
+    deleteFromSelectedDay(forms, "DeleteArticleFiles()");
+}
+
+void modGlobal::DeleteDayFile(const std::string& fileName) {
+    deleteFromSelectedDay(std::span(&fileName, 1), "DeleteDayFile()");
+}
+
+void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure) {
+    std::string path;
+    try {
+        const std::string folder = folderOfDay(day_.cmbDate);
+        for (const std::string& name : fileNames) {
+            path = folder + name;
+            if (files_.PathExists(path)) files_.DeleteFile(path);
+        }
+    } catch (...) {
+        log_.LogError(currentError(), procedure);
+        // Without a path nothing was chosen and nothing was there to delete.
+        if (!path.empty())
+            boxes_.Show("Cannot delete " + path + ". Make sure it's not in use.", programCaption, Buttons::Ok,
+                        BoxIcon::None);
+    }
+}
+
+namespace {
+// The place behind the last backslash of a trimmed path; 0 when there is none.
+std::size_t nameStart(std::string_view path) {
+    return InStrRev(path, "\\");
+}
+}  // namespace
+
+bool modGlobal::setMark(const Mark& mark, std::string_view path) {
+    return trap(log_, mark.Procedure, false, [&] {
+        path = Trim(path);
+        const std::size_t start = nameStart(path);
+        if (start == 0) return false;
+        const std::string file = std::string(Left(path, start)).append(mark.File);
+        return ini_.IniWriteString(file, mark.Section, Mid(path, start + 1), "1");
+    });
+}
+
+bool modGlobal::hasMark(const Mark& mark, std::string_view path) const {
+    return trap(log_, mark.Procedure, false, [&] {
+        path = Trim(path);
+        const std::size_t start = nameStart(path);
+        if (start == 0) return false;
+        const std::string file = std::string(Left(path, start)).append(mark.File);
+        std::string value;
+        return ini_.IniReadString(file, mark.Section, Mid(path, start + 1), value) && Trim(value) == "1";
+    });
+}
+
+bool modGlobal::MarkFileOpened(std::string_view path) {
+    return setMark({openedFileName, "VIEW", "MarkFileOpened()"}, path);
+}
+bool modGlobal::MarkFilePrinted(std::string_view path) {
+    return setMark({printedFileName, "PRINT", "MarkFilePrinted()"}, path);
+}
+bool modGlobal::IsFileOpened(std::string_view path) const {
+    return hasMark({openedFileName, "VIEW", "IsFileOpened()"}, path);
+}
+bool modGlobal::IsFilePrinted(std::string_view path) const {
+    return hasMark({printedFileName, "PRINT", "IsFilePrinted()"}, path);
+}
+
+}  // namespace vell

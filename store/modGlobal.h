@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ftp/CFtpFiles.h"
+#include "log/EventLog.h"
+#include "store/DayState.h"
+#include "store/IndexFile.h"
+
+namespace vell {
+
+class EventLoop;
+class Files;
+class MessageBoxes;
+class modIni;
+struct Settings;
+
+// The store of clippings: a folder per day under the download root, and in it the article files, the day's index and
+// the marks of what was opened and printed. Procedures keep their errors to themselves: they log them under their own
+// name and return the failure value.
+class modGlobal {
+  public:
+    modGlobal(Files& files, EventLoop& loop, MessageBoxes& boxes, modIni& ini, EventLog& log, const Settings& settings,
+              DayState& day);
+
+    // Makes the folder of the day of the run, one level below the download root, and remembers it in the day state.
+    bool CreateDownloadDirPath();
+    [[nodiscard]] bool PathExists(std::string_view path) const;
+
+    [[nodiscard]] std::vector<std::string> GetLocalDirectories(const std::string& folder, bool includeDotEntries);
+    // The files of a day folder (backslash at its end), joined to the day's index. The last of the patterns is not
+    // used: callers pass one more than they mean.
+    [[nodiscard]] CFtpFiles GetLocalFiles(const std::string& dayFolder, std::span<const std::string> patterns);
+    // The index as GetLocalFiles read it last.
+    [[nodiscard]] const std::vector<IndexRecord>& indexTable() const { return indexTable_; }
+
+    // Puts day names "dd/mm/yyyy" in order, the newest first.
+    [[nodiscard]] std::vector<std::string> DateSort(std::vector<std::string> dayNames);
+
+    // Deletes a whole day. When something cannot be deleted the user is asked whether to try again.
+    void DeleteContent(const std::string& dayName);
+    // Both act on the day that is chosen in the date list, which need not be the day of the run.
+    void DeleteArticleFiles(const std::string& fileName);
+    void DeleteDayFile(const std::string& fileName);
+
+    // The paths are full ones; without a backslash nothing is done and the result is false.
+    bool MarkFileOpened(std::string_view path);
+    bool MarkFilePrinted(std::string_view path);
+    [[nodiscard]] bool IsFileOpened(std::string_view path) const;
+    [[nodiscard]] bool IsFilePrinted(std::string_view path) const;
+
+    // The folder of a day "dd/mm/yyyy", backslash at its end. Raises RunTimeError when there is no download root or
+    // no such day, so that nothing is ever deleted outside a day folder.
+    [[nodiscard]] std::string folderOfDay(std::string_view dayName) const;
+
+  private:
+    struct Mark {
+        std::string_view File;
+        std::string_view Section;
+        std::string_view Procedure;
+    };
+    bool setMark(const Mark& mark, std::string_view path);
+    [[nodiscard]] bool hasMark(const Mark& mark, std::string_view path) const;
+
+    void addMatches(CFtpFiles& files, const std::string& dayFolder, const std::string& pattern) const;
+    void loadIndex(const std::string& dayFolder);
+    void joinIndex(CFtpFiles& files) const;
+    void deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure);
+
+    Files& files_;
+    EventLoop& loop_;
+    MessageBoxes& boxes_;
+    modIni& ini_;
+    EventLog& log_;
+    const Settings& settings_;
+    DayState& day_;
+    std::vector<IndexRecord> indexTable_;
+};
+
+}  // namespace vell
