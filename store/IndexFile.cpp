@@ -14,20 +14,20 @@ constexpr std::string_view separator = "||";
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t longestName = 200;
 
-std::string shown(std::string_view field) {
-    // "|." arises when the field before it ends with a "|".
-    return field == "." || field == "|." ? std::string{} : Replace(field, "|", ",");
+// What a field shows. "|." arises when the field before it ends with a "|".
+std::string_view shown(std::string_view field) {
+    return field == "." || field == "|." ? std::string_view{} : field;
 }
 
 IndexRecord recordOf(std::string_view line) {
     const auto fields = Split(line, separator);
-    const auto field = [&](std::size_t i) { return i < fields.size() ? shown(fields[i]) : std::string{}; };
-    const auto plain = [&](std::size_t i) {
-        return i < fields.size() && !shown(fields[i]).empty() ? std::string(fields[i]) : std::string{};
-    };
-    IndexRecord record{fields.empty() ? std::string{} : std::string(fields[0]), plain(1), plain(2), field(3), field(4)};
-    if (record.ArticleType.empty()) record.ArticleType = " ";
-    return record;
+    const auto field = [&](std::size_t i) { return i < fields.size() ? shown(fields[i]) : std::string_view{}; };
+    const bool hasType = fields.size() > 4 && shown(fields[4]) == fields[4];
+    return {.FileName = fields.empty() ? std::string{} : std::string(fields[0]),
+            .NewspaperName = std::string(field(1)),
+            .Description = std::string(field(2)),
+            .Category = Replace(field(3), "|", ","),
+            .ArticleType = hasType ? Replace(fields[4], "|", ",") : " "};
 }
 
 // Names that mean a device, whatever extension follows (Windows, "Naming Files, Paths, and Namespaces").

@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: MIT
+#include "service/DownloadList.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "base/text.h"
+#include "config/Settings.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+#include "service/ListMerge.h"
+#include "service/RunFeedback.h"
+#include "service/modHTTP.h"
+#include "store/DayState.h"
+#include "store/IndexFile.h"
+#include "store/modGlobal.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::string_view listScript = "/vell/vellClipsToDownload.asp";
+constexpr std::string_view alertScript = "/sources.asp";
+constexpr std::int32_t advertisementSize = 17855;
+constexpr int refusedLogin = 1001;
+constexpr int nothingForTheDay = 1002;
+constexpr std::size_t shownOfBadRecord = 80;
+
+// Fields with the sizes of a clipping's three forms.
+constexpr std::size_t pdfSizeField = 7;
+constexpr std::size_t textSizeField = 8;
+constexpr std::size_t companionSizeField = 9;
+
+std::int32_t sizeOf(std::string_view field) {
+    constexpr double most = std::numeric_limits<std::int32_t>::max();
+    return CInt32(std::clamp(Val(field), 0.0, most));
+}
+
+bool isEmpty(const std::string& record) {
+    return record.empty();
+}
+
+bool holdNothing(const std::vector<std::string>& records) {
+    return std::all_of(records.begin(), records.end(), isEmpty);
+}
+
+}  // namespace
+
+DownloadList::DownloadList(modHTTP& http, modGlobal& store, Files& files, MessageBoxes& boxes, RunFeedback& feedback,
+                           EventLog& log, const Settings& settings, const DayState& day, DownloadState& state,
+                           std::string version)
+    : http_(http),
+      store_(store),
+      files_(files),
+      boxes_(boxes),
+      feedback_(feedback),
+      log_(log),
+      settings_(settings),
+      day_(day),
+      state_(state),
+      version_(std::move(version)) {}
+
+bool DownloadList::GetDownloadFiles() {
+    return trap(log_, "GetDownloadFiles()", false, [&] { return getList(); });
+}
+
+bool DownloadList::getList() {
+    state_ = {};
+    std::vector<std::string> records;
+    Verdict verdict = Verdict::AskAgain;
+    while (verdict == Verdict::AskAgain) {
+        std::string body;
+        std::string headers;
+        const bool answered = http_.OpenUrl("POST", settings_.Host, listScript, listRequest(), body, headers);
+        if (settings_.Debug >= 1) boxes_.Show(body, programCaption, Buttons::Ok, BoxIcon::None);
+        if (!answered) return false;
+        feedback_.StatusBar("Getting list of files to download: Done");
+        records = answerRecords(body);
+        verdict = judge(records);
+    }
+    if (verdict == Verdict::Refused) return false;
+    storeIndex(records);
+    fillDownloadList(records);
+    return true;
+}
+
+std::string DownloadList::listRequest() const {
+    const std::string_view day = Mid(day_.gCurrentDate, 1, 2);
+    const std::string_view month = Mid(day_.gCurrentDate, 3, 2);
+    const std::string_view year = Mid(day_.gCurrentDate, 5, 4);
+    std::string form = "username=" + settings_.Uid + "&password=" + settings_.Pwd;
+    for (const char* end : {"1", "2"}) {
+        form.append("&dd").append(end).append("=").append(day);
+        form.append("&mm").append(end).append("=").append(month);
+        form.append("&yyyy").append(end).append("=").append(year);
+    }
+    return form + "&vellVersion=" + version_;
+}
+
+DownloadList::Verdict DownloadList::judge(std::vector<std::string>& records) {
+    if (!records.empty() && records.front().starts_with("ERROR")) {
+        const double code = Val(Mid(records.front(), 7));
+        if (code == refusedLogin) {
+            const Answer answer =
+                boxes_.Show("Please enter a correct username/password combination.",
+                            "Incorrect username/password combination", Buttons::OkCancel, BoxIcon::None);
+            if (answer != Answer::Ok) return Verdict::Refused;
+            feedback_.openSetup();
+            return Verdict::AskAgain;
+        }
+        if (code == nothingForTheDay) {
+            records.assign(1, "");
+            return Verdict::Usable;
+        }
+    }
+    if (holdNothing(records)) {
+        // The service says nothing where it would have said that the day is empty: no reason to remove an article.
+        records.clear();
+        return Verdict::Usable;
+    }
+    const std::string first = records.front();
+    dropBadRecords(records);
+    if (!holdNothing(records)) return Verdict::Usable;
+    log_.WriteLog("        The answer is no list of clippings: '" + first.substr(0, shownOfBadRecord) + "'");
+    return Verdict::Refused;
+}
+
+void DownloadList::dropBadRecords(std::vector<std::string>& records) {
+    std::erase_if(records, [&](const std::string& record) {
+        if (record.empty() || (record.find("||") != std::string::npos && isClippingName(indexKey(record))))
+            return false;
+        log_.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" +
+                      record.substr(0, shownOfBadRecord) + "'");
+        return true;
+    });
+}
+
+void DownloadList::storeIndex(std::vector<std::string>& records) {
+    const std::string path = day_.gDayFolder + std::string(indexFileName);
+    if (!records.empty() && files_.PathExists(path)) {
+        Merged merged = mergeWithIndex(std::move(records), files_.ReadFile(path));
+        for (const std::string& name : merged.GoneFiles)
+            if (isClippingName(name)) store_.DeleteArticleFiles(name);
+        records = std::move(merged.Records);
+    }
+    std::string text;
+    for (const std::string& record : records)
+        text.append(record).append("\r\n");
+    files_.WriteWhole(path, text, Durability::Rename);
+    state_.gClippingsCount = static_cast<std::int32_t>(
+        records.size() - static_cast<std::size_t>(std::count_if(records.begin(), records.end(), isEmpty)));
+}
+
+void DownloadList::fillDownloadList(const std::vector<std::string>& records) {
+    state_.gDownloadList.push_back({advertisementFile, "", advertisementSize});
+    for (const std::string& record : records) {
+        if (record.empty()) continue;
+        const std::string name(indexKey(record));
+        append(name, indexField(record, pdfSizeField));
+        append(Replace(name, ".PDF", ".TXT"), indexField(record, textSizeField));
+        append(Replace(name, ".PDF", ".MT"), indexField(record, companionSizeField));
+    }
+}
+
+void DownloadList::append(std::string fileName, std::string_view size) {
+    state_.gDownloadList.push_back({std::move(fileName), "", sizeOf(size)});
+    state_.gTotalBytes += state_.gDownloadList.back().Size;
+}
+
+bool DownloadList::GetAlert() {
+    return trap(log_, "GetAlert()", false, [&] {
+        std::string form("dd=");
+        form.append(Mid(day_.gCurrentDate, 1, 2)).append("&mm=").append(Mid(day_.gCurrentDate, 3, 2));
+        form.append("&yyyy=").append(Mid(day_.gCurrentDate, 5, 4));
+        std::string body;
+        std::string headers;
+        if (!http_.OpenUrl("POST", settings_.Host, alertScript, form, body, headers)) return false;
+        const std::string_view alert = Trim(body);
+        if (alert.empty()) return false;
+        files_.WriteWhole(day_.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",
+                          Durability::Rename);
+        return true;
+    });
+}
+
+}  // namespace vell

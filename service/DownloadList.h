@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "log/EventLog.h"
+#include "service/DownloadState.h"
+
+namespace vell {
+
+class Files;
+class MessageBoxes;
+class modGlobal;
+class modHTTP;
+class RunFeedback;
+struct DayState;
+struct Settings;
+
+// Asks the service what there is for the day of the run.
+class DownloadList {
+  public:
+    DownloadList(modHTTP& http, modGlobal& store, Files& files, MessageBoxes& boxes, RunFeedback& feedback,
+                 EventLog& log, const Settings& settings, const DayState& day, DownloadState& state,
+                 std::string version);
+
+    // Gets the day's list, stores it as the day's index, merged with the old one, and fills the download list. False,
+    // with index and articles as they were, when no usable list came.
+    bool GetDownloadFiles();
+    // Gets the day's alert text and stores it. False, with the old one as it was, when there is none.
+    bool GetAlert();
+
+  private:
+    enum class Verdict { Usable, AskAgain, Refused };
+
+    [[nodiscard]] bool getList();
+    [[nodiscard]] Verdict judge(std::vector<std::string>& records);
+    [[nodiscard]] std::string listRequest() const;
+    // Drops what is no record or would lead out of the day folder, and says so in the log.
+    void dropBadRecords(std::vector<std::string>& records);
+    void storeIndex(std::vector<std::string>& records);
+    void fillDownloadList(const std::vector<std::string>& records);
+    void append(std::string fileName, std::string_view size);
+
+    modHTTP& http_;
+    modGlobal& store_;
+    Files& files_;
+    MessageBoxes& boxes_;
+    RunFeedback& feedback_;
+    EventLog& log_;
+    const Settings& settings_;
+    const DayState& day_;
+    DownloadState& state_;
+    std::string version_;
+};
+
+}  // namespace vell

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace vell {
+
+struct DownloadEntry {
+    std::string FileName;
+    std::string Transfer;  // kept for the transfer; empty
+    std::int32_t Size = 0;
+};
+
+inline constexpr const char* advertisementFile = "ADVERTISMENT.JPG";
+
+// What is to be fetched for a day, in the service's order: the advertisement first, then three files per clipping.
+struct DownloadState {
+    std::vector<DownloadEntry> gDownloadList;
+    std::int64_t gTotalBytes = 0;       // of all files of the list; the advertisement does not count
+    std::int64_t gBytesDownloaded = 0;  // received in this run over HTTP
+    std::int32_t gClippingsCount = 0;   // clippings that the service listed for the day
+};
+
+}  // namespace vell

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "service/ListMerge.h"
+
+#include <array>
+#include <unordered_set>
+#include <utility>
+
+#include "base/text.h"
+#include "store/IndexFile.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::string_view lineEnd = "\r\n";
+constexpr std::size_t changeField = 5;
+constexpr std::size_t markField = 6;
+
+// Greek capitals with tonos or dialytika, by their bytes, and the bare letters.
+constexpr std::array<std::pair<unsigned char, unsigned char>, 9> accents{
+    {{162, 193}, {184, 197}, {185, 199}, {186, 201}, {188, 207}, {190, 213}, {191, 217}, {218, 201}, {219, 213}}};
+
+char withoutAccent(char c) {
+    for (const auto& [accented, plain] : accents)
+        if (static_cast<unsigned char>(c) == accented) return static_cast<char>(plain);
+    return c;
+}
+
+std::string lineBreaksMade(std::string_view answer) {
+    std::string text;
+    text.reserve(answer.size());
+    while (!answer.empty()) {
+        const auto at = answer.find('<');
+        text.append(answer.substr(0, at));
+        if (at == std::string_view::npos) break;
+        answer.remove_prefix(at);
+        const bool isBreak = equalNoCase(answer.substr(0, 4), "<BR>");
+        text.append(isBreak ? lineEnd : answer.substr(0, 1));
+        answer.remove_prefix(isBreak ? 4 : 1);
+    }
+    return text;
+}
+
+bool sameVersionFetched(std::string_view oldLine, std::string_view record) {
+    return indexField(oldLine, markField) == "d" && indexField(oldLine, changeField) == indexField(record, changeField);
+}
+
+void markFetched(std::string& record) {
+    constexpr std::string_view openMark = "||-||";
+    if (const auto at = record.find(openMark); at != std::string::npos) record.replace(at, openMark.size(), "||d||");
+}
+
+}  // namespace
+
+std::vector<std::string> answerRecords(std::string_view answer) {
+    std::string text = Upper(Trim(lineBreaksMade(answer)));
+    for (char& c : text)
+        c = withoutAccent(c);
+    const auto pieces = Split(text, lineEnd);
+    return {pieces.begin(), pieces.end()};
+}
+
+Merged mergeWithIndex(std::vector<std::string> records, std::string_view oldIndex) {
+    std::unordered_set<std::string> listed;
+    for (const std::string& record : records)
+        listed.emplace(indexKey(record));
+
+    std::vector<std::string_view> old;
+    for (const std::string_view line : Split(oldIndex, lineEnd))
+        if (!line.empty()) old.push_back(line);
+
+    Merged merged;
+    std::size_t position = 0;
+    const auto passOld = [&] {
+        std::string name(indexKey(old[position++]));
+        if (!listed.contains(name)) merged.GoneFiles.push_back(std::move(name));
+    };
+    for (std::string& record : records) {
+        if (record.empty()) continue;
+        const std::string_view name = indexKey(record);
+        while (position < old.size() && name > indexKey(old[position]))
+            passOld();
+        if (position < old.size() && name == indexKey(old[position])) {
+            if (sameVersionFetched(old[position], record)) markFetched(record);
+            ++position;
+        }
+    }
+    while (position < old.size())
+        passOld();
+    merged.Records = std::move(records);
+    return merged;
+}
+
+}  // namespace vell

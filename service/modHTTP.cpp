@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include "service/modHTTP.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "base/text.h"
+#include "config/Settings.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+#include "service/RunFeedback.h"
+
+namespace vell {
+
+namespace {
+
+constexpr int httpPort = 80;
+constexpr std::size_t readStep = 2048;
+constexpr std::size_t longestHeaders = 1024;
+constexpr std::size_t longestShortName = 8;
+constexpr std::string_view formHeader = "Content-Type: application/x-www-form-urlencoded\r\n";
+// A list is some hundred kilobytes on the busiest day; an answer without end must not eat the machine's memory.
+constexpr std::size_t longestAnswer = 256U << 20;
+// How far an announced length is believed before the bytes have come.
+constexpr std::int64_t mostReserved = 512LL << 20;
+
+}  // namespace
+
+std::string GetFileNamePart(std::string_view part, std::string_view fileName) {
+    const auto dot = static_cast<std::ptrdiff_t>(InStrRev(fileName, "."));
+    const auto piece = [&](std::ptrdiff_t start, std::ptrdiff_t length) {
+        const auto from = std::max<std::ptrdiff_t>(start, 1);
+        const auto to = std::max(start + length, from);
+        return std::string(Mid(fileName, static_cast<std::size_t>(from), static_cast<std::size_t>(to - from)));
+    };
+    if (part == "ext") return std::string(Right(fileName, fileName.size() - static_cast<std::size_t>(dot) + 1));
+    if (part == "y") return piece(dot - 8, 4);
+    if (part == "m") return piece(dot - 4, 2);
+    if (part == "d") return piece(dot - 2, 2);
+    return {};
+}
+
+std::string BuildClippingUrl(std::string_view host, std::string_view remoteName) {
+    const std::string server = "http://" + std::string(host);
+    const std::string name(Mid(remoteName, InStrRev(remoteName, "/") + 1));
+    if (name.size() <= longestShortName) return server + "/clippings/" + std::string(remoteName);
+    return server + "/archive/" + GetFileNamePart("y", name) + "/" + GetFileNamePart("m", name) + "/" +
+           GetFileNamePart("d", name) + "/" + name;
+}
+
+modHTTP::modHTTP(InternetApi& internet, Files& files, MessageBoxes& boxes, RunFeedback& feedback, EventLog& log,
+                 const Settings& settings)
+    : internet_(internet), files_(files), boxes_(boxes), feedback_(feedback), log_(log), settings_(settings) {}
+
+struct modHTTP::Exchange {
+    std::string_view Method;
+    std::string_view Host;
+    std::string_view Script;
+    std::string_view PostData;
+};
+
+bool modHTTP::OpenUrl(std::string_view method, std::string_view host, std::string_view script,
+                      std::string_view postData, std::string& body, std::string& headers) {
+    return trap(log_, "OpenUrl()", false, [&] {
+        body.clear();
+        headers.clear();
+        const bool result = exchange({method, host, script, postData}, body, headers);
+        log_.WriteLog(std::string(" OpenUrl Return Status: ").append(BooleanText(result)));
+        return result;
+    });
+}
+
+bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& headers) {
+    InternetApi::Handle session;
+    InternetApi::Handle connection;
+    const InternetApi::Handle http = openRequest(request, session, connection);
+    if (!http) return false;
+
+    log_.WriteLog("HttpAddRequestHeaders function");
+    log_.WriteLog(std::string("        Headers:").append(formHeader));
+    internet_.HttpAddRequestHeaders(*http, formHeader);
+
+    log_.WriteLog("HttpSendRequest function");
+    log_.WriteLog(std::string("        PostData:").append(request.PostData));
+    const bool sent = internet_.HttpSendRequest(*http, request.PostData);
+    if (!sent) logFailure("The service could not be reached");
+
+    std::array<char, readStep> buffer{};
+    std::size_t read = 0;
+    bool whole = false;
+    while ((whole = internet_.InternetReadFile(*http, buffer.data(), buffer.size(), read)) && read > 0) {
+        if (body.size() + read > longestAnswer) throw RunTimeError(error_number::OutOfMemory, "The answer has no end");
+        body.append(buffer.data(), read);
+    }
+    log_.WriteLog("InternetReadFile function loop");
+    log_.WriteLog("        Body:" + body);
+
+    headers = internet_.RawHeaders(*http, longestHeaders);
+    log_.WriteLog("        Headers:" + headers);
+    if (InStr(headers, " ") == 0) {
+        body.clear();
+        headers.clear();
+        return false;
+    }
+    bool result = judge(headers);
+    if (result && !whole) {
+        logFailure("The answer was cut short");
+        result = false;
+    }
+    log_.WriteLog(std::string(" OpenUrl Return Status: ").append(BooleanText(result)));
+    return result;
+}
+
+InternetApi::Handle modHTTP::openRequest(const Exchange& request, InternetApi::Handle& session,
+                                         InternetApi::Handle& connection) {
+    log_.WriteLog("Start OpenUrl");
+    log_.WriteLog(std::string("      Method:")
+                      .append(request.Method)
+                      .append(", Host:")
+                      .append(request.Host)
+                      .append(", Scipt:")
+                      .append(request.Script)
+                      .append(", PostData:")
+                      .append(request.PostData));
+    log_.WriteLog("InternetOpen function");
+    session = internet_.InternetOpen(settings_.AgentName);
+    if (!logHandle(session)) return nullptr;
+    log_.WriteLog("InternetConnect function");
+    connection =
+        internet_.InternetConnect(*session, request.Host, httpPort, settings_.proxyUsername, settings_.proxyPwd);
+    if (!logHandle(connection)) return nullptr;
+    log_.WriteLog("HttpOpenRequest");
+    auto http = internet_.HttpOpenRequest(*connection, request.Method, request.Script, "HTTP/1.0");
+    return logHandle(http) ? std::move(http) : nullptr;
+}
+
+bool modHTTP::logHandle(const InternetApi::Handle& handle) {
+    if (handle) log_.WriteLog("       SUCCESS");
+    return handle != nullptr;
+}
+
+bool modHTTP::judge(std::string_view headers) {
+    const std::string_view status = Mid(headers, InStr(headers, " ") + 1, 3);
+    if (status == "200") return true;
+    if (status == "500")
+        feedback_.displayInfoMessageBox("Quillon Service not available. Please try again later.");
+    else
+        feedback_.displayInfoMessageBox("Quillon Service not accessible.\r\n\r\n" + std::string(headers));
+    return false;
+}
+
+void modHTTP::logFailure(std::string_view what) {
+    log_.WriteLog("        " + std::string(what) + ". Error " + std::to_string(internet_.LastError()));
+}
+
+bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string& localPath,
+                               std::int32_t& bytesReceived) {
+    bytesReceived = 0;
+    return trap(log_, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, bytesReceived); });
+}
+
+bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived) {
+    const auto session = internet_.InternetOpen(settings_.AgentName);
+    const auto file =
+        session ? internet_.InternetOpenUrl(*session, BuildClippingUrl(settings_.Host, remoteName)) : nullptr;
+    if (!file) {
+        logFailure("The file is not available");
+        feedback_.StatusBar(feedback_.statusText() + " File Not Available");
+        return false;
+    }
+    const std::string status = internet_.StatusCode(*file);
+    if (!status.starts_with("200")) {
+        log_.WriteLog("        The service answered with status " + status);
+        return false;
+    }
+    std::string content;
+    if (!readContent(*file, content, bytesReceived)) {
+        logFailure("The file was cut short");
+        return false;
+    }
+    if (!makeSureOfSpace(localPath, bytesReceived)) return false;
+    files_.WriteWhole(localPath, content, Durability::Rename);
+    return true;
+}
+
+bool modHTTP::readContent(InternetApi::Object& file, std::string& content, std::int32_t& bytesReceived) {
+    content.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(internet_.ContentLength(file), 0, mostReserved)));
+    std::array<char, readStep> buffer;  // NOLINT(*-member-init): filled by each read
+    bool whole = true;
+    std::size_t read = 0;
+    do {
+        read = 0;
+        whole = internet_.InternetReadFile(file, buffer.data(), buffer.size(), read);
+        if (read > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max() - bytesReceived))
+            throw RunTimeError(error_number::Overflow, "Overflow");
+        content.append(buffer.data(), read);
+        bytesReceived += static_cast<std::int32_t>(read);
+        feedback_.HTTPDownloadProgress(bytesReceived);
+    } while (whole && read > 0);
+    return whole;
+}
+
+bool modHTTP::makeSureOfSpace(const std::string& localPath, std::int32_t bytes) {
+    if (localPath.starts_with("\\\\") || localPath.starts_with("//")) return true;
+    const std::string question = "Not enough free space available to save " + localPath + ". Please free up at least " +
+                                 std::to_string(bytes / 1024) + " kb from your disk and click Retry";
+    while (!HasFreeSpace(localPath, bytes)) {
+        log_.WriteLog("        " + question);
+        if (boxes_.Show(question, "Not enough free space", Buttons::RetryCancel, BoxIcon::None) != Answer::Retry)
+            return false;
+    }
+    return true;
+}
+
+bool modHTTP::HasFreeSpace(std::string_view localPath, std::int32_t bytes) const {
+    const auto free = files_.FreeBytes(localPath);
+    return free && *free > static_cast<std::uint64_t>(bytes);
+}
+
+}  // namespace vell

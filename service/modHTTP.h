@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "log/EventLog.h"
+#include "platform/InternetApi.h"
+
+namespace vell {
+
+class Files;
+class MessageBoxes;
+class RunFeedback;
+struct Settings;
+
+// Where a file of the service lies: "http://host/archive/yyyy/mm/dd/name" for a name that carries its day, as the
+// eight characters before its last ".", and "http://host/clippings/name" for a name of up to eight characters.
+[[nodiscard]] std::string BuildClippingUrl(std::string_view host, std::string_view remoteName);
+// A part of a file name of the service: "ext" (with its dot), "y", "m" or "d". What lies outside the name is left out.
+[[nodiscard]] std::string GetFileNamePart(std::string_view part, std::string_view fileName);
+
+// Every exchange with the service over HTTP.
+class modHTTP {
+  public:
+    modHTTP(InternetApi& internet, Files& files, MessageBoxes& boxes, RunFeedback& feedback, EventLog& log,
+            const Settings& settings);
+
+    // Sends a form to a script of the service; true only for status 200 and a whole answer. `body` and `headers` (at
+    // most 1024 characters) are filled for every answer that has a status. The log gets all of it, the password in
+    // the post data included. A failing service is told to the user.
+    bool OpenUrl(std::string_view method, std::string_view host, std::string_view script, std::string_view postData,
+                 std::string& body, std::string& headers);
+
+    // Fetches a file of the service into memory, and from there to `localPath`, where it appears whole or not at all.
+    bool HttpDownloadFile(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived);
+
+  private:
+    struct Exchange;
+
+    [[nodiscard]] bool exchange(const Exchange& request, std::string& body, std::string& headers);
+    [[nodiscard]] InternetApi::Handle openRequest(const Exchange& request, InternetApi::Handle& session,
+                                                  InternetApi::Handle& connection);
+    [[nodiscard]] bool logHandle(const InternetApi::Handle& handle);
+    [[nodiscard]] bool judge(std::string_view headers);
+    void logFailure(std::string_view what);
+
+    [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived);
+    [[nodiscard]] bool readContent(InternetApi::Object& file, std::string& content, std::int32_t& bytesReceived);
+    [[nodiscard]] bool makeSureOfSpace(const std::string& localPath, std::int32_t bytes);
+    [[nodiscard]] bool HasFreeSpace(std::string_view localPath, std::int32_t bytes) const;
+
+    InternetApi& internet_;
+    Files& files_;
+    MessageBoxes& boxes_;
+    RunFeedback& feedback_;
+    EventLog& log_;
+    const Settings& settings_;
+};
+
+}  // namespace vell
