@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+#include "base/Date.h"
+#include "ui/BrowserView.h"
+
+namespace vell {
+
+// What the main window, or what stands for it, can show beside the browser.
+class MainView : public BrowserView {
+  public:
+    // One line; replaces the last one at once.
+    virtual void showStatus(std::string_view text) = 0;
+    // Percent, 0 to 100, of the current file and of the run.
+    virtual void showProgress(int currentFile, int wholeRun) = 0;
+    // Running: Stop can be pressed and the state colour is red; else Start, and green.
+    virtual void showForcedRun(bool running) = 0;
+    virtual void showDateRange(const Date& from, const Date& to) = 0;
+    // A message that waits for the user.
+    virtual void displayInfoMessageBox(std::string_view text) = 0;
+    // Opens the setup dialog and returns when it is closed.
+    virtual void openSetup() = 0;
+    // A front-end that shows no other day than the one it downloads.
+    [[nodiscard]] virtual bool followsRun() const = 0;
+};
+
+}  // namespace vell

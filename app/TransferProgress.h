@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "log/EventLog.h"
+#include "service/RunFeedback.h"
+#include "ui/Pacer.h"
+
+namespace vell {
+
+class EventLoop;
+class MainView;
+struct Session;
+
+// Turns what the transfers report into the status line, the bars and the log. The counters follow every report; the
+// showing is thinned to what an eye can follow, since painting every 2 KB makes a run many times slower. With the log
+// on every report is shown, as it is logged.
+class TransferProgress : public RunFeedback {
+  public:
+    TransferProgress(Session& session, MainView& view, EventLoop& loop, const Clock& clock, EventLog& log,
+                     std::chrono::milliseconds paintInterval);
+
+    void StatusBar(std::string_view text) override;
+    [[nodiscard]] std::string statusText() const override { return statusText_; }
+    void displayInfoMessageBox(std::string_view text) override;
+    void HTTPDownloadProgress(std::int32_t bytes) override;
+    void openSetup() override;
+
+    // The file of the list that is being fetched, as the status texts name it: "(clipping/clippings)".
+    [[nodiscard]] std::string clippingCounter() const;
+
+  private:
+    void count(std::int32_t bytes);
+    void show(std::int32_t bytes);
+    [[nodiscard]] std::string statusOf(std::int32_t bytes) const;
+
+    Session& session_;
+    MainView& view_;
+    EventLoop& loop_;
+    EventLog& log_;
+    Pacer pacer_;
+    std::string statusText_;
+};
+
+}  // namespace vell

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: MIT
+#include "app/frmMain.h"
+
+#include <chrono>
+#include <utility>
+
+#include "app/MainView.h"
+#include "base/text.h"
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+#include "platform/InternetApi.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Process.h"
+
+namespace vell {
+
+namespace {
+// Twenty pictures a second are as many as an eye needs; more would cost the run its speed.
+constexpr std::chrono::milliseconds paintInterval{50};
+// The same for every front-end: they tell one story.
+constexpr std::string_view logFileName = "vell.log";
+}  // namespace
+
+frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
+    : platform_(platform),
+      view_(view),
+      log_(platform.Time, platform.Disk),
+      ini_(platform.Ini, log_),
+      loader_(session_.Setup, ini_, log_, log_),
+      store_(platform.Disk, platform.Loop, platform.Boxes, ini_, log_, session_.Setup, session_.Day),
+      articles_(platform.Opener, platform.Boxes, platform.Loop, log_),
+      progress_(session_, view, platform.Loop, platform.Time, log_, paintInterval),
+      http_(platform.Internet, platform.Disk, platform.Boxes, progress_, log_, session_.Setup),
+      ftp_(progress_, log_),
+      list_(http_, store_, platform.Disk, platform.Boxes, progress_, log_, session_.Setup, session_.Day,
+            session_.Downloads, version),
+      browser_(store_, platform.Disk, view, platform.Time, log_, session_.Setup, session_.Day),
+      run_({session_, view, platform.Loop, platform.Time, platform.Disk, log_, store_, articles_, http_, ftp_, list_,
+            browser_, progress_}),
+      scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, browser_) {
+    session_.gVersion = std::move(version);
+}
+
+std::string frmMain::programFolder(const Process& process) {
+    std::string folder(Trim(process.ProgramFolder()));
+    if (!folder.ends_with('\\')) folder += '\\';
+    return folder;
+}
+
+bool frmMain::Form_Load(Start start) {
+    const Date today = platform_.Time.Now().Day;
+    session_.Day.gCurrentDate = today.folderName();
+    session_.dtFromDate = today;
+    session_.dtToDate = today;
+    session_.DownloadToday = true;
+    view_.showDateRange(today, today);
+    if (start == Start::Alone && platform_.Program.IsPreviousInstance()) {
+        mIsSecondInstance_ = true;
+        platform_.Boxes.Show("Program is already running", programCaption, Buttons::Ok, BoxIcon::None);
+        return false;
+    }
+    session_.gAppPath = programFolder(platform_.Program);
+    ini_.setAppDir(session_.gAppPath);
+    if (!platform_.Disk.PathExists(ini_.settingsFile()))
+        platform_.Boxes.Show(
+            "Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE parameters must be set "
+            "again.",
+            programCaption, Buttons::Ok, BoxIcon::None);
+    session_.Setup.UseHTTP = true;
+    loader_.setAppVersion(session_.gVersion);
+    loader_.GetSetup();
+    if (session_.Setup.Debug > 0)
+        log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
+    browser_.PopulateDateCombo();
+    return true;
+}
+
+void frmMain::Form_Unload() {
+    if (mIsSecondInstance_) return;
+    log_.Stop();
+}
+
+void frmMain::chooseToday() {
+    session_.DownloadToday = true;
+}
+
+void frmMain::chooseRange(const Date& from, const Date& to) {
+    session_.DownloadToday = false;
+    session_.dtFromDate = from;
+    session_.dtToDate = to;
+    view_.showDateRange(from, to);
+}
+
+void frmMain::mnuForceDownload_Click() {
+    scheduled_.mnuForceDownload_Click();
+}
+
+void frmMain::cmdStopDownload_Click() {
+    session_.gStopRequested = true;
+    // A file that comes in is let come; one whose server has fallen silent would hold up the end of the run.
+    platform_.Internet.CancelRequests(InternetApi::Cancel::Stalled);
+    platform_.Loop.DoEvents();
+    (void)ftp_.StopFTP(true);
+    progress_.StatusBar("Download STOPED by user.");
+}
+
+frmSetup frmMain::setupDialog() {
+    return {session_.Setup, loader_, ini_, log_};
+}
+
+}  // namespace vell

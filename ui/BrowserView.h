@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "ftp/CFtpFiles.h"
+
+namespace vell {
+
+// One row of the list of clippings.
+struct ClippingRow {
+    CFtpFiles::Pointer File;
+    bool Opened = false;
+    bool Printed = false;
+
+    // The clipping's full path.
+    [[nodiscard]] std::string path() const { return File->FilePath + File->FileName; }
+};
+
+// What the date list, the list of clippings and what belongs to them can show. Texts are in code page 1253 and are
+// shown as they are, never as markup.
+class BrowserView {
+  public:
+    virtual ~BrowserView() = default;
+
+    // The days "dd/mm/yyyy", newest first; `chosen` is one of them or empty.
+    virtual void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) = 0;
+    // All rows anew. The rows live until the next call.
+    virtual void showClippings(const std::vector<ClippingRow>& rows) = 0;
+    // The marks of one row, counted from 0, have changed.
+    virtual void showMarks(std::size_t row) = 0;
+    virtual void showCount(std::string_view text) = 0;
+    // The day's alert; empty for none.
+    virtual void showAlert(std::string_view text) = 0;
+    // The advertisement picture's path; there may be no file under it.
+    virtual void showAdvertisement(const std::string& path) = 0;
+    virtual void showBusy(bool busy) = 0;
+};
+
+}  // namespace vell

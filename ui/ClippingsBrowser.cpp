@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ClippingsBrowser.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+#include "base/Date.h"
+#include "base/text.h"
+#include "config/Settings.h"
+#include "platform/Files.h"
+#include "store/modGlobal.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::chrono::milliseconds refreshInterval{250};
+
+// Shows the busy cursor for as long as it lives.
+class BusyMoment {
+  public:
+    explicit BusyMoment(BrowserView& view) : view_(view) { view_.showBusy(true); }
+    ~BusyMoment() { view_.showBusy(false); }
+    BusyMoment(const BusyMoment&) = delete;
+    BusyMoment& operator=(const BusyMoment&) = delete;
+
+  private:
+    BrowserView& view_;
+};
+
+}  // namespace
+
+ClippingsBrowser::ClippingsBrowser(modGlobal& store, Files& files, BrowserView& view, const Clock& clock, EventLog& log,
+                                   const Settings& settings, DayState& day)
+    : store_(store),
+      files_(files),
+      view_(view),
+      log_(log),
+      settings_(settings),
+      day_(day),
+      pacer_(clock, refreshInterval) {}
+
+void ClippingsBrowser::PopulateDateCombo() {
+    trapStep(log_, "PopulateDateCombo()", [&] {
+        std::vector<std::string> names;
+        for (const std::string& folder : store_.GetLocalDirectories(settings_.LocalDir, false))
+            if (const auto date = Date::fromFolderName(folder)) names.push_back(date->dayName());
+        days_ = store_.DateSort(std::move(names));
+        if (std::find(days_.begin(), days_.end(), day_.cmbDate) == days_.end()) day_.cmbDate.clear();
+        view_.showDays(days_, day_.cmbDate);
+    });
+}
+
+void ClippingsBrowser::PopulateLocalFilesGrid() {
+    trapStep(log_, "PopulateLocalFilesGrid()", [&] {
+        const BusyMoment busy(view_);
+        std::vector<ClippingRow> rows;
+        if (!day_.cmbDate.empty()) {
+            const std::array<std::string, 2> patterns{"*.PDF", ""};
+            for (const auto& file : store_.GetLocalFiles(store_.folderOfDay(day_.cmbDate), patterns)) {
+                ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
+            }
+        }
+        rows_ = std::move(rows);
+        view_.showClippings(rows_);
+        refreshClippingsCount();
+    });
+}
+
+void ClippingsBrowser::refresh() {
+    pacer_.run([&] {
+        PopulateDateCombo();
+        PopulateLocalFilesGrid();
+    });
+}
+
+void ClippingsBrowser::refreshDuringRun() {
+    if (pacer_.isDue()) refresh();
+}
+
+bool ClippingsBrowser::chooseDay(const std::string& dayName) {
+    if (std::find(days_.begin(), days_.end(), dayName) == days_.end()) return false;
+    day_.cmbDate = dayName;
+    view_.showDays(days_, day_.cmbDate);
+    PopulateLocalFilesGrid();
+    loadAlert();
+    return true;
+}
+
+const std::string& ClippingsBrowser::chosenDay() const {
+    return day_.cmbDate;
+}
+
+void ClippingsBrowser::loadAlert() {
+    trapStep(log_, "loadAlert()", [&] {
+        std::string alert;
+        if (!day_.cmbDate.empty()) {
+            const std::string path = store_.folderOfDay(day_.cmbDate) + std::string(alertFileName);
+            if (files_.PathExists(path)) alert = files_.ReadFile(path);
+        }
+        view_.showAlert(alert);
+    });
+}
+
+void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) const {
+    const std::string path = row.path();
+    row.Opened = store_.IsFileOpened(path);
+    row.Printed = store_.IsFilePrinted(path);
+}
+
+void ClippingsBrowser::refreshClippingsCount() {
+    view_.showCount(std::to_string(rows_.size()) + " Clippings");
+}
+
+}  // namespace vell

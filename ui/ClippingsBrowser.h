@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "log/EventLog.h"
+#include "ui/BrowserView.h"
+#include "ui/Pacer.h"
+
+namespace vell {
+
+class Files;
+class modGlobal;
+struct DayState;
+struct Settings;
+
+// Fills the date list and the list of clippings, and keeps the marks that the rows show.
+class ClippingsBrowser {
+  public:
+    ClippingsBrowser(modGlobal& store, Files& files, BrowserView& view, const Clock& clock, EventLog& log,
+                     const Settings& settings, DayState& day);
+
+    // Refills the date list from the day folders, newest first; the chosen day stays chosen when it is still there.
+    void PopulateDateCombo();
+    // Refills the list with the clippings of the chosen day.
+    void PopulateLocalFilesGrid();
+    // Both, at most as often as a run can afford: a day with many clippings must not slow down the run.
+    void refreshDuringRun();
+    void refresh();
+
+    // Chooses a day "dd/mm/yyyy" of the date list and loads its clippings and alert. False when it is not in the list.
+    bool chooseDay(const std::string& dayName);
+    // The day that is chosen; empty when none is.
+    [[nodiscard]] const std::string& chosenDay() const;
+    [[nodiscard]] const std::vector<std::string>& days() const { return days_; }
+    [[nodiscard]] const std::vector<ClippingRow>& rows() const { return rows_; }
+
+    void loadAlert();
+
+  private:
+    void ShowOpenPrintedPicture(ClippingRow& row) const;
+    void refreshClippingsCount();
+
+    modGlobal& store_;
+    Files& files_;
+    BrowserView& view_;
+    EventLog& log_;
+    const Settings& settings_;
+    DayState& day_;
+    Pacer pacer_;
+    std::vector<std::string> days_;
+    std::vector<ClippingRow> rows_;
+};
+
+}  // namespace vell
