@@ -70,8 +70,7 @@ bool frmMain::Form_Load(Start start) {
     session_.Setup.UseHTTP = true;
     loader_.setAppVersion(session_.gVersion);
     loader_.GetSetup();
-    if (session_.Setup.Debug > 0)
-        log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
+    if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
     browser_.PopulateDateCombo();
     return true;
 }
@@ -103,6 +102,10 @@ void frmMain::cmdStopDownload_Click() {
     platform_.Loop.DoEvents();
     (void)ftp_.StopFTP(true);
     progress_.StatusBar("Download STOPED by user.");
+}
+
+void frmMain::abandonTransfers() {
+    platform_.Internet.CancelRequests(InternetApi::Cancel::All);
 }
 
 frmSetup frmMain::setupDialog() {

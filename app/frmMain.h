@@ -42,6 +42,8 @@ class frmMain {
     void chooseRange(const Date& from, const Date& to);
     void mnuForceDownload_Click();
     void cmdStopDownload_Click();
+    // Ends transfers that Stop has let go on.
+    void abandonTransfers();
     [[nodiscard]] const RunOutcome& outcome() const { return session_.Outcome; }
 
     [[nodiscard]] frmSetup setupDialog();

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: MIT
+#include "console/CommandLine.h"
+
+#include <algorithm>
+#include <sstream>
+
+#include <CLI/CLI.hpp>
+
+#include "platform/Terminal.h"
+
+namespace vell {
+
+namespace {
+
+Date dayOf(const std::string& option, const std::string& text) {
+    const auto date = Date::fromDayName(text);
+    if (!date)
+        throw CLI::ValidationError(option, "'" + text +
+                                               "' is no day of the calendar. Write a day as dd/mm/yyyy, for example "
+                                               "07/03/2026.");
+    return *date;
+}
+
+void addDay(CLI::App& command, const std::string& option, std::optional<Date>& day, const std::string& meaning) {
+    command
+        .add_option_function<std::string>(
+            option, [&day, option](const std::string& text) { day = dayOf(option, text); }, meaning)
+        ->type_name("dd/mm/yyyy");
+}
+
+void checkRange(const CommandLine& line) {
+    if (line.Day && (line.From || line.To))
+        throw CLI::ValidationError("--date", "goes without --from and --to. Give one day or a range.");
+    if (line.From.has_value() != line.To.has_value())
+        throw CLI::ValidationError(line.From ? "--from" : "--to",
+                                   "needs the other end of the range: give --from and --to.");
+    if (line.From && *line.From > *line.To)
+        throw CLI::ValidationError("--from", "is later than --to. Give the earlier day first.");
+}
+
+void addDownload(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("download", "Fetch the clippings of a day, or of every day of a range");
+    addDay(*command, "--date", line.Day, "The day to fetch; today without one");
+    addDay(*command, "--from", line.From, "The first day of a range");
+    addDay(*command, "--to", line.To, "The last day of a range");
+    command->callback([&line] {
+        line.What = CommandLine::Command::Download;
+        checkRange(line);
+    });
+}
+
+void addList(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("list", "Show the clippings of a day");
+    addDay(*command, "--date", line.Day, "The day to show; the newest one without it");
+    command->add_flag("--tsv", line.Tsv, "For programs: fields separated by tabs, no header");
+    command->callback([&line] { line.What = CommandLine::Command::List; });
+}
+
+void addSetup(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("setup", "Show or change the settings");
+    command->add_option("KEY", line.Key, "The setting; all of them without one");
+    command->add_option("VALUE", line.Value,
+                        "Its new value; '-' reads it from the standard input, which keeps a password out of the "
+                        "list of processes");
+    command->callback([&line] { line.What = CommandLine::Command::Setup; });
+}
+
+void describe(CLI::App& app, CommandLine& line) {
+    app.name("vell-console");
+    app.description("Fetches the press clippings of a day and lists them.");
+    app.set_version_flag("--version", "vell-console " VELL_VERSION);
+    app.set_help_flag("-h,--help", "Show this help");
+    app.fallthrough();
+    app.require_subcommand(1);
+    app.add_option("--folder", line.Folder, "The program folder: where vell.ini and vell.log lie")->type_name("DIR");
+    app.add_flag("--yes", line.Yes, "Answer every question with yes");
+    addDownload(app, line);
+    addList(app, line);
+    app.add_subcommand("days", "Show the days that have been fetched, newest first")->callback([&line] {
+        line.What = CommandLine::Command::Days;
+    });
+    addSetup(app, line);
+    app.footer(
+        "Exit codes: 0 ended well, 1 a file or the list could not be fetched, 2 wrong usage,\n"
+        "3 no internet connection, 5 already running, 130 stopped with Ctrl-C.");
+}
+
+}  // namespace
+
+std::optional<CommandLine> parseCommandLine(std::vector<std::string> arguments, Terminal& terminal, int& exitCode) {
+    CommandLine line;
+    CLI::App app;
+    describe(app, line);
+    std::reverse(arguments.begin(), arguments.end());  // the library takes them from the back
+    try {
+        app.parse(std::move(arguments));
+        return line;
+    } catch (const CLI::ParseError& error) {
+        std::ostringstream output;
+        std::ostringstream problem;
+        exitCode = app.exit(error, output, problem) == 0 ? exit_code::Good : exit_code::Usage;
+        terminal.Write(Terminal::Stream::Output, output.str());
+        terminal.Write(Terminal::Stream::Error, problem.str());
+        return std::nullopt;
+    }
+}
+
+}  // namespace vell

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "base/Date.h"
+
+namespace vell {
+
+class Terminal;
+
+// Exit codes, for scripts.
+namespace exit_code {
+inline constexpr int Good = 0;
+inline constexpr int Failed = 1;        // a file failed, or the list could not be got
+inline constexpr int Usage = 2;         // unknown option, impossible date, wrong value
+inline constexpr int NoConnection = 3;  // no internet connection
+inline constexpr int AlreadyRunning = 5;
+inline constexpr int Interrupted = 130;  // stopped by SIGINT
+}  // namespace exit_code
+
+// What the user asked for. Texts in UTF-8.
+struct CommandLine {
+    enum class Command { Download, List, Days, Setup };
+
+    Command What = Command::Download;
+    std::string Folder;  // of the program; empty for the usual one
+    bool Yes = false;
+    std::optional<Date> Day;
+    std::optional<Date> From;
+    std::optional<Date> To;
+    bool Tsv = false;
+    std::optional<std::string> Key;
+    std::optional<std::string> Value;
+};
+
+// Nothing when there is nothing to do but to end with `exitCode`: after help or version, or after an error, which is
+// told on the terminal.
+[[nodiscard]] std::optional<CommandLine> parseCommandLine(std::vector<std::string> arguments, Terminal& terminal,
+                                                          int& exitCode);
+
+}  // namespace vell

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+#include "console/Commands.h"
+
+#include "app/frmMain.h"
+#include "base/text.h"
+#include "console/ClippingsTable.h"
+#include "console/ConsoleBoxes.h"
+#include "console/ConsoleView.h"
+#include "console/Screen.h"
+#include "console/SetupCommand.h"
+#include "platform/Terminal.h"
+
+namespace vell {
+
+Commands::Commands(frmMain& program, ConsoleView& view, Terminal& terminal, Screen& screen, ConsoleBoxes& boxes)
+    : program_(program), view_(view), terminal_(terminal), screen_(screen), boxes_(boxes) {
+    view_.onOpenSetup([this] { SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).askForLogin(); });
+}
+
+int Commands::run(const CommandLine& line) {
+    using Command = CommandLine::Command;
+    const bool alone = line.What == Command::Download;
+    if (!program_.Form_Load(alone ? frmMain::Start::Alone : frmMain::Start::Beside)) return exit_code::AlreadyRunning;
+    int code = exit_code::Good;
+    switch (line.What) {
+        case Command::Download:
+            code = download(line);
+            break;
+        case Command::List:
+            code = list(line);
+            break;
+        case Command::Days:
+            code = days();
+            break;
+        case Command::Setup:
+            code = SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).run(line);
+            break;
+    }
+    program_.Form_Unload();
+    return code;
+}
+
+int Commands::download(const CommandLine& line) {
+    if (line.Day) program_.chooseRange(*line.Day, *line.Day);
+    if (line.From && line.To) program_.chooseRange(*line.From, *line.To);
+    program_.mnuForceDownload_Click();
+    screen_.leaveStatus();
+    if (interrupts_ > 0) return exit_code::Interrupted;
+    return program_.outcome().isGood() ? exit_code::Good : exit_code::Failed;
+}
+
+int Commands::list(const CommandLine& line) {
+    ClippingsBrowser& browser = program_.browser();
+    if (browser.days().empty() && !line.Day) {
+        screen_.tell("No day has been fetched yet. 'vell-console download' fetches today's clippings.");
+        return exit_code::Good;
+    }
+    const std::string day = line.Day ? line.Day->dayName() : browser.days().front();
+    if (!browser.chooseDay(day)) {
+        screen_.tell("The day " + day + " has not been fetched. 'vell-console days' shows those that have.");
+        return exit_code::Failed;
+    }
+    if (line.Tsv) {
+        for (const ClippingRow& row : browser.rows())
+            screen_.print(clippingTsv(row));
+        return exit_code::Good;
+    }
+    screen_.print(day + "   " + std::to_string(browser.rows().size()) + " Clippings");
+    if (const std::string_view alert = Trim(view_.alert()); !alert.empty()) screen_.print(shownLines(alert));
+    const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
+    for (const std::string& text :
+         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : 0))
+        screen_.print(text);
+    return exit_code::Good;
+}
+
+int Commands::days() {
+    for (const std::string& day : program_.browser().days())
+        screen_.print(day);
+    return exit_code::Good;
+}
+
+void Commands::interrupt() {
+    boxes_.giveUpQuestion();
+    if (interrupts_++ == 0)
+        program_.cmdStopDownload_Click();
+    else
+        program_.abandonTransfers();
+}
+
+}  // namespace vell

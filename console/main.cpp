@@ -1,0 +1,56 @@
+// SPDX-License-Identifier: MIT
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "app/frmMain.h"
+#include "base/text.h"
+#include "console/CommandLine.h"
+#include "console/Commands.h"
+#include "console/ConsoleBoxes.h"
+#include "console/ConsoleView.h"
+#include "console/Screen.h"
+#include "platform/asio/AsioEventLoop.h"
+#include "platform/asio/StopSignals.h"
+#include "platform/posix/CurlInternet.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixIniFile.h"
+#include "platform/posix/PosixProcess.h"
+#include "platform/posix/PosixShell.h"
+#include "platform/posix/PosixTerminal.h"
+#include "platform/posix/SystemClock.h"
+
+namespace {
+
+int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
+    vell::SystemClock clock;
+    vell::AsioEventLoop loop(clock);
+    vell::PosixFiles files;
+    vell::PosixIniFile ini(files);
+    vell::CurlInternet internet(loop, clock);
+    vell::PosixProcess process(line.Folder);
+    vell::PosixShell shell;
+    vell::Screen screen(terminal);
+    vell::ConsoleBoxes boxes(terminal, screen, loop);
+    if (line.Yes) boxes.sayYesToAll();
+    vell::ConsoleView view(screen, boxes);
+    vell::frmMain program({clock, loop, files, ini, internet, boxes, process, shell}, view, VELL_VERSION);
+    vell::Commands commands(program, view, terminal, screen, boxes);
+    const vell::StopSignals signals(loop, [&](int /*number*/) { commands.interrupt(); });
+    return commands.run(line);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        vell::PosixTerminal terminal;
+        int exitCode = vell::exit_code::Good;
+        const auto line = vell::parseCommandLine({argv + 1, argv + argc}, terminal, exitCode);
+        return line ? runProgram(*line, terminal) : exitCode;
+    } catch (const std::exception& error) {
+        std::cerr << "vell-console: " << error.what() << "\n";
+        return vell::exit_code::Failed;
+    }
+}
