@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# The checks of the sources: format, forbidden words, floors, headers that compile alone, clang-tidy, and the other
+# system's compiler for everything above platform/.
+#   tools/check.sh          everything
+#   tools/check.sh --fast   all but clang-tidy and the other system's compiler
+set -euo pipefail
+cd "$(dirname "$0")/.."
+
+tools/packages.sh check
+fast=0
+[ "${1:-}" = --fast ] && fast=1
+failed=0
+fail() { echo "check: $*" >&2; failed=1; }
+sources() { git ls-files --cached --others --exclude-standard -- '*.cpp' '*.h'; }
+
+echo "== format"
+sources | xargs clang-format --dry-run -Werror 2>&1 | grep -E 'error' | head -20 && fail "run clang-format -i on these"
+
+echo "== words and platform conditionals"
+git grep -n -I '_WIN32' -- '*.h' '*.cpp' ':!platform/' && fail "_WIN32 stands outside platform/"
+git grep -n -I -i -E '\b(the|this) (spec|specification)\b|\bPart [0-9]|\bas (the )?(issue|task) (says|asks|requires)' \
+  -- ':!tools/check.sh' && fail "speaks of where a requirement was written, not of the program"
+git grep -n -I -E '(^|[^a-z])/(work|root)/' -- ':!tools/check.sh' && fail "a path of somebody's machine"
+for file in $(sources); do
+  head -1 "$file" | grep -q SPDX-License-Identifier || fail "$file has no SPDX line"
+done
+[ -z "$(git grep -L '#pragma once' -- '*.h')" ] || fail "no #pragma once in: $(git grep -L '#pragma once' -- '*.h')"
+
+echo "== floors"
+# A folder may include what stands before it in this list, and itself.
+floors=(base platform log ftp net config store service ui app)
+allowed=""
+for floor in "${floors[@]}"; do
+  allowed="$allowed|$floor"
+  # shellcheck disable=SC2086
+  git grep -n -E '#include "[a-z]+/' -- "$floor/*.h" "$floor/*.cpp" | grep -v -E "#include \"(${allowed#|})/" &&
+    fail "$floor/ includes what stands above it"
+done
+git grep -n -E '#include <(asio|curl|gio|glib|wx|windows|unistd|sys/|poll)' -- '*.h' '*.cpp' ':!platform/' ':!desktop/' \
+  ':!demo/' ':!tests/' ':!bench/' && fail "system headers outside platform/"
+
+echo "== documents"
+for folder in "${floors[@]}" console demo tests bench; do
+  [ ! -d "$folder" ] || grep -q "\`$folder/\`" docs/architecture.md || fail "docs/architecture.md does not name $folder/"
+done
+if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh .ci/run || fail "shellcheck"; fi
+
+echo "== headers compile alone"
+cmake --preset debug >/dev/null
+flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED $(pkg-config --cflags gio-2.0)"
+headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|desktop)/')
+# shellcheck disable=SC2086
+echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ {} || fail "a header does not compile alone"
+
+if [ "$fast" -eq 0 ]; then
+  echo "== clang-tidy"
+  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop|fuzz|bench)/')
+  echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug 2>/dev/null || fail "clang-tidy"
+
+  echo "== MinGW-w64"
+  cmake --preset windows >/dev/null
+  cmake --build --preset windows || fail "the floors above platform/ do not compile for the other system"
+fi
+
+[ "$failed" -eq 0 ] && echo "All checks passed."
+exit "$failed"

@@ -1,0 +1,35 @@
+#!/usr/bin/env bash
+# Installs the Debian packages that a job needs and that are not there yet.
+#   tools/packages.sh build|test|check|bench ...
+set -euo pipefail
+
+build=(g++ cmake ninja-build pkg-config libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev)
+test=("${build[@]}" libgtest-dev libgmock-dev curl)
+check=("${build[@]}" libgtest-dev libgmock-dev clang-format clang-tidy g++-mingw-w64-x86-64-posix git)
+bench=("${build[@]}" libbenchmark-dev nginx-light curl)
+
+wanted=()
+for job in "$@"; do
+  case $job in
+    build) wanted+=("${build[@]}") ;;
+    test) wanted+=("${test[@]}") ;;
+    check) wanted+=("${check[@]}") ;;
+    bench) wanted+=("${bench[@]}") ;;
+    *) echo "packages.sh: no job '$job'; there are build, test, check and bench" >&2; exit 2 ;;
+  esac
+done
+
+missing=()
+for package in $(printf '%s\n' "${wanted[@]}" | sort -u); do
+  dpkg-query -W -f='${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "These packages are missing and need root to install: ${missing[*]}" >&2; exit 1; }
+  as_root=(sudo)
+fi
+echo "Installing ${#missing[@]} packages: ${missing[*]}"
+"${as_root[@]}" apt-get update -q
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends "${missing[@]}"
