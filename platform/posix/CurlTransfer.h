@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include <curl/curl.h>
+
+#include "platform/Clock.h"
+
+namespace vell {
+
+// One request and its answer. The library fills the buffer from within its callbacks; they never let events happen,
+// since the library must not be entered a second time.
+class CurlTransfer {
+  public:
+    explicit CurlTransfer(const Clock& clock);
+    CurlTransfer(const CurlTransfer&) = delete;
+    CurlTransfer& operator=(const CurlTransfer&) = delete;
+
+    void setAddress(const std::string& address);
+    void setAgent(const std::string& agent);
+    void setMethod(const std::string& method);
+    void setCredentials(const std::string& userName, const std::string& password);
+    // "Name: value"; replaces the header of that name.
+    void setHeader(std::string_view header);
+    void setBody(std::string_view body);
+    // Everything is set: the 30 seconds of silence begin.
+    void begin();
+
+    [[nodiscard]] CURL* handle() const { return easy_.get(); }
+
+    [[nodiscard]] bool hasBytes() const { return taken_ < buffer_.size(); }
+    [[nodiscard]] std::size_t take(char* target, std::size_t most);
+    [[nodiscard]] bool hasEnded() const { return result_.has_value(); }
+    // 0 for an answer that came whole.
+    [[nodiscard]] std::int32_t error() const { return result_.value_or(0); }
+    void end(std::int32_t error) { result_ = error; }
+    void end(CURLcode result);
+
+    [[nodiscard]] const std::string& rawHeaders() const { return headers_; }
+    [[nodiscard]] std::int64_t announcedLength() const;
+    [[nodiscard]] std::chrono::milliseconds silence() const { return clock_.Steady() - lastByte_; }
+
+    // Fails with 12017 once it has been silent for so long; at once when that is no time at all.
+    void cancelAfterSilenceOf(std::chrono::milliseconds patience);
+    [[nodiscard]] bool isAbandoned() const { return patience_.count() == 0; }
+    // The number to fail with now; 0 to go on waiting.
+    [[nodiscard]] std::int32_t outOfPatience() const;
+
+  private:
+    static std::size_t onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
+    static std::size_t onHeader(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
+
+    template <class Value>
+    void set(CURLoption option, Value value);
+
+    struct EasyDeleter {
+        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+    };
+    struct ListDeleter {
+        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+    };
+
+    const Clock& clock_;
+    std::unique_ptr<curl_slist, ListDeleter> headerList_;  // the handle uses it to its end
+    std::unique_ptr<CURL, EasyDeleter> easy_;
+    std::string headers_;
+    std::string buffer_;
+    std::size_t taken_ = 0;
+    bool paused_ = false;
+    std::optional<std::int32_t> result_;
+    SteadyTime lastByte_{};
+    std::chrono::milliseconds patience_;
+    bool cancelled_ = false;
+};
+
+}  // namespace vell

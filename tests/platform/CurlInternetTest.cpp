@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+
+#include <gtest/gtest.h>
+
+#include "platform/asio/AsioEventLoop.h"
+#include "platform/posix/CurlInternet.h"
+#include "tests/support/DrivenClock.h"
+#include "tests/support/HttpPeer.h"
+
+namespace vell {
+namespace {
+
+using test::DrivenClock;
+using test::HttpPeer;
+using Cancel = InternetApi::Cancel;
+
+class CurlInternetTest : public testing::Test {
+  protected:
+    struct Got {
+        std::string Body;
+        bool Whole = false;
+        std::size_t LongestRead = 0;
+    };
+
+    InternetApi::Handle openUrl(const std::string& address) {
+        session_ = internet_.InternetOpen("VELL_2.1.37_user:ann");
+        return internet_.InternetOpenUrl(*session_, address);
+    }
+
+    InternetApi::Handle post(const HttpPeer& peer, const std::string& form, const std::string& user = "",
+                             const std::string& password = "") {
+        const auto at = peer.address().find(':');
+        session_ = internet_.InternetOpen("VELL_2.1.37_user:ann");
+        connection_ = internet_.InternetConnect(*session_, peer.address().substr(0, at),
+                                                std::stoi(peer.address().substr(at + 1)), user, password);
+        auto request = internet_.HttpOpenRequest(*connection_, "POST", "/list.asp", "HTTP/1.0");
+        internet_.HttpAddRequestHeaders(*request, "Content-Type: application/x-www-form-urlencoded\r\n");
+        sent_ = internet_.HttpSendRequest(*request, form);
+        return request;
+    }
+
+    Got readAll(InternetApi::Object& request) {
+        Got got;
+        std::array<char, 2048> buffer{};
+        std::size_t read = 0;
+        while ((got.Whole = internet_.InternetReadFile(request, buffer.data(), buffer.size(), read)) && read > 0) {
+            got.Body.append(buffer.data(), read);
+            got.LongestRead = std::max(got.LongestRead, read);
+        }
+        return got;
+    }
+
+    DrivenClock clock_;
+    AsioEventLoop loop_{clock_};
+    CurlInternet internet_{loop_, clock_};
+    InternetApi::Handle session_;
+    InternetApi::Handle connection_;
+    bool sent_ = false;
+};
+
+TEST_F(CurlInternetTest, sendsTheFormAsItStandsAndReadsInSteps) {
+    const std::string body(5000, '\xE1');
+    HttpPeer peer([&](const std::string&) { return HttpPeer::ok(body); });
+    const auto request = post(peer, "username=a&password=\xC1 %&dd1=07");
+    ASSERT_TRUE(sent_);
+    const Got got = readAll(*request);
+    EXPECT_TRUE(got.Whole);
+    EXPECT_EQ(got.Body, body);
+    EXPECT_EQ(got.LongestRead, 2048U);
+    EXPECT_EQ(internet_.RawHeaders(*request, 1024), "HTTP/1.0 200 OK\r\nContent-Length: 5000\r\n");
+    EXPECT_EQ(internet_.RawHeaders(*request, 8), "HTTP/1.0");
+    const std::string sent = peer.requests().at(0);
+    for (const char* part : {"POST /list.asp HTTP/1.0\r\n", "\r\nUser-Agent: VELL_2.1.37_user:ann\r\n",
+                             "\r\nContent-Type: application/x-www-form-urlencoded\r\n", "\r\nPragma: no-cache\r\n",
+                             "\r\n\r\nusername=a&password=\xC1 %&dd1=07"})
+        EXPECT_NE(sent.find(part), std::string::npos) << part;
+}
+
+TEST_F(CurlInternetTest, tellsWholeAnswersFromBrokenOnes) {
+    const struct {
+        std::string answer;
+        bool opens;
+        std::string body;
+        bool whole;
+    } table[] = {
+        {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n12345", true, "12345", false},
+        {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n", true, "", false},
+        {"HTTP/1.0 200 OK\r\n\r\n12345", true, "12345", true},
+        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n", true, "abc", true},
+        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n", true, "abc", false},
+        {"HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n", true, "", true},
+        {"", false, "", false},
+        {"220 not HTTP at all\r\n", false, "", false},
+        {"HTTP/1.0 302 Found\r\nLocation: ftp://127.0.0.1/x\r\nContent-Length: 0\r\n\r\n", false, "", false},
+        {"HTTP/1.0 302 Found\r\nLocation: /again\r\nContent-Length: 0\r\n\r\n", false, "", false},
+    };
+    for (const auto& row : table) {
+        HttpPeer peer([&](const std::string&) { return HttpPeer::Answer{row.answer}; });
+        const auto file = openUrl("http://" + peer.address() + "/a b.pdf");
+        ASSERT_EQ(file != nullptr, row.opens) << row.answer;
+        EXPECT_EQ(peer.requests().at(0).substr(0, 25), "GET /a%20b.pdf HTTP/1.0\r\n");
+        EXPECT_LE(peer.requests().size(), 11U);
+        if (!file) {
+            EXPECT_GT(internet_.LastError(), 12000) << row.answer;
+            continue;
+        }
+        EXPECT_EQ(internet_.StatusCode(*file), "200");
+        const Got got = readAll(*file);
+        EXPECT_EQ(got.Body, row.body) << row.answer;
+        EXPECT_EQ(got.Whole, row.whole) << row.answer;
+    }
+}
+
+TEST_F(CurlInternetTest, sendsCredentialsOnlyWhenTheServerAsksForThem) {
+    HttpPeer peer([](const std::string& request) {
+        if (request.find("Authorization: Basic YW5uOnNlY3JldA==") != std::string::npos) return HttpPeer::ok("in");
+        return HttpPeer::status("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n", "go away");
+    });
+    const auto request = post(peer, "a=b", "ann", "secret");
+    EXPECT_EQ(readAll(*request).Body, "in");
+    EXPECT_EQ(internet_.RawHeaders(*request, 1024).substr(0, 15), "HTTP/1.0 200 OK");
+    ASSERT_EQ(peer.requests().size(), 2U);
+    EXPECT_EQ(peer.requests()[0].find("Authorization"), std::string::npos);
+    EXPECT_TRUE(peer.requests()[1].ends_with("a=b"));
+}
+
+TEST_F(CurlInternetTest, givesUpAfterThirtySecondsOfSilence) {
+    for (const char* beginning : {"", "HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n12345"}) {
+        HttpPeer peer([&](const std::string&) { return HttpPeer::Answer{beginning, true}; });
+        const SteadyTime begun = clock_.Steady();
+        const auto file = openUrl("http://" + peer.address() + "/x.pdf");
+        if (file) {
+            EXPECT_FALSE(readAll(*file).Whole);
+        }
+        EXPECT_EQ(internet_.LastError(), 12002);
+        const auto waited = clock_.Steady() - begun;
+        EXPECT_GE(waited, std::chrono::seconds{30});
+        EXPECT_LT(waited, std::chrono::seconds{31});
+    }
+}
+
+TEST_F(CurlInternetTest, isCancelledWhileItWaits) {
+    for (const auto [which, patience] : {std::pair{Cancel::All, 0}, std::pair{Cancel::Stalled, 1}}) {
+        HttpPeer peer([](const std::string&) { return HttpPeer::Answer{"", true}; });
+        EventLoop::TimerId timer = 0;
+        timer = loop_.SetTimer(5000, [&, cancel = which] {
+            internet_.CancelRequests(cancel);
+            loop_.KillTimer(timer);
+        });
+        const SteadyTime begun = clock_.Steady();
+        EXPECT_EQ(openUrl("http://" + peer.address() + "/x.pdf"), nullptr);
+        EXPECT_EQ(internet_.LastError(), 12017);
+        EXPECT_LT(clock_.Steady() - begun, std::chrono::milliseconds{5100 + patience});
+    }
+}
+
+TEST_F(CurlInternetTest, anotherRequestMayRunInTheYieldsOfOne) {
+    HttpPeer quick([](const std::string&) { return HttpPeer::ok("quick"); });
+    HttpPeer stalling([](const std::string&) { return HttpPeer::Answer{"", true}; });
+    std::string inner;
+    EventLoop::TimerId timer = 0;
+    timer = loop_.SetTimer(1000, [&] {
+        loop_.KillTimer(timer);
+        const auto session = internet_.InternetOpen("inner");
+        const auto file = internet_.InternetOpenUrl(*session, "http://" + quick.address() + "/i");
+        ASSERT_NE(file, nullptr);
+        inner = readAll(*file).Body;
+        internet_.CancelRequests(Cancel::All);
+    });
+    EXPECT_EQ(openUrl("http://" + stalling.address() + "/o"), nullptr);
+    EXPECT_EQ(inner, "quick");
+}
+
+TEST_F(CurlInternetTest, namesTheReasonWhenNobodyAnswers) {
+    std::string address;
+    {
+        HttpPeer gone([](const std::string&) { return HttpPeer::ok(""); });
+        address = gone.address();
+    }
+    EXPECT_EQ(openUrl("http://" + address + "/x"), nullptr);
+    EXPECT_EQ(internet_.LastError(), 12029);
+    EXPECT_EQ(openUrl("http:///x"), nullptr);
+    EXPECT_EQ(internet_.LastError(), 12005);
+    EXPECT_EQ(openUrl("http://no-such-host.invalid/x"), nullptr);
+    EXPECT_EQ(internet_.LastError(), 12007);
+}
+
+}  // namespace
+}  // namespace vell

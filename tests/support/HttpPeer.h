@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <atomic>
+#include <functional>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace vell::test {
+
+// A server on loopback that answers HTTP requests as the test wants, however badly. One connection at a time, each
+// closed after its answer; it runs in a thread of its own and ends with the object.
+class HttpPeer {
+  public:
+    struct Answer {
+        std::string Bytes;
+        bool Stalls = false;  // says nothing more and keeps the connection open until the peer ends
+    };
+    // The handler is called in the peer's thread with the whole request, headers and body.
+    using Handler = std::function<Answer(const std::string& request)>;
+
+    explicit HttpPeer(Handler handler);
+    ~HttpPeer();
+    HttpPeer(const HttpPeer&) = delete;
+    HttpPeer& operator=(const HttpPeer&) = delete;
+
+    // "127.0.0.1:port".
+    [[nodiscard]] std::string address() const { return "127.0.0.1:" + std::to_string(port_); }
+    [[nodiscard]] std::vector<std::string> requests() const;
+
+    // A well-formed answer.
+    [[nodiscard]] static Answer ok(const std::string& body);
+    [[nodiscard]] static Answer status(const std::string& codeAndReason, const std::string& headers = "",
+                                       const std::string& body = "");
+
+  private:
+    void serve();
+    void serveOne(int connection);
+
+    Handler handler_;
+    int listener_ = -1;
+    int port_ = 0;
+    std::atomic<bool> ending_ = false;
+    mutable std::mutex guard_;
+    std::vector<std::string> requests_;
+    std::thread thread_;
+};
+
+}  // namespace vell::test
