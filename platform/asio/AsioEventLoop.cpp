@@ -1,0 +1,138 @@
+// SPDX-License-Identifier: MIT
+#include "platform/asio/AsioEventLoop.h"
+
+#include <algorithm>
+#include <iostream>
+#include <thread>
+#include <utility>
+
+#include <asio/executor_work_guard.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
+#include <asio/post.hpp>
+
+namespace vell {
+
+using std::chrono::milliseconds;
+
+namespace {
+
+void tellStandardError(const RunTimeError& error) {
+    std::cerr << "Error " << error.Number << " in an event handler: " << error.Description << '\n';
+}
+
+}  // namespace
+
+// What keeps the context waiting when nothing else does. The socket is never opened: that it exists makes the context
+// wait in epoll_wait, for a length of time, and not on a condition variable, until a point in time; the latter breaks
+// under a faked clock.
+struct AsioEventLoop::Anchor {
+    explicit Anchor(asio::io_context& context) : Work(context.get_executor()), Unopened(context) {}
+
+    asio::executor_work_guard<asio::io_context::executor_type> Work;
+    asio::ip::tcp::socket Unopened;
+};
+
+AsioEventLoop::AsioEventLoop(Clock& clock)
+    : clock_(clock),
+      context_(std::make_unique<asio::io_context>()),
+      anchor_(std::make_unique<Anchor>(*context_)),
+      errorSink_(tellStandardError) {}
+
+AsioEventLoop::~AsioEventLoop() = default;
+
+void AsioEventLoop::DoEvents() {
+    runPending();
+}
+
+void AsioEventLoop::WaitForEvents(int length) {
+    if (runPending()) return;
+    milliseconds wait{std::max(length, 0)};
+    if (const auto next = untilNextTimer()) wait = std::min(wait, *next);
+    bool happened = false;
+    guarded([&] {
+        happened = true;  // also when the handler throws
+        happened = context_->run_one_for(clock_.realLength(wait)) != 0;
+    });
+    if (!happened) clock_.passed(wait);
+    runPending();
+}
+
+void AsioEventLoop::Sleep(int length) {
+    const milliseconds wait{std::max(length, 0)};
+    std::this_thread::sleep_for(clock_.realLength(wait));
+    clock_.passed(wait);
+}
+
+EventLoop::TimerId AsioEventLoop::SetTimer(int periodMilliseconds, std::function<void()> tick) {
+    const auto timer = timers_.add(clock_.Steady(), milliseconds{periodMilliseconds}, std::move(tick));
+    timersChanged();
+    return timer;
+}
+
+void AsioEventLoop::KillTimer(TimerId timer) {
+    timers_.remove(timer);
+    timersChanged();
+}
+
+void AsioEventLoop::setErrorSink(std::function<void(const RunTimeError&)> sink) {
+    errorSink_ = std::move(sink);
+}
+void AsioEventLoop::setPump(std::function<void()> pump) {
+    pump_ = std::move(pump);
+}
+void AsioEventLoop::setOnTimersChanged(std::function<void()> changed) {
+    onTimersChanged_ = std::move(changed);
+}
+
+std::optional<milliseconds> AsioEventLoop::untilNextTimer() const {
+    return timers_.untilNext(clock_.Steady());
+}
+
+// True when something happened.
+bool AsioEventLoop::runPending() {
+    if (pump_) guarded(pump_);
+    // The sockets are asked once at the end of the first round; what they tell happens in the second. More rounds
+    // would never end under a peer that sends as fast as it is read.
+    bool happened = runRound();
+    happened = runRound() || happened;
+    return fireTimers() || happened;
+}
+
+// Runs what stands in the context's queue now, and nothing that is added meanwhile.
+bool AsioEventLoop::runRound() {
+    bool atEnd = false;
+    bool happened = false;
+    asio::post(*context_, [&atEnd] { atEnd = true; });
+    while (!atEnd) {
+        guarded([this] { context_->poll_one(); });
+        happened = happened || !atEnd;
+    }
+    return happened;
+}
+
+bool AsioEventLoop::fireTimers() {
+    const auto now = clock_.Steady();
+    bool fired = false;
+    while (const auto tick = timers_.takeDue(now)) {
+        fired = true;
+        guarded(*tick);
+    }
+    if (fired) timersChanged();
+    return fired;
+}
+
+template <class Body>
+void AsioEventLoop::guarded(Body&& body) {
+    try {
+        body();
+    } catch (...) {
+        errorSink_(currentError());
+    }
+}
+
+void AsioEventLoop::timersChanged() {
+    if (onTimersChanged_) onTimersChanged_();
+}
+
+}  // namespace vell

@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: MIT
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <asio/io_context.hpp>
+#include <asio/post.hpp>
+#include <gmock/gmock.h>
+#include <time.h>
+
+#include "platform/asio/AsioEventLoop.h"
+#include "tests/support/DrivenClock.h"
+
+namespace vell::test {
+namespace {
+
+using std::chrono::milliseconds;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class RealClock : public DrivenClock {
+  public:
+    SteadyTime Steady() const override { return std::chrono::floor<milliseconds>(std::chrono::steady_clock::now()); }
+    milliseconds realLength(milliseconds length) const override { return length; }
+    void passed(milliseconds) override {}
+};
+
+class AsioEventLoopTest : public testing::Test {
+  protected:
+    void post(std::function<void()> handler) { asio::post(loop_.context(), std::move(handler)); }
+
+    DrivenClock clock_;
+    AsioEventLoop loop_{clock_};
+};
+
+TEST_F(AsioEventLoopTest, handlersThatYieldLetTheOthersHappenToAnyDepth) {
+    std::vector<int> order;
+    std::function<void(int)> descend = [&](int depth) {
+        order.push_back(depth);
+        if (depth == 50) return;
+        post([&, depth] { descend(depth + 1); });
+        loop_.DoEvents();
+        EXPECT_EQ(order.size(), 50u) << "the inner event did not happen inside the yield of depth " << depth;
+    };
+    post([&] { descend(1); });
+    loop_.DoEvents();
+    EXPECT_EQ(order.size(), 50u);
+}
+
+TEST_F(AsioEventLoopTest, aHandlerThatPostsItselfDoesNotHoldDoEvents) {
+    int runs = 0;
+    std::function<void()> again = [&] {
+        ++runs;
+        post(again);
+    };
+    post(again);
+    loop_.DoEvents();
+    EXPECT_LE(runs, 4);
+}
+
+TEST_F(AsioEventLoopTest, anEscapingErrorIsToldAndTheLoopGoesOn) {
+    std::vector<std::int32_t> told;
+    loop_.setErrorSink([&](const RunTimeError& error) { told.push_back(error.Number); });
+    bool later = false;
+    post([] { throw RunTimeError(53, "File not found"); });
+    post([&] { later = true; });
+    const auto timer = loop_.SetTimer(10, [] { throw std::bad_alloc(); });
+    clock_.advance(milliseconds{10});
+    loop_.DoEvents();
+    loop_.KillTimer(timer);
+    post([] { throw RunTimeError(76, "Path not found"); });
+    loop_.WaitForEvents(10);
+    EXPECT_THAT(told, ElementsAre(53, 7, 76));
+    EXPECT_TRUE(later);
+}
+
+TEST_F(AsioEventLoopTest, aWaitEndsAtTheNextTimerAndMovesTheClockNoFurther) {
+    const auto start = clock_.Steady();
+    int ticks = 0;
+    const auto timer = loop_.SetTimer(30, [&] { ++ticks; });
+    loop_.WaitForEvents(1000);
+    EXPECT_EQ(ticks, 1);
+    EXPECT_EQ(clock_.Steady() - start, milliseconds{30});
+    loop_.WaitForEvents(10);
+    EXPECT_EQ(ticks, 1);
+    EXPECT_EQ(loop_.untilNextTimer(), milliseconds{20});
+    loop_.KillTimer(timer);
+    loop_.KillTimer(timer);
+    EXPECT_FALSE(loop_.untilNextTimer());
+    loop_.Sleep(1000);
+    EXPECT_EQ(clock_.Steady() - start, milliseconds{1040});
+}
+
+TEST_F(AsioEventLoopTest, missedTicksComeOnceAndATickMayYieldOrEndItsTimer) {
+    int ticks = 0;
+    EventLoop::TimerId timer = 0;
+    timer = loop_.SetTimer(1000, [&] {
+        if (++ticks == 1) {
+            clock_.advance(milliseconds{1000});
+            loop_.DoEvents();  // its own next tick comes here
+            EXPECT_EQ(ticks, 2);
+        } else {
+            loop_.KillTimer(timer);
+        }
+    });
+    clock_.advance(std::chrono::hours{7 * 24});
+    loop_.DoEvents();
+    EXPECT_EQ(ticks, 2);
+    EXPECT_FALSE(loop_.untilNextTimer());
+}
+
+TEST_F(AsioEventLoopTest, aWindowSystemIsPumpedAndToldOfTimers) {
+    int pumped = 0, told = 0;
+    loop_.setPump([&] { ++pumped; });
+    loop_.setOnTimersChanged([&] { ++told; });
+    const auto timer = loop_.SetTimer(5, [] {});
+    loop_.WaitForEvents(5);
+    loop_.KillTimer(timer);
+    EXPECT_EQ(told, 3);  // made, ticked, ended
+    EXPECT_GE(pumped, 1);
+}
+
+TEST(AsioEventLoopIdleTest, waitingCostsNoProcessorTime) {
+    RealClock clock;
+    AsioEventLoop loop(clock);
+    const auto processorTime = [] {
+        timespec used{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &used);
+        return milliseconds{used.tv_sec * 1000 + used.tv_nsec / 1'000'000};
+    };
+    const auto start = clock.Steady();
+    const auto before = processorTime();
+    for (int i = 0; i < 20; ++i)
+        loop.WaitForEvents(10);
+    EXPECT_GE(clock.Steady() - start, milliseconds{195});
+    EXPECT_LT(processorTime() - before, milliseconds{20});
+}
+
+TEST(AsioEventLoopIdleTest, aPostFromAnotherThreadEndsTheWait) {
+    RealClock clock;
+    AsioEventLoop loop(clock);
+    bool happened = false;
+    std::thread other([&] { asio::post(loop.context(), [&] { happened = true; }); });
+    loop.WaitForEvents(30'000);
+    other.join();
+    EXPECT_TRUE(happened);
+}
+
+}  // namespace
+}  // namespace vell::test
