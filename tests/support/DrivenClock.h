@@ -20,6 +20,9 @@ class DrivenClock : public Clock {
     [[nodiscard]] std::chrono::milliseconds realLength(std::chrono::milliseconds length) const override;
     void passed(std::chrono::milliseconds length) override { advance(length); }
 
+    // How long a wait really takes. None at all makes hours pass in no time, peers or not.
+    void setRealMoment(std::chrono::milliseconds moment) { realMoment_ = moment; }
+
     // Both clocks go on.
     void advance(std::chrono::milliseconds by);
     // Only the wall clock jumps.
