@@ -137,7 +137,7 @@ TEST_F(CurlInternetTest, givesUpAfterThirtySecondsOfSilence) {
         EXPECT_EQ(internet_.LastError(), 12002);
         const auto waited = clock_.Steady() - begun;
         EXPECT_GE(waited, std::chrono::seconds{30});
-        EXPECT_LT(waited, std::chrono::seconds{31});
+        EXPECT_LT(waited, std::chrono::seconds{61});  // the silence begins anew with each byte
     }
 }
 
