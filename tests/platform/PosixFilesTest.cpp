@@ -1,0 +1,203 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+
+#include <gmock/gmock.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/posix/PosixFiles.h"
+#include "tests/support/TempFolder.h"
+
+namespace vell::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class PosixFilesTest : public testing::Test {
+  protected:
+    [[nodiscard]] std::string at(std::string_view name) const { return folder_.text() + "\\" + std::string(name); }
+    [[nodiscard]] std::size_t entriesOnDisk() const {
+        using std::filesystem::directory_iterator;
+        return static_cast<std::size_t>(std::distance(directory_iterator(folder_.path()), directory_iterator()));
+    }
+    [[nodiscard]] std::vector<std::string> names(std::string_view pattern, Files::Kind kind = Files::Kind::Files) {
+        std::vector<std::string> found;
+        for (const auto& entry : files_.Enumerate(folder_.text(), pattern, kind))
+            found.push_back(entry.Name);
+        return found;
+    }
+    template <class Body>
+    static RunTimeError errorOf(Body&& body) {
+        try {
+            body();
+        } catch (const RunTimeError& error) {
+            return error;
+        }
+        ADD_FAILURE() << "no error was raised";
+        return {0, ""};
+    }
+
+    TempFolder folder_;
+    PosixFiles files_;
+};
+
+TEST_F(PosixFilesTest, aNameThatDiffersInCaseIsFoundInEveryPartOfThePath) {
+    folder_.put("Clips/07032004/Άρθρο.PDF", "abc");
+    const std::string article = at("CLIPS\\07032004\\\xDC\xD1\xC8\xF1\xEF.pdf");  // "άΡΘρο.pdf" in code page 1253
+    EXPECT_EQ(files_.ReadFile(article), "abc");
+    files_.WriteWhole(article, "new", Durability::Rename);
+    files_.Append(article, "er");
+    EXPECT_EQ(folder_.get("Clips/07032004/Άρθρο.PDF"), "newer");
+    files_.DeleteFile(article);
+    EXPECT_FALSE(files_.PathExists(article));
+    EXPECT_TRUE(files_.PathExists(at("clips\\")));
+    EXPECT_FALSE(files_.PathExists(at("clips\\gone\\x")));
+}
+
+TEST_F(PosixFilesTest, whatOthersMakeAndRemoveIsSeenAtOnce) {
+    for (int round = 0; round < 50; ++round) {
+        const auto upper = "A" + std::to_string(round) + ".PDF", lower = "a" + std::to_string(round) + ".pdf";
+        EXPECT_FALSE(files_.PathExists(at(lower)));
+        folder_.put(upper, "x");
+        EXPECT_TRUE(files_.PathExists(at(lower))) << round;
+        std::filesystem::remove(folder_.path() / upper);
+        EXPECT_FALSE(files_.PathExists(at(lower))) << round;
+    }
+    files_.WriteWhole(at("B.PDF"), "x", Durability::Rename);
+    EXPECT_TRUE(files_.PathExists(at("b.pdf")));
+    std::filesystem::remove(folder_.path() / "B.PDF");
+    EXPECT_FALSE(files_.PathExists(at("b.pdf")));
+}
+
+TEST_F(PosixFilesTest, ofTwoNamesThatDifferInCaseTheExactOneIsMeant) {
+    folder_.put("a.pdf", "small");
+    folder_.put("A.PDF", "capital");
+    EXPECT_EQ(files_.ReadFile(at("a.pdf")), "small");
+    EXPECT_EQ(files_.ReadFile(at("A.PDF")), "capital");
+    EXPECT_EQ(files_.ReadFile(at("A.pdf")), "capital");
+    files_.DeleteFile(at("A.PDF"));
+    EXPECT_EQ(files_.ReadFile(at("A.pdf")), "small");
+}
+
+TEST_F(PosixFilesTest, enumerationIsInNameOrderWithoutRegardToCase) {
+    for (const char* name : {"b.PDF", "A.pdf", "c.txt", "noextension", "C.pdf", "日本.pdf", ".vell-1-1.part"})
+        folder_.put(name, "12345");
+    for (const char* name : {"07032004", "06032004"})
+        std::filesystem::create_directory(folder_.path() / name);
+    std::filesystem::create_symlink(folder_.path() / "gone", folder_.path() / "dangling.pdf");
+    EXPECT_THAT(names("*.Pdf"), ElementsAre("A.pdf", "b.PDF", "C.pdf"));
+    EXPECT_THAT(names("*.*"), ElementsAre("A.pdf", "b.PDF", "C.pdf", "c.txt", "noextension"));
+    EXPECT_THAT(names("?.*T"), ElementsAre("c.txt"));
+    EXPECT_THAT(names("*a*.*d*f*"), ElementsAre("A.pdf"));
+    EXPECT_THAT(names("*", Files::Kind::Folders), ElementsAre("06032004", "07032004"));
+    EXPECT_EQ(files_.Enumerate(folder_.text(), "A.PDF", Files::Kind::Files).at(0).Size, 5);
+    EXPECT_THAT(files_.Enumerate(at("gone"), "*.*", Files::Kind::Files), IsEmpty());
+}
+
+TEST_F(PosixFilesTest, failuresCarryTheProgramsNumberAndThePathAsItWasGiven) {
+    folder_.put("file", "x");
+    folder_.put("full/file", "x");
+    const struct {
+        std::int32_t Number;
+        std::function<void()> Operation;
+    } cases[] = {
+        {error_number::FileNotFound, [&] { (void)files_.ReadFile(at("gone.pdf")); }},
+        {error_number::PathNotFound, [&] { (void)files_.ReadFile(at("gone\\a.pdf")); }},
+        {error_number::PathNotFound, [&] { files_.WriteWhole(at("gone\\a.pdf"), "", Durability::Rename); }},
+        {error_number::PathNotFound, [&] { files_.Append(at("file\\a.pdf"), "x"); }},
+        {error_number::PathNotFound, [&] { files_.MakeFolder(at("gone\\07032004")); }},
+        {error_number::PathNotFound, [&] { files_.RemoveFolder(at("gone")); }},
+        {error_number::PathAccess, [&] { files_.MakeFolder(at("FULL")); }},
+        {error_number::PathAccess, [&] { files_.RemoveFolder(at("full")); }},
+        {error_number::PathAccess, [&] { (void)files_.ReadFile(at("full")); }},
+        {error_number::PathAccess, [&] { files_.WriteWhole(at("full"), "", Durability::Rename); }},
+        {error_number::BadFileName, [&] { files_.Append(at(std::string_view("a\0.pdf", 6)), "x"); }},
+        {error_number::BadFileName, [&] { files_.MakeFolder(at("a\nb")); }},
+        {error_number::BadFileName, [&] { (void)files_.ReadFile(at(std::string(300, 'a'))); }},
+        {error_number::DiskFull, [&] { files_.Append("\\dev\\full", "x"); }},
+        {error_number::DiskFull, [&] { files_.OpenForWriting("\\dev\\full", 0)->Write(std::string(100'000, 'x')); }},
+    };
+    int line = 0;
+    for (const auto& one : cases)
+        EXPECT_EQ(errorOf(one.Operation).Number, one.Number) << "case " << line++;
+    const auto error = errorOf([&] { files_.MakeFolder(at("gone\\07032004")); });
+    EXPECT_THAT(error.Description, HasSubstr("Path not found: " + at("gone\\07032004")));
+    EXPECT_EQ(errorOf([&] { (void)files_.ReadFile(at("gone")); }).LastSystemError, ENOENT);
+}
+
+TEST_F(PosixFilesTest, aWholeFileThatCouldNotBeWrittenLeavesTheOldOneAndNothingElse) {
+    folder_.put("ALLFILES.DIR", "old");
+    const pid_t child = fork();  // the limit is the child's own
+    if (child == 0) {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit few{1000, 1000};
+        setrlimit(RLIMIT_FSIZE, &few);
+        const auto error = errorOf([&] { files_.WriteWhole(at("allfiles.dir"), std::string(2000, 'x'), {}); });
+        _exit(error.Number == error_number::DiskFull ? 0 : 1);
+    }
+    int result = -1;
+    waitpid(child, &result, 0);
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(folder_.get("ALLFILES.DIR"), "old");
+    EXPECT_EQ(entriesOnDisk(), 1u);
+}
+
+TEST_F(PosixFilesTest, aKilledWritersPartsGoWithTheNextWriteOrTheFolder) {
+    const pid_t dead = fork();
+    if (dead == 0) _exit(0);
+    waitpid(dead, nullptr, 0);
+    const auto part = ".vell-" + std::to_string(dead) + "-1.part";
+    const auto living = ".vell-" + std::to_string(getppid()) + "-1.part";
+    folder_.put(part, "half");
+    folder_.put(living, "half");
+    files_.WriteWhole(at("a"), "x", Durability::Flushed);
+    EXPECT_FALSE(folder_.has(part));
+    EXPECT_TRUE(folder_.has(living));
+    folder_.put("day/" + part, "half");
+    files_.RemoveFolder(at("DAY"));
+    EXPECT_FALSE(folder_.has("day"));
+}
+
+TEST_F(PosixFilesTest, replacingAFileKeepsItsPermissionsAndTheLinkToIt) {
+    folder_.put("real", "old");
+    std::filesystem::permissions(folder_.path() / "real", std::filesystem::perms{0640});
+    std::filesystem::create_symlink("real", folder_.path() / "link");
+    files_.WriteWhole(at("link"), "new", Durability::Rename);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder_.path() / "link"));
+    EXPECT_EQ(folder_.get("real"), "new");
+    EXPECT_EQ(std::filesystem::status(folder_.path() / "real").permissions(), std::filesystem::perms{0640});
+    files_.MakePrivateFile(at("private"));
+    files_.MakePrivateFile(at("REAL"));
+    EXPECT_EQ(std::filesystem::status(folder_.path() / "private").permissions(), std::filesystem::perms{0600});
+    EXPECT_EQ(folder_.get("real"), "new");
+    EXPECT_EQ(entriesOnDisk(), 3u);
+}
+
+TEST_F(PosixFilesTest, aTransferGoesOnAtItsOffset) {
+    folder_.put("a.pdf", "0123456789");
+    {
+        const auto file = files_.OpenForWriting(at("A.PDF"), 4);
+        file->Write("abc");
+    }
+    EXPECT_EQ(folder_.get("a.pdf"), "0123abc");
+    const auto file = files_.OpenForWriting(at("A.PDF"), 0);
+    file->Close();
+    file->Close();
+    EXPECT_EQ(files_.FileSize(at("A.PDF")), 0);
+    EXPECT_EQ(errorOf([&] { (void)files_.OpenForWriting(at("A.PDF"), 1); }).Number, error_number::InvalidCall);
+}
+
+TEST_F(PosixFilesTest, freeBytesAreThoseOfTheNearestFolderThatExists) {
+    const auto here = files_.FreeBytes(folder_.text());
+    ASSERT_TRUE(here);
+    EXPECT_GT(*here, 0u);
+    EXPECT_TRUE(files_.FreeBytes(at("gone\\deeper\\a.pdf")));
+    EXPECT_FALSE(files_.FreeBytes(""));
+}
+
+}  // namespace
+}  // namespace vell::test

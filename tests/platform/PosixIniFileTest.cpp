@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixIniFile.h"
+#include "tests/support/TempFolder.h"
+
+namespace vell::test {
+namespace {
+
+TEST(IniTextTest, looksUpAsThePrivateProfileCallsDo) {
+    const IniText ini(
+        "\xEF\xBB\xBFstray=1\n[Host]\r\n ; Host=comment\r\n  HOST \t=  service.example  \r\nQuoted=\" a b \"\r\n"
+        "Single='x'\r\nOpen=\"x\r\nEmpty=\r\nno value\r\nhost=second\r\n=nameless\r\nA=b=c;d\r\n"
+        "[ Download ] ; rest\nDialUp=Office\n[host]\nLate=1\n[Broken\nStill=1\n[End]\nLast=half");
+    const struct {
+        const char *Section, *Key;
+        std::optional<std::string_view> Value;
+    } cases[] = {{"host", "Host", "service.example"},
+                 {"HOST", " quoted ", " a b "},
+                 {"Host", "Single", "x"},
+                 {"Host", "Open", "\"x"},
+                 {"Host", "Empty", ""},
+                 {"Host", "no value", std::nullopt},
+                 {"Host", "A", "b=c;d"},
+                 {"Host", "", "nameless"},
+                 {"download", "Dialup", "Office"},
+                 {"Host", "Late", std::nullopt},
+                 {"", "stray", std::nullopt},
+                 {"Host", "; Host", std::nullopt},
+                 {"End", "Last", "half"},
+                 {"Gone", "Host", std::nullopt}};
+    for (const auto& one : cases)
+        EXPECT_EQ(ini.value(one.Section, one.Key), one.Value) << one.Section << "/" << one.Key;
+}
+
+TEST(IniTextTest, editsLeaveEveryOtherLineAsItIs) {
+    const auto edited = [](std::string bytes, auto edit) {
+        IniText ini(std::move(bytes));
+        edit(ini);
+        return ini.bytes();
+    };
+    const auto setX = [](IniText& ini) { ini.set("S", "X", "new"); };
+    EXPECT_EQ(edited("", setX), "[S]\r\nX=new\r\n");
+    EXPECT_EQ(edited("[A]\nk=v", setX), "[A]\nk=v\n[S]\nX=new\n");
+    EXPECT_EQ(edited("\xEF\xBB\xBF[s]\r\n x = \"old\" \r\n;c\r\n", setX), "\xEF\xBB\xBF[s]\r\n x = new\r\n;c\r\n");
+    EXPECT_EQ(edited("[S]\nA=1\n\n;c\n\n\n[T]\n", setX), "[S]\nA=1\n\n;c\nX=new\n\n\n[T]\n");
+    EXPECT_EQ(edited("[S]\nx=1\nX=2", setX), "[S]\nx=new\nX=2");
+    EXPECT_EQ(edited("[S]\nA=half", setX), "[S]\nA=half\nX=new\n");
+    const auto removeX = [](IniText& ini) { ini.removeKey("s", "x"); };
+    EXPECT_EQ(edited("[S]\nA=1\nX=1\n\nx=2", removeX), "[S]\nA=1\n\n");
+    EXPECT_EQ(edited("[T]\nX=1\n", removeX), "[T]\nX=1\n");
+    const auto removeS = [](IniText& ini) { ini.removeSection("S"); };
+    EXPECT_EQ(edited("[A]\n1=1\n[S]\nX=1\n\n[T]\nX=1\n[s]\nX=2", removeS), "[A]\n1=1\n[T]\nX=1\n");
+}
+
+class PosixIniFileTest : public testing::Test {
+  protected:
+    [[nodiscard]] std::string read(std::string_view key, std::size_t size = 250) const {
+        return ini_.ReadString(file_, "Host", key, "#NF#", size);
+    }
+
+    TempFolder folder_;
+    PosixFiles files_;
+    PosixIniFile ini_{files_};
+    std::string file_ = folder_.text() + "\\vell.ini";
+};
+
+TEST_F(PosixIniFileTest, everyByteOfAValueSurvivesApartFromLineEnds) {
+    EXPECT_EQ(read("Pwd"), "#NF#");
+    std::string all = "x";
+    for (int c = 0; c < 256; ++c)
+        if (c != '\r' && c != '\n') all += static_cast<char>(c);
+    all += 'x';
+    ASSERT_TRUE(ini_.WriteString(file_, "Host", "Pwd", all));
+    EXPECT_EQ(read("pwd", 1000), all);
+    EXPECT_EQ(read("pwd", 250), all.substr(0, 249));
+    EXPECT_EQ(PosixIniFile(files_).ReadString(file_, "HOST", "PWD", "", 1000), all);
+    EXPECT_FALSE(ini_.WriteString(file_, "Host", "Uid", "a\r\nPwd=stolen"));
+    ASSERT_TRUE(ini_.WriteString(file_, "Host", "Pwd", std::nullopt));
+    EXPECT_EQ(read("pwd"), "#NF#");
+    EXPECT_EQ(std::filesystem::status(folder_.path() / "vell.ini").permissions(), std::filesystem::perms{0600});
+}
+
+TEST_F(PosixIniFileTest, aFileThatAnotherHasChangedIsReadAgain) {
+    for (int i = 10; i < 60; ++i) {  // same length, and often within one tick of the file system's clock
+        folder_.put("vell.ini", "[Host]\nPort=" + std::to_string(i));
+        EXPECT_EQ(read("Port"), std::to_string(i));
+    }
+    std::filesystem::remove(folder_.path() / "vell.ini");
+    EXPECT_EQ(read("Port"), "#NF#");
+}
+
+TEST_F(PosixIniFileTest, aFileThatCannotBeReadOrWrittenIsLeftAlone) {
+    std::filesystem::create_directory(folder_.path() / "vell.ini");
+    EXPECT_EQ(read("Port"), "#NF#");
+    EXPECT_FALSE(ini_.WriteString(file_, "Host", "Port", "80"));
+    EXPECT_FALSE(ini_.WriteString(folder_.text() + "\\gone\\vell.ini", "Host", "Port", "80"));
+}
+
+}  // namespace
+}  // namespace vell::test
