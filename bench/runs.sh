@@ -13,7 +13,7 @@ vell=$PWD/build/release/bin/vell-console
 work=$PWD/build/bench
 port=$((20000 + RANDOM % 20000))
 rm -rf "$work/program" "$work/clips" "$work/curl"
-mkdir -p "$work/site/vell" "$work/logs" "$work/program" "$work/clips" "$work/curl"
+mkdir -p "$work/site/vell" "$work/logs" "$work/program"
 
 # A day: $1 = its folder name, $2 = clippings, $3 = size of a PDF file in bytes. TXT and MT are small, as in real life.
 make_day() {
@@ -26,9 +26,9 @@ make_day() {
   for number in $(seq -f %05g 1 "$count"); do
     local name=N$number$year$month$dom
     head -c "$size" /dev/urandom >"$folder/$name.PDF"
-    head -c 4000 /dev/zero | tr '\0' 'x' >"$folder/$name.TXT"
-    head -c 500 /dev/zero | tr '\0' 'y' >"$folder/$name.MT"
-    printf '%s.PDF||NEWSPAPER %s||TITLE OF CLIPPING %s||POLITICS|ECONOMY||ARTICLE||1||-||%s||4000||500<br>' \
+    head -c 8000 /dev/zero | tr '\0' 'x' >"$folder/$name.TXT"
+    head -c 2000 /dev/zero | tr '\0' 'y' >"$folder/$name.MT"
+    printf '%s.PDF||NEWSPAPER %s||TITLE OF CLIPPING %s||POLITICS|ECONOMY||ARTICLE||1||-||%s||8000||2000<br>' \
       "$name" "$((10#$number % 7))" "$number" "$size" >>"$list.new"
     for form in PDF TXT MT; do
       printf 'url = "http://127.0.0.1:%s/archive/%s/%s/%s/%s.%s"\noutput = "%s/curl/%s.%s"\n' \
@@ -38,8 +38,8 @@ make_day() {
   mv "$list.new" "$list"
 }
 
-make_day 01012004 100 70800
-make_day 02012004 1000 70800
+make_day 01012004 100 216000
+make_day 02012004 1000 216000
 make_day 03012004 1 209715200
 mkdir -p "$work/site/archive/RTIS/ME/NT"
 head -c 17855 /dev/urandom >"$work/site/archive/RTIS/ME/NT/ADVERTISMENT.JPG"
@@ -88,16 +88,19 @@ by_curl() { env -u http_proxy curl -s --http1.0 -K "$work/urls.now"; }
 compare() {  # $1 = day name, $2 = what it is, $3 = number of files; sets vell_time
   local day=${1//\//} ours=() theirs=()
   cp "$work/site/vell/$day.asp" "$work/today.asp"
-  sed "s/PORT/$port/" "$work/$day.urls" >"$work/urls.now"
-  for _ in $(seq "$repeats"); do
-    rm -rf "$work/clips/$day" "$work/curl"; mkdir -p "$work/curl"
+  for turn in $(seq "$repeats"); do
+    # Nothing is deleted between the turns: deleting slows the file system down for whoever comes next.
+    mkdir -p "$work/clips/$turn" "$work/curl/$turn"
+    sed -i "s#^LocalDir=.*#LocalDir=$work/clips/$turn\r#" "$work/program/vell.ini"
+    sed "s/PORT/$port/; s#/curl/#/curl/$turn/#" "$work/$day.urls" >"$work/urls.now"
     ours+=("$(seconds by_vell "$1")")
     theirs+=("$(seconds by_curl)")
   done
   vell_time=$(printf '%s\n' "${ours[@]}" | median)
   curl_time=$(printf '%s\n' "${theirs[@]}" | median)
-  diff -rq --exclude='*.DIR' --exclude='ALERT.MSG' "$work/clips/$day" "$work/curl" >/dev/null ||
+  diff -rq --exclude='*.DIR' --exclude='ALERT.MSG' "$work/clips/$turn/$day" "$work/curl/$turn" >/dev/null ||
     { echo "the files differ" >&2; exit 1; }
+  rm -rf "$work/clips" "$work/curl"
   awk -v w="$2" -v v="$vell_time" -v c="$curl_time" -v n="$3" 'BEGIN {
     printf "%-24s vell %.3f s  curl %.3f s  ratio %.2f  per file %.3f ms\n", w, v, c, v / c, v / n * 1000 }'
 }
@@ -108,6 +111,8 @@ compare 02/01/2004 "3000 files, 226 MB" 3000
 awk -v a="$small" -v b="$vell_time" 'BEGIN { printf "%-24s %.2f times the cost of a file of the 300\n", "", b / 3000 / (a / 300) }'
 compare 03/01/2004 "one file of 200 MB" 1
 cp "$work/site/vell/02012004.asp" "$work/today.asp"
+mkdir -p "$work/clips/peak"
+sed -i "s#^LocalDir=.*#LocalDir=$work/clips/peak\r#" "$work/program/vell.ini"
 if [ -x /usr/bin/time ]; then
   http_proxy=http://127.0.0.1:$port /usr/bin/time -f 'peak memory, 3000 files   %M KB' "$vell" --folder "$work/program" \
     download --date 02/01/2004 2>&1 >/dev/null | tail -1

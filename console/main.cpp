@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,7 +30,8 @@ int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
     vell::PosixFiles files;
     vell::PosixIniFile ini(files);
     vell::CurlInternet internet(loop, clock);
-    vell::PosixProcess process(line.Folder);
+    const auto wanted = line.Folder.empty() ? std::nullopt : std::optional(line.Folder);
+    vell::PosixProcess process(vell::ProgramPlace::ofThisProcess(wanted));
     vell::PosixShell shell;
     vell::Screen screen(terminal);
     vell::ConsoleBoxes boxes(terminal, screen, loop);

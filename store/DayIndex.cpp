@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "store/DayIndex.h"
 
+#include <utility>
+
 #include "base/text.h"
 #include "store/IndexFile.h"
 
@@ -9,7 +11,7 @@ namespace vell {
 namespace {
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::string_view openMark = "||-||";
-constexpr std::string_view doneMark = "||d||";  // as long as the other: lines keep their places
+constexpr std::size_t markOffset = 2;  // of the "-" that becomes "d"
 }  // namespace
 
 DayIndex::DayIndex(Files& files) : files_(files) {}
@@ -17,21 +19,37 @@ DayIndex::DayIndex(Files& files) : files_(files) {}
 int DayIndex::markDownloaded(const std::string& dayFolder, const std::string& pdfName) {
     load(dayFolder + std::string(indexFileName));
     const auto lines = linesOf_.find(pdfName);
-    const bool found = lines != linesOf_.end();
-    if (found) {
-        for (const std::size_t begin : lines->second) {
-            const std::size_t length = text_.find(lineEnd, begin) - begin;
-            text_.replace(begin, length, Replace(std::string_view(text_).substr(begin, length), openMark, doneMark));
+    if (lines == linesOf_.end()) {
+        store({});
+        return 0;
+    }
+    std::vector<std::size_t> changed;
+    for (const std::size_t begin : lines->second) {
+        const std::size_t end = text_.find(lineEnd, begin);
+        for (std::size_t at = text_.find(openMark, begin); at < end; at = text_.find(openMark, at + openMark.size())) {
+            changed.push_back(at + markOffset);
+            text_[changed.back()] = 'd';
         }
     }
-    stamp_.reset();  // if writing fails, the text here is not the file's
-    files_.WriteWhole(path_, text_, Durability::Rename);
+    store(changed);
+    return static_cast<int>(lines->second.size());
+}
+
+// Replacing a file makes the file system write it to the disk at once, which costs more than fetching the clipping.
+// Where the file is already as it would be written but for one byte, that byte is all that is written.
+void DayIndex::store(const std::vector<std::size_t>& changed) {
+    const bool isOnDisk = std::exchange(isOnDisk_, false);  // if writing fails, the text here is not the file's
+    if (!isOnDisk || changed.size() > 1)
+        files_.WriteWhole(path_, text_, Durability::Rename);
+    else if (changed.size() == 1)
+        files_.ReplaceByte(path_, static_cast<std::int64_t>(changed[0]), text_[changed[0]]);
     stamp_ = files_.Stamp(path_);
-    return found ? static_cast<int>(lines->second.size()) : 0;
+    isOnDisk_ = stamp_.has_value();
 }
 
 void DayIndex::load(const std::string& path) {
-    if (path == path_ && stamp_ && files_.Stamp(path) == stamp_) return;
+    if (path == path_ && isOnDisk_ && files_.Stamp(path) == stamp_) return;
+    isOnDisk_ = false;
     const std::string content = files_.ReadFile(path);
     path_ = path;
     text_.clear();

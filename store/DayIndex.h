@@ -26,10 +26,12 @@ class DayIndex {
 
   private:
     void load(const std::string& path);
+    void store(const std::vector<std::size_t>& changed);
 
     Files& files_;
     std::string path_;
-    std::optional<FileStamp> stamp_;
+    std::optional<FileStamp> stamp_;  // of the file as it was written last
+    bool isOnDisk_ = false;           // the file was written from text_
     std::string text_;
     std::unordered_map<std::string, std::vector<std::size_t>> linesOf_;  // where a clipping's lines begin in text_
 };

@@ -112,6 +112,16 @@ void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durab
     });
 }
 
+void PosixFiles::ReplaceByte(std::string_view path, std::int64_t offset, char byte) {
+    const auto place = locate(path);
+    FileHandle file(place, O_WRONLY);
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (offset < 0 || offset >= found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
+    if (pwrite(file.get(), &byte, 1, offset) != 1) raiseFileError(place);
+    file.close(place);
+}
+
 void PosixFiles::Append(std::string_view path, std::string_view bytes) {
     const auto place = locate(path);
     mayMake(place, [&] {

@@ -23,6 +23,7 @@ class PosixFiles : public Files {
     [[nodiscard]] std::string ReadFile(std::string_view path) const override;
     // Keeps the permissions of a file that it replaces.
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override;
+    void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override;
     void Append(std::string_view path, std::string_view bytes) override;
     [[nodiscard]] std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) override;
     void MakePrivateFile(std::string_view path) override;
