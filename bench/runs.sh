@@ -101,6 +101,7 @@ compare() {  # $1 = day name, $2 = what it is, $3 = number of files; sets vell_t
   diff -rq --exclude='*.DIR' --exclude='ALERT.MSG' "$work/clips/$turn/$day" "$work/curl/$turn" >/dev/null ||
     { echo "the files differ" >&2; exit 1; }
   rm -rf "$work/clips" "$work/curl"
+  sleep 6  # for five seconds ext4 searches past the inodes of deleted files
   awk -v w="$2" -v v="$vell_time" -v c="$curl_time" -v n="$3" 'BEGIN {
     printf "%-24s vell %.3f s  curl %.3f s  ratio %.2f  per file %.3f ms\n", w, v, c, v / c, v / n * 1000 }'
 }

@@ -2,7 +2,6 @@
 #include "console/Commands.h"
 
 #include "app/frmMain.h"
-#include "base/text.h"
 #include "console/ClippingsTable.h"
 #include "console/ConsoleBoxes.h"
 #include "console/ConsoleView.h"
@@ -11,6 +10,11 @@
 #include "platform/Terminal.h"
 
 namespace vell {
+
+namespace {
+// For readers of a file or a mail; programs take the tab-separated form, in which nothing is cut.
+constexpr std::size_t widthWithoutTerminal = 120;
+}  // namespace
 
 Commands::Commands(frmMain& program, ConsoleView& view, Terminal& terminal, Screen& screen, ConsoleBoxes& boxes)
     : program_(program), view_(view), terminal_(terminal), screen_(screen), boxes_(boxes) {
@@ -66,10 +70,10 @@ int Commands::list(const CommandLine& line) {
         return exit_code::Good;
     }
     screen_.print(day + "   " + std::to_string(browser.rows().size()) + " Clippings");
-    if (const std::string_view alert = Trim(view_.alert()); !alert.empty()) screen_.print(shownLines(alert));
+    if (const std::string alert = shownLines(view_.alert()); !alert.empty()) screen_.print(alert);
     const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
     for (const std::string& text :
-         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : 0))
+         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : widthWithoutTerminal))
         screen_.print(text);
     return exit_code::Good;
 }

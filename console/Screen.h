@@ -34,7 +34,7 @@ class Screen {
 // As UTF-8 for people and other programs: control characters become blanks, so that no text of the service can steer
 // the terminal or break a line.
 [[nodiscard]] std::string shownText(std::string_view text);
-// The same, but lines stay lines.
+// The same, but lines stay lines; empty ones at the end are left out.
 [[nodiscard]] std::string shownLines(std::string_view text);
 // How many columns a UTF-8 text takes; every character of the code page takes one.
 [[nodiscard]] std::size_t columns(std::string_view utf8);
