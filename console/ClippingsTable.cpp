@@ -62,7 +62,9 @@ std::string lineOf(const Cells& cells, const Widths& widths) {
 }  // namespace
 
 std::vector<std::string> clippingsTable(const std::vector<ClippingRow>& rows, std::size_t width) {
-    std::vector<Cells> table{{"", "Newspaper", "Title", "Type", "Category"}};
+    std::vector<Cells> table;
+    table.reserve(rows.size() + 1);
+    table.push_back({"", "Newspaper", "Title", "Type", "Category"});
     for (const ClippingRow& row : rows)
         table.push_back(cellsOf(row));
     Widths widths{};
