@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include <array>
+#include <cstdlib>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/posix/FileHandle.h"
+#include "platform/posix/PosixShell.h"
+#include "tests/support/TempFolder.h"
+
+namespace vell::test {
+namespace {
+
+using std::filesystem::perms;
+
+// Programs that say with which arguments they were started, and a desktop whose viewer for PDF and text is one.
+class PosixShellTest : public testing::Test {
+  protected:
+    static void SetUpTestSuite() {
+        desktop_ = std::make_unique<TempFolder>();
+        for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+            setenv(variable, desktop_->text().c_str(), 1);
+        ASSERT_EQ(mkfifo((desktop_->text() + "/said").c_str(), 0600), 0);
+        said_ = FileHandle({"", desktop_->text() + "/said"}, O_RDWR | O_NONBLOCK);
+        putProgram(*desktop_, "viewer");
+        desktop_->put("applications/vell-viewer.desktop",
+                      "[Desktop Entry]\nType=Application\nName=Viewer\nMimeType=application/pdf;text/plain;\n"
+                      "Exec=" +
+                          desktop_->text() + "/viewer %f\n");
+        desktop_->put("applications/vell-browser.desktop",
+                      "[Desktop Entry]\nType=Application\nName=Browser\nMimeType=x-scheme-handler/http;\nExec=" +
+                          desktop_->text() + "/viewer -- %u\n");
+        desktop_->put("mimeapps.list",
+                      "[Default Applications]\napplication/pdf=vell-viewer.desktop\ntext/plain=vell-viewer.desktop\n"
+                      "inode/directory=vell-viewer.desktop\nx-scheme-handler/http=vell-browser.desktop\n");
+    }
+    static void TearDownTestSuite() {
+        said_ = FileHandle();
+        desktop_.reset();
+    }
+    void SetUp() override { setenv("PATH", path_.c_str(), 1); }
+    void TearDown() override { setenv("PATH", systemPath_.c_str(), 1); }
+
+    static void putProgram(const TempFolder& folder, const std::string& name, const std::string& last = "") {
+        folder.put(name, "#!/bin/sh\nfor a in \"$@\"; do t=\"$t[$a]\"; done\nprintf '%s\\n' \"$t\" > " +
+                             desktop_->text() + "/said\n" + last);
+        std::filesystem::permissions(folder.path() / name, perms::owner_all);
+    }
+    // What the program that was started says; it cannot be waited for, so this waits for its words.
+    static std::string said() {
+        std::string words;
+        pollfd ready{said_.get(), POLLIN, 0};
+        while (!words.ends_with('\n') && poll(&ready, 1, 20'000) == 1) {
+            std::array<char, 4096> part{};
+            words.append(part.data(), static_cast<std::size_t>(read(said_.get(), part.data(), part.size())));
+        }
+        return words.substr(0, words.find('\n'));
+    }
+    [[nodiscard]] std::string at(const std::string& name) const { return folder_.text() + "\\" + name; }
+
+    static inline std::unique_ptr<TempFolder> desktop_;
+    static inline FileHandle said_;
+    TempFolder folder_;
+    std::string systemPath_ = std::getenv("PATH"), path_ = ":.:" + folder_.text() + "/bin";
+    PosixShell shell_{{folder_.text() + "/own"}};
+};
+
+TEST_F(PosixShellTest, aDocumentGoesToTheDesktopsApplicationUnderItsRealName) {
+    folder_.put("Day 1/Άρθρο.PDF", "%PDF-1.4\n");
+    EXPECT_GT(shell_.Open(at("DAY 1\\\xDC\xF1\xE8\xF1\xEF.pdf"), ""), 32);
+    EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1/Άρθρο.PDF]");
+    EXPECT_GT(shell_.Open(at("day 1\\"), ""), 32);
+    EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1]");
+    EXPECT_GT(shell_.Open("HTTP://service.example/a?b=c", ""), 32);
+    EXPECT_EQ(said(), "[--][HTTP://service.example/a?b=c]");
+}
+
+TEST_F(PosixShellTest, aProgramIsFoundBesideOursThenAlongThePathAndGetsItsArguments) {
+    putProgram(folder_, "own/Reader");
+    putProgram(folder_, "bin/Reader");
+    putProgram(folder_, "bin/other");
+    folder_.put("a b.PDF", "x");
+    EXPECT_GT(shell_.Open("READER", " /p  /h \"" + at("A b.pdf") + "\" \"\" c\\d"), 32);
+    EXPECT_EQ(said(), "[/p][/h][" + folder_.text() + "/a b.PDF][][c\\d]");
+    EXPECT_EQ(waitpid(-1, nullptr, WNOHANG), -1) << "the program is our child still";
+    EXPECT_GT(shell_.Open("other", ""), 32);
+    EXPECT_EQ(said(), "");
+    folder_.put("own/Vellhelp.txt", "help");
+    EXPECT_GT(shell_.Open("Vellhelp.TXT", ""), 32);
+    EXPECT_EQ(said(), "[" + folder_.text() + "/own/Vellhelp.txt]");
+}
+
+TEST_F(PosixShellTest, failuresHaveShellExecutesCodes) {
+    folder_.put("a.unknown-kind", std::string("\0\1\2", 3));
+    folder_.put("b.desktop", "[Desktop Entry]\nType=Application\nExec=/bin/true\n");
+    folder_.put("script", "#!/bin/sh\n");
+    folder_.put("marked.pdf", "%PDF-1.4\n");
+    std::filesystem::permissions(folder_.path() / "marked.pdf", perms::owner_all);
+    folder_.put("bin/garbage", std::string("\0no program", 11));
+    std::filesystem::permissions(folder_.path() / "bin/garbage", perms::owner_all);
+    const struct {
+        std::string File;
+        int Code;
+    } cases[] = {{at("gone.pdf"), 2},
+                 {at("gone\\a.pdf"), 3},
+                 {at("script\\a.pdf"), 3},
+                 {at("a.unknown-kind"), 31},
+                 {at("b.desktop"), 5},
+                 {at("script"), 5},
+                 {at("marked.pdf"), 5},
+                 {"\\dev\\null", 5},
+                 {"garbage", 11},
+                 {"gone", 2},
+                 {"", 2},
+                 {"a\nb", 2},
+                 {"file:///etc/passwd", 3},
+                 {"Acrord32.exe", 2}};
+    for (const auto& one : cases)
+        EXPECT_EQ(shell_.Open(one.File, ""), one.Code) << one.File;
+}
+
+TEST_F(PosixShellTest, printingHandsTheFileToLp) {
+    putProgram(folder_, "bin/lp", "exit 3\n");
+    setenv("PATH", (path_ + ":" + systemPath_).c_str(), 1);
+    folder_.put("-a b.PDF", "x");
+    PosixShell beside;  // the helper lies beside the test
+    EXPECT_GT(beside.Open(PosixShell::printHelper, " /p /h \"" + at("-A B.pdf") + "\""), 32);
+    EXPECT_EQ(said(), "[--][" + folder_.text() + "/-a b.PDF]");
+
+    const auto helper = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "Acrord32.exe";
+    const auto exitCode = [&](std::vector<std::string> arguments) {
+        std::vector<char*> argv;
+        for (auto& argument : arguments)
+            argv.push_back(argument.data());
+        argv.push_back(nullptr);
+        pid_t child = 0;
+        int status = -1;
+        EXPECT_EQ(posix_spawn(&child, helper.c_str(), nullptr, nullptr, argv.data(), environ), 0);
+        waitpid(child, &status, 0);
+        return WEXITSTATUS(status);
+    };
+    EXPECT_EQ(exitCode({"Acrord32.exe", "/p", "/h", "a.pdf"}), 3);
+    EXPECT_EQ(said(), "[--][a.pdf]");
+    EXPECT_EQ(exitCode({"Acrord32.exe", "/p", "/h"}), 2);
+}
+
+}  // namespace
+}  // namespace vell::test
