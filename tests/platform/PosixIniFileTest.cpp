@@ -5,6 +5,7 @@
 
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixIniFile.h"
+#include "tests/support/FaultyFiles.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {
@@ -98,6 +99,23 @@ TEST_F(PosixIniFileTest, aFileThatCannotBeReadOrWrittenIsLeftAlone) {
     EXPECT_EQ(read("Port"), "#NF#");
     EXPECT_FALSE(ini_.WriteString(file_, "Host", "Port", "80"));
     EXPECT_FALSE(ini_.WriteString(folder_.text() + "\\gone\\vell.ini", "Host", "Port", "80"));
+}
+
+TEST_F(PosixIniFileTest, whereverTheDiskFailsTheOldSettingsStand) {
+    FaultyFiles faulty(files_);
+    PosixIniFile ini(faulty);
+    const std::string old = "[Host]\r\nPort=21\r\n";
+    int n = 1;
+    for (bool hasFailed = true; hasFailed; ++n) {
+        folder_.put("vell.ini", old);
+        faulty.failAt(n);
+        const bool written = ini.WriteString(file_, "Host", "Port", "80");
+        hasFailed = faulty.hasFailed();
+        EXPECT_EQ(written, !hasFailed);
+        EXPECT_EQ(folder_.get("vell.ini"), written ? "[Host]\r\nPort=80\r\n" : old);
+        EXPECT_EQ(read("Port"), written ? "80" : "21");
+    }
+    EXPECT_GE(n, 3) << "reading and writing can both fail";
 }
 
 }  // namespace

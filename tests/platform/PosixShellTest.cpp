@@ -23,7 +23,9 @@ using std::filesystem::perms;
 // Programs that say with which arguments they were started, and a desktop whose viewer for PDF and text is one.
 class PosixShellTest : public testing::Test {
   protected:
+    // The desktop's folders are read once in a process.
     static void SetUpTestSuite() {
+        if (desktop_) return;
         desktop_ = std::make_unique<TempFolder>();
         for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
             setenv(variable, desktop_->text().c_str(), 1);
@@ -40,10 +42,6 @@ class PosixShellTest : public testing::Test {
         desktop_->put("mimeapps.list",
                       "[Default Applications]\napplication/pdf=vell-viewer.desktop\ntext/plain=vell-viewer.desktop\n"
                       "inode/directory=vell-viewer.desktop\nx-scheme-handler/http=vell-browser.desktop\n");
-    }
-    static void TearDownTestSuite() {
-        said_ = FileHandle();
-        desktop_.reset();
     }
     void SetUp() override { setenv("PATH", path_.c_str(), 1); }
     void TearDown() override { setenv("PATH", systemPath_.c_str(), 1); }
