@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
+
+namespace vell::test {
+
+// An FTP client that does exactly what a test tells it.
+class FtpPeer {
+  public:
+    // Takes the greeting and logs in as the service's clients do.
+    explicit FtpPeer(const std::string& place, const std::string& user = "vell", const std::string& password = "ruxo");
+
+    void send(std::string_view bytes) { control_ << bytes << std::flush; }
+    // A whole reply, its lines joined by "\n"; empty when the connection was closed.
+    [[nodiscard]] std::string reply();
+    [[nodiscard]] int code();
+    // Sends a command and takes its reply.
+    std::string ask(const std::string& command);
+    int tell(const std::string& command);
+    // The same with a CWD before it.
+    int tellIn(const std::string& directory, const std::string& command);
+
+    // The address that PASV gave, "127.0.0.1:34567".
+    [[nodiscard]] std::string passive();
+    // Runs a transfer command to its last reply, over a connection of the given kind, and gives what came.
+    enum class Way { Passive, Active };
+    [[nodiscard]] std::string receive(const std::string& command, Way way = Way::Passive);
+    // Sends the bytes with STOR or APPE; the last code.
+    int store(const std::string& command, std::string_view bytes);
+    // Of the last transfer.
+    [[nodiscard]] int lastCode() const { return lastCode_; }
+
+    void hangUp() { control_.close(); }
+
+  private:
+    std::string receiveActive(const std::string& command);
+
+    asio::ip::tcp::iostream control_;
+    int lastCode_ = 0;
+};
+
+}  // namespace vell::test
