@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#include "platform/asio/SocketHandles.h"
+
+#ifndef _WIN32
+#include <fcntl.h>
+#endif
+
+namespace vell {
+
+void keepFromChildren(asio::ip::tcp::socket::native_handle_type handle) {
+#ifdef _WIN32
+    SetHandleInformation(reinterpret_cast<HANDLE>(handle), HANDLE_FLAG_INHERIT, 0);
+#else
+    fcntl(handle, F_SETFD, FD_CLOEXEC);
+#endif
+}
+
+}  // namespace vell
