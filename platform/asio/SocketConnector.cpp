@@ -15,7 +15,7 @@ using asio::ip::tcp;
 namespace {
 
 // Each state lasts for this many turns of the context's queue. One wait and one yield of the event loop take at most
-// six, so that whoever looks at the state between them sees every one, however fast the answers come.
+// seven, so that whoever looks at the state between them sees every one, however fast the answers come.
 constexpr int turnsOfAState = 8;
 
 }  // namespace

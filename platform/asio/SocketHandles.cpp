@@ -9,7 +9,7 @@ namespace vell {
 
 void keepFromChildren(asio::ip::tcp::socket::native_handle_type handle) {
 #ifdef _WIN32
-    SetHandleInformation(reinterpret_cast<HANDLE>(handle), HANDLE_FLAG_INHERIT, 0);
+    SetHandleInformation(reinterpret_cast<HANDLE>(static_cast<SOCKET>(handle)), HANDLE_FLAG_INHERIT, 0);
 #else
     fcntl(handle, F_SETFD, FD_CLOEXEC);
 #endif

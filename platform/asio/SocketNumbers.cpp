@@ -69,6 +69,7 @@ std::int32_t numberOf(const std::error_code& code) {
     const auto& category = code.category();
     if (category == asio::error::get_netdb_category() || category == asio::error::get_addrinfo_category())
         return lookupNumber(code);
+    if (code.value() >= 10000) return code.value();  // Winsock's already; no system's errno goes so far
     // By way of the generic category: Asio's own knows fewer conditions than the system has errors.
     const std::error_condition condition = std::system_category().default_error_condition(code.value());
     const auto* row = std::ranges::find_if(rows, [&](const Row& one) { return condition == one.Condition; });
