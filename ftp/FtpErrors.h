@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace vell {
+
+// The client's own error numbers that are set outside the tables of FtpErrors.cpp.
+namespace ftp_error {
+inline constexpr std::int32_t ServiceReadyLater = 37;
+inline constexpr std::int32_t BadArgument = 48;  // as for reply 501
+inline constexpr std::int32_t TimedOut = 58;
+inline constexpr std::int32_t TransferInProgress = 59;
+}  // namespace ftp_error
+
+// Numbers of the socket component that the client itself reports.
+namespace socket_error {
+inline constexpr std::int32_t InvalidPropertyValue = 380;
+inline constexpr std::int32_t Canceled = 10004;
+inline constexpr std::int32_t InvalidArgument = 10014;
+inline constexpr std::int32_t InProgress = 10036;
+inline constexpr std::int32_t MessageTooBig = 10040;
+inline constexpr std::int32_t ConnectionReset = 10054;
+inline constexpr std::int32_t NotConnected = 10057;
+}  // namespace socket_error
+
+// The last failure of a connection: a number that callers compare, and a text. Success does not clear it.
+class FtpErrors {
+  public:
+    // Records what a reply code stands for. False, and nothing touched, for a code that is not known; success codes
+    // are known and record nothing.
+    bool CheckReplyCode(std::int32_t code);
+    // Records a run-time error. False for a number that is not a socket's: the text is replaced all the same.
+    bool MapSocketError(std::int32_t socketError, std::string_view description);
+
+    // Some numbers leave the text as it is.
+    void set(std::int32_t number) { number_ = number; }
+    void set(std::int32_t number, std::string_view text);
+
+    [[nodiscard]] std::int32_t number() const { return number_; }
+    [[nodiscard]] const std::string& text() const { return text_; }
+
+  private:
+    std::int32_t number_ = 0;
+    std::string text_;
+};
+
+}  // namespace vell
