@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#include "ftp/OrderedEvents.h"
+
+#include <string>
+#include <utility>
+
+#include "ftp/ScopedFlag.h"
+
+namespace vell {
+
+void OrderedEvents::StateChanged(std::int32_t state) {
+    raise([this, state] { owner_.StateChanged(state); });
+}
+
+void OrderedEvents::DownloadProgress(std::int32_t bytes) {
+    raise([this, bytes] { owner_.DownloadProgress(bytes); });
+}
+
+void OrderedEvents::UploadProgress(std::int32_t bytes) {
+    raise([this, bytes] { owner_.UploadProgress(bytes); });
+}
+
+void OrderedEvents::ReplyMessage(std::string_view text) {
+    raise([this, message = std::string(text)] { owner_.ReplyMessage(message); });
+}
+
+void OrderedEvents::raise(std::function<void()> event) {
+    due_.push_back(std::move(event));
+    if (raising_) return;
+    const ScopedFlag raising(raising_);
+    while (!due_.empty()) {
+        const auto next = std::move(due_.front());
+        due_.pop_front();
+        next();
+    }
+}
+
+}  // namespace vell

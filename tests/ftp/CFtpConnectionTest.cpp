@@ -1,0 +1,282 @@
+// SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <ctime>
+
+#include "ftp/CFtpConnection.h"
+#include "tests/ftp/FtpFixture.h"
+#include "tests/ftp/ScriptedServer.h"
+
+namespace vell::test {
+namespace {
+
+using namespace std::string_literals;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::StartsWith;
+
+class CFtpConnectionTest : public FtpFixture {
+  protected:
+    void connectTo(ScriptedServer& server) {
+        ftp.Port = server.port();
+        ASSERT_TRUE(ftp.Connect()) << ftp.GetFtpErrorDescription();
+        told.clear();
+        server.commands.clear();
+    }
+    // What the Stop button does when a close is refused because a transfer runs.
+    void stop() {
+        EXPECT_FALSE(ftp.CloseConnection());
+        EXPECT_EQ(ftp.FtpGetLastError(), 59);
+        ftp.CancelTransfer();
+        ftp.BreakeConnection();
+        EXPECT_TRUE(ftp.CloseConnection());
+    }
+};
+
+TEST_F(CFtpConnectionTest, tellsTheWholeDialogueInItsOrderWithThePasswordMasked) {
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", "150 Coming|+hello|=|226 Sent");
+    ftp.Port = server.port();
+    ASSERT_TRUE(ftp.Connect() && ftp.downloadFile("a.pdf", local("a.pdf"), 0) && ftp.CloseConnection());
+    EXPECT_EQ(ftp.CurrentDirectory(), "/home");
+    std::erase(told, "Down 5");
+    EXPECT_THAT(told, ElementsAre("State 0", "State 1", "State 2", "220 Ready", "State 3", "USER vell", "331 Password?",
+                                  "PASS **********", "230 In", "PWD", "257 \"/home\"", "TYPE I", "200 Fine", "State 5",
+                                  StartsWith("PORT 127,0,0,1,"), "200 Fine", "State 6", "RETR a.pdf", "150 Coming",
+                                  "State 9", "226 Sent", "State 10", "QUIT", "221 Bye"));
+    EXPECT_EQ(server.commands.at(1), "PASS ruxo");
+}
+
+TEST_F(CFtpConnectionTest, logsInWithEveryServerThatLetsItIn) {
+    struct Case {
+        std::string Command, Steps;
+        int Error;  // 0: logged in
+        std::size_t Commands;
+    };
+    // clang-format off
+    for (const Case& c : std::vector<Case>{
+             {"", "220-Hi\r\n 220 no\r\n220 Go", 0, 3}, {"", ">220|~9|> H|~9|i", 0, 3},
+             {"USER", "230 In", 0, 2}, {"PASS", "230-Hi|~60000|226 no|230 In", 0, 3},
+             {"", "120 Later", 37, 0}, {"", "421 Full|!", 41, 0}, {"", "~99999", 58, 0}, {"", "!", 7, 0},
+             {"USER", "530 Who?", 52, 1}, {"USER", "!", 7, 1}, {"PASS", "530 No", 52, 2}, {"PASS", "!", 7, 2},
+             {"PASS", "230-Hi|!", 7, 2}, {"PASS", "230-Hi|>" + std::string(70'000, 'x'), 16, 2},
+         }) {
+        // clang-format on
+        SCOPED_TRACE(c.Steps.substr(0, 60));
+        for (const bool split : {false, true}) {
+            ScriptedServer server(sockets, loop);
+            server.splitsReplies = split && c.Steps.size() < 100;
+            server.on(c.Command, c.Steps);
+            ftp.Port = server.port();
+            EXPECT_EQ(ftp.Connect(), c.Error == 0);
+            EXPECT_EQ(ftp.IsConnected(), c.Error == 0);
+            EXPECT_TRUE(c.Error == 0 || ftp.FtpGetLastError() == c.Error) << ftp.FtpGetLastError();
+            EXPECT_EQ(server.commands.size(), c.Commands);
+        }
+    }
+}
+
+TEST_F(CFtpConnectionTest, needsAServerAndAPasswordUnlessItIsAnonymous) {
+    ScriptedServer server(sockets, loop);
+    ScriptedServer another(sockets, loop);
+    ftp.Port = server.port();
+    ftp.FtpServer.clear();
+    EXPECT_FALSE(ftp.Connect() || !told.empty());
+    ftp.FtpServer = "127.0.0.1";
+    ftp.Password.clear();
+    EXPECT_FALSE(ftp.Connect() || !server.commands.empty());
+    ftp.UserName.clear();
+    connectTo(another);
+    EXPECT_EQ(ftp.UserName, "anonymous");
+    EXPECT_FALSE(ftp.Connect());  // nobody listens any more
+    EXPECT_EQ(ftp.FtpGetLastError(), 6);
+    EXPECT_LT(seconds(), 1);
+}
+
+TEST_F(CFtpConnectionTest, downloadsWholeFilesAndTellsAtOnceWhyItCannot) {
+    struct Case {
+        std::string Command, Steps;
+        int Error;  // 0: downloaded; 58 is the one that may take its time
+        std::string Bytes;
+        bool Connected = true;
+        int Offset = 0;
+    };
+    const std::string big(300'000, '\xFF');
+    // clang-format off
+    for (const Case& c : std::vector<Case>{
+             {"RETR", "150 a\r\n226 b|+new|=", 0, "new"},
+             {"RETR", "+new|=|~99|150 a|226 b", 0, "new"},
+             {"RETR", "125 a|+" + big + "|=|~4000|250 b", 0, big},
+             {"RETR", "150 a\r\n226 b|~4000|+new|=", 0, "new"},
+             {"RETR", "150 a|+n|~4000|+e|~4000|+w|~4000|=|226 b", 0, "new"},
+             {"RETR", "150-a\r\n226 no\r\n150 \0\xFF\r\n226-b\r\n 226 no\r\n226 c|+new|="s, 0, "new"},
+             {"RETR", "150 a|=|226 b", 0, ""},
+             {"RETR", "150 a|+new|=|226 b", 0, "olnew", true, 2},
+             {"REST", "502 No", 49, "old", true, 1},
+             {"RETR", "550 No", 54, "old"}, {"RETR", "425 No", 42, "old"}, {"PORT", "500 Illegal", 47, "old"},
+             {"RETR", "150 a|+ne|=|451 b", 45, "ne"},
+             {"RETR", "150 a|+ne|~9|426 b", 43, "ne", false},
+             {"TYPE", "421 Idle|!", 41, "old", false},
+             {"TYPE", "!", 7, "old", false}, {"PORT", "!", 7, "old", false}, {"RETR", "!", 7, "old", false},
+             {"RETR", "150 a|+ne|~9|!", 7, "ne", false},
+             {"TYPE", "~99999", 58, "old"}, {"RETR", "150 a|+ne|~99999", 58, "ne"}, {"RETR", "150 a\r\n226 b", 58, ""},
+             {"RETR", ">150-" + std::string(1'000'000, 'x'), 16, "old", false},
+             {"TYPE", std::string(100'000, '\n'), 16, "old", false},
+         }) {
+        // clang-format on
+        SCOPED_TRACE(c.Command + " " + c.Steps.substr(0, 60));
+        folder.put("a.pdf", "old");
+        ScriptedServer server(sockets, loop);
+        server.on(c.Command, c.Steps);
+        connectTo(server);
+        const double begin = seconds();
+        EXPECT_EQ(ftp.downloadFile("a.pdf", local("a.pdf"), c.Offset), c.Error == 0) << ftp.GetFtpErrorDescription();
+        if (c.Error != 0) {
+            EXPECT_EQ(ftp.FtpGetLastError(), c.Error);
+            EXPECT_NEAR(seconds() - begin, c.Error == 58 ? ftp.Timeout + 1 : 0, 0.3);  // the tick after the last one
+        }
+        EXPECT_EQ(folder.get("a.pdf"), c.Bytes);
+        EXPECT_EQ(std::ranges::count(told, "Down 5"), c.Bytes == "olnew" ? 1 : 0);
+        EXPECT_EQ(ftp.IsConnected(), c.Connected);
+        EXPECT_FALSE(ftp.Busy());
+        ftp.BreakeConnection();
+    }
+}
+
+TEST_F(CFtpConnectionTest, keepsInStepWithAServerThatAnswersAfterTheTimeOut) {
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", "150 a|+x|~9000|226 late");
+    connectTo(server);
+    EXPECT_FALSE(ftp.downloadFile("a.pdf", local("a.pdf"), 0));
+    EXPECT_EQ(ftp.FtpGetLastError(), 58);
+    server.on("RETR", "150 a|+xyz|=|226 b");
+    EXPECT_TRUE(ftp.downloadFile("a.pdf", local("a.pdf"), 0)) << ftp.GetFtpErrorDescription();
+    EXPECT_TRUE(ftp.SetCurrentDirectory("x") && ftp.CloseConnection());
+    EXPECT_EQ(folder.get("a.pdf"), "xyz");
+}
+
+TEST_F(CFtpConnectionTest, asksWhetherToKeepWaitingWhenSomebodyIsThere) {
+    ScriptedServer server(sockets, loop);
+    server.on("CWD", "~15000|250 Done");
+    connectTo(server);
+    answer = [this] { return asked.size() < 4 ? Answer::Yes : Answer::No; };
+    EXPECT_TRUE(ftp.SetCurrentDirectory("x"));
+    EXPECT_THAT(asked, testing::SizeIs(2));
+    EXPECT_EQ(asked.at(0),
+              "A time-out occurred while communicating with the server.The server took too long to respond.\r\n\r\n"
+              "Would you like to wait for server response?");
+    server.on("CWD", "~99999");
+    EXPECT_FALSE(ftp.SetCurrentDirectory("x"));
+    EXPECT_EQ(ftp.FtpGetLastError(), 58);
+    ftp.AskOnTimeout = false;
+    EXPECT_FALSE(ftp.SetCurrentDirectory("x"));
+    EXPECT_THAT(asked, testing::SizeIs(4));
+}
+
+TEST_F(CFtpConnectionTest, endsATransferAtOnceWhenItIsStoppedFromInsideItsWait) {
+    struct Case {
+        std::string Command, Steps, StopAt, Abor;
+    };
+    const std::string block(200'000, 'x');
+    folder.put("big", block);
+    // clang-format off
+    for (const Case& c : std::vector<Case>{
+             {"RETR", "150 a|+" + block, "Down", "426 a\r\n226 b"},
+             {"RETR", "150 a|+" + block, "Down", "226 b"},
+             {"RETR", "150 a|+" + block, "Down", "502 No|426 a"},
+             {"RETR", "150 a", "150", "426 a|226 b"},
+             {"RETR", "150 a\r\n226 b|+" + block, "226", "226 b"},
+             {"RETR", "~500|425 a", "RETR", "226 b"},
+             {"STOR", "150 a|+|~500", "Up", "426 a"},
+             {"RETR", "150 a|+" + block, "Down", "~99999"},
+         }) {
+        // clang-format on
+        SCOPED_TRACE(c.StopAt + " " + c.Abor);
+        ScriptedServer server(sockets, loop);
+        server.on(c.Command, c.Steps);
+        server.on("ABOR", c.Abor);
+        connectTo(server);
+        bool stopped = false;
+        onTold = [&](const std::string& what) {
+            if (!what.starts_with(c.StopAt) || std::exchange(stopped, true)) return;
+            EXPECT_FALSE(ftp.SetCurrentDirectory("second operation"));
+            EXPECT_EQ(ftp.FtpGetLastError(), 11);
+            stop();
+        };
+        const double begin = seconds();
+        EXPECT_FALSE(c.Command == "STOR" ? ftp.UploadFile(local("big"), "b") : ftp.downloadFile("b", local("b"), 0));
+        EXPECT_TRUE(stopped);
+        EXPECT_LE(seconds() - begin, c.Abor == "~99999" ? ftp.Timeout + 1.2 : 1);
+        EXPECT_FALSE(ftp.Busy() || ftp.IsConnected());
+        EXPECT_TRUE(asked.empty());
+    }
+}
+
+TEST_F(CFtpConnectionTest, stopEndsTheWaitForALoginAndAnOpenQuestion) {
+    ScriptedServer silent(sockets, loop);
+    silent.on("", "~99999");
+    ftp.Port = silent.port();
+    const auto timer = loop.SetTimer(2000, [this] { EXPECT_TRUE(ftp.CloseConnection()); });
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_NEAR(seconds(), 2, 0.1);
+    loop.KillTimer(timer);
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", "150 a|+x|~99999");
+    connectTo(server);
+    answer = [this] { return stop(), Answer::Yes; };
+    EXPECT_FALSE(ftp.downloadFile("a", local("a"), 0));
+    EXPECT_THAT(asked, testing::SizeIs(1));
+}
+
+TEST_F(CFtpConnectionTest, failsWithoutADataConnectionOrALocalFile) {
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", "150 a");
+    server.on("LIST", "150 a\r\n226 b|+01-15-04 10:30AM 12 a.pdf\r\n01-15-04 10:30AM <DIR> d\r\n|=");
+    connectTo(server);
+    EXPECT_EQ(ftp.EnumFiles().Count(), 2);
+    EXPECT_FALSE(ftp.downloadFile("a", local("no\\such\\folder"), 0));
+    EXPECT_THAT(logged, ElementsAre(StartsWith("downloadFile() ")));
+    EXPECT_TRUE(ftp.IsConnected());
+    ftp.PassiveMode = true;
+    server.on("PASV", "227 Somewhere (1,2,3)");
+    EXPECT_EQ(ftp.EnumFiles().Count(), 0);
+    EXPECT_EQ(ftp.FtpGetLastError(), 13);
+    server.on("PASV", "227 Nobody (127,0,0,1,0,1)");
+    EXPECT_EQ(ftp.EnumFiles().Count(), 0);
+    EXPECT_EQ(ftp.FtpGetLastError(), 6);
+    EXPECT_THAT(logged, Contains(StartsWith("wscData Error-->Number:10061, Description:")));
+}
+
+TEST_F(CFtpConnectionTest, sendsNoArgumentThatCouldCarryASecondCommand) {
+    ScriptedServer server(sockets, loop);
+    connectTo(server);
+    for (const std::string& bad : {"a\rb"s, "a\nb"s, "a\0b"s, "a\r\nDELE b"s}) {
+        ftp.UserName = bad;
+        EXPECT_FALSE(ftp.SetCurrentDirectory(bad) || ftp.RenameFile(bad, "x") || ftp.RenameFile("x", bad) ||
+                     ftp.DeleteFile(bad) || ftp.CreateDirectory(bad) || ftp.RemoveDirectory(bad) || ftp.Connect() ||
+                     ftp.downloadFile(bad, local("x"), 0) || ftp.UploadFile(local("x"), bad) ||
+                     ftp.EnumFilesCriteria(bad).Count() != 0);
+        EXPECT_EQ(ftp.FtpGetLastError(), 48);
+        EXPECT_THAT(ftp.GetFtpErrorDescription(), testing::HasSubstr("line end"));
+    }
+    EXPECT_TRUE(server.commands.empty() && ftp.IsConnected());
+}
+
+// As slow as real time, since processor time is what counts here.
+class SlowClockTest : public FtpFixture {
+  protected:
+    SlowClockTest() : FtpFixture(std::chrono::milliseconds{10}) {}
+};
+
+TEST_F(SlowClockTest, aSilentSecondCostsNoProcessorTime) {
+    ScriptedServer server(sockets, loop);
+    server.on("", "~99999");
+    ftp.Port = server.port();
+    ftp.Timeout = 0;
+    const std::clock_t begin = std::clock();
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_NEAR(seconds(), 1, 0.1);
+    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC / 50);
+}
+
+}  // namespace
+}  // namespace vell::test

@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: MIT
+#include <filesystem>
+#include <map>
+#include <optional>
+
+#include "tests/ftp/FtpFixture.h"
+#include "tests/ftp/FtpServerProcess.h"
+
+namespace vell::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+// Servers that others wrote, each serving `remote`.
+class RealServersTest : public FtpFixture, public testing::WithParamInterface<std::string> {
+  protected:
+    RealServersTest() : FtpFixture(std::chrono::milliseconds{1}) {
+        for (unsigned i = 0; pdf.size() < 700'000; ++i)
+            pdf += static_cast<char>(i * i >> 3);
+        remote.put("clips/a.pdf", pdf);
+        remote.put("clips/empty.txt", "");
+        fs::create_directory(remote.path() / "clips/inner");
+        fs::create_symlink("a.pdf", remote.path() / "clips/link");
+        fs::create_symlink("inner", remote.path() / "clips/way");
+    }
+    void SetUp() override {
+        server.emplace(GetParam(), remote);
+        if (server->port() == 0) GTEST_SKIP() << "not installed";
+        ftp.Port = server->port();
+        ftp.Timeout = 600;  // the driven clock runs faster than the server
+        if (GetParam() == "vsftpd") ftp.UserName = ftp.Password = "";
+        ASSERT_TRUE(ftp.Connect() && ftp.SetCurrentDirectory("clips")) << ftp.GetFtpErrorDescription();
+    }
+
+    std::string pdf;
+    TempFolder remote;
+    std::optional<FtpServerProcess> server;
+};
+
+TEST_P(RealServersTest, listFilesLinksAndFoldersAndRefuseAStranger) {
+    EXPECT_FALSE(ftp.CurrentDirectory().ends_with("/clips"));
+    EXPECT_TRUE(ftp.GetCurrentDirectory());
+    EXPECT_TRUE(ftp.CurrentDirectory().ends_with("/clips")) << ftp.CurrentDirectory();
+    std::map<std::string, CFtpFile> found;
+    for (const auto& file : ftp.EnumFilesCriteria("-a"))
+        found[file->FileName] = *file;
+    ASSERT_EQ(found.size(), 5U);
+    EXPECT_EQ(found.at("a.pdf").FileSize, pdf.size());
+    EXPECT_EQ(found.at("a.pdf").Permissions.substr(0, 4), "-rw-");
+    EXPECT_TRUE(found.at("inner").IsDirectory && found.at("way").IsDirectory && !found.at("link").IsDirectory);
+    EXPECT_EQ(found.at("link").FilePath, "a.pdf");
+    EXPECT_TRUE(ftp.SetCurrentDirectory("inner"));
+    EXPECT_EQ(ftp.EnumFiles().Count(), 0);
+    ftp.UserName = ftp.Password = "stranger";
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_EQ(ftp.FtpGetLastError(), 52);
+}
+
+TEST_P(RealServersTest, giveAndTakeFilesInBothModes) {
+    folder.put("rest.pdf", pdf.substr(0, 123'456) + "wrong");
+    for (const bool passive : {false, true}) {
+        ftp.PassiveMode = passive;
+        EXPECT_TRUE(ftp.downloadFile("a.pdf", local("a.pdf"), 0)) << ftp.GetFtpErrorDescription();
+        EXPECT_FALSE(ftp.downloadFile("missing.pdf", local("a.pdf"), 0));
+        EXPECT_EQ(ftp.FtpGetLastError(), 54);
+        EXPECT_EQ(folder.get("a.pdf"), pdf);
+        EXPECT_TRUE(ftp.downloadFile("a.pdf", local("rest.pdf"), 123'456));
+        EXPECT_EQ(folder.get("rest.pdf"), pdf);
+        EXPECT_TRUE(ftp.downloadFile("empty.txt", local("empty.txt"), 0));
+        EXPECT_EQ(folder.get("empty.txt"), "");
+        EXPECT_TRUE(ftp.CreateDirectory("new") && ftp.SetCurrentDirectory("new")) << ftp.GetFtpErrorDescription();
+        EXPECT_TRUE(ftp.UploadFile(local("a.pdf"), "x") && ftp.UploadFile(local("empty.txt"), "0"));
+        EXPECT_THAT(told, testing::Contains("Up 700000"));
+        EXPECT_EQ(remote.get("clips/new/x"), pdf);
+        EXPECT_TRUE(ftp.RenameFile("x", "y") && remote.has("clips/new/y"));
+        EXPECT_TRUE(ftp.DeleteFile("y") && ftp.DeleteFile("0") && ftp.SetParentAsCurrentDirectory());
+        EXPECT_TRUE(ftp.RemoveDirectory("new") && !ftp.RemoveDirectory("new") && !remote.has("clips/new"));
+    }
+    EXPECT_TRUE(ftp.CloseConnection());
+}
+
+TEST_P(RealServersTest, abortInTheMiddleAndResume) {
+    std::string big;
+    while (big.size() < 40'000'000)  // more than the system's buffers between the two take
+        big += pdf;
+    remote.put("clips/big", big);
+    onTold = [&](const std::string& what) {
+        if (!what.starts_with("Down") || !ftp.IsConnected()) return;
+        EXPECT_FALSE(ftp.CloseConnection());
+        EXPECT_TRUE(ftp.CancelTransfer()) << ftp.GetFtpErrorDescription();
+    };
+    EXPECT_FALSE(ftp.downloadFile("big", local("big"), 0));
+    EXPECT_FALSE(ftp.IsConnected());
+    const auto here = static_cast<std::int32_t>(folder.get("big").size());
+    EXPECT_TRUE(here > 0 && static_cast<std::size_t>(here) < big.size()) << here;
+    onTold = [](const std::string&) {};
+    EXPECT_TRUE(ftp.Connect() && ftp.SetCurrentDirectory("clips") && ftp.downloadFile("big", local("big"), here));
+    EXPECT_TRUE(folder.get("big") == big);
+}
+
+INSTANTIATE_TEST_SUITE_P(Each, RealServersTest, testing::Values("pyftpdlib", "vsftpd"),
+                         [](const auto& server) { return server.param; });
+
+}  // namespace
+}  // namespace vell::test
