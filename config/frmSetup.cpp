@@ -172,23 +172,24 @@ std::string frmSetup::storedText(SetupField field) const {
     return Encrypt(entry(field), key, log_);
 }
 
-void frmSetup::save(SetupField field) {
+bool frmSetup::save(SetupField field) {
     const SetupRow& row = rowOf(field);
-    ini_.VellIniWriteString(row.Section, row.Key, storedText(field));
+    return ini_.VellIniWriteString(row.Section, row.Key, storedText(field));
 }
 
 std::optional<SetupProblem> frmSetup::cmdOk_Click() {
     if (auto problem = firstProblem()) return problem;
     for (const SetupRow& row : setupRows)
-        save(row.Field);
+        (void)save(row.Field);  // a failure does not keep the others from being saved
     loader_.GetSetup();
     return std::nullopt;
 }
 
 std::optional<SetupProblem> frmSetup::saveOnly(SetupField field) {
     if (auto problem = problemOf(field)) return problem;
-    save(field);
+    const bool saved = save(field);
     loader_.GetSetup();
+    if (!saved) return SetupProblem{field, "Error! The settings file could not be written"};
     return std::nullopt;
 }
 

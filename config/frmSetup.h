@@ -86,7 +86,7 @@ class frmSetup {
 
     // Saves every entry when none is wrong and loads the settings again. Else saves nothing and tells what is wrong.
     [[nodiscard]] std::optional<SetupProblem> cmdOk_Click();
-    // Saves one entry alone, with its own checks.
+    // Saves one entry alone, with its own checks. A file that cannot be written is a problem, too.
     [[nodiscard]] std::optional<SetupProblem> saveOnly(SetupField field);
     // Takes back what the dialog has changed in the settings.
     void Form_Unload();
@@ -94,7 +94,7 @@ class frmSetup {
   private:
     [[nodiscard]] static constexpr std::size_t index(SetupField field) { return static_cast<std::size_t>(field); }
     [[nodiscard]] std::string storedText(SetupField field) const;
-    void save(SetupField field);
+    [[nodiscard]] bool save(SetupField field);
 
     Settings& settings_;
     SettingsLoader& loader_;
