@@ -36,7 +36,8 @@ bool modGlobal::CreateDownloadDirPath() {
             throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
         const std::string path = settings_.LocalDir + "\\" + day_.gCurrentDate + "\\";
         log_.WriteLog("Download directory is '" + path + "'");
-        if (!PathExists(path)) files_.MakeFolder(path);
+        const bool isFile = files_.FileSize(path).has_value();  // which making the folder then tells
+        if (isFile || !PathExists(path)) files_.MakeFolder(path);
         day_.gDayFolder = path;
         return true;
     });
