@@ -33,9 +33,14 @@ constexpr std::size_t pdfSizeField = 7;
 constexpr std::size_t textSizeField = 8;
 constexpr std::size_t companionSizeField = 9;
 
+// A size is of use for progress alone: an absurd one ("1E999") must not cost the user the day.
 std::int32_t sizeOf(std::string_view field) {
     constexpr double most = std::numeric_limits<std::int32_t>::max();
-    return CInt32(std::clamp(Val(field), 0.0, most));
+    try {
+        return CInt32(std::clamp(Val(field), 0.0, most));
+    } catch (const RunTimeError&) {
+        return 0;
+    }
 }
 
 bool isEmpty(const std::string& record) {

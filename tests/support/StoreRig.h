@@ -22,8 +22,8 @@ namespace vell::test {
 [[nodiscard]] inline std::string plainLog(const std::string& text) {
     std::string plain;
     for (const std::string_view line : Split(text, "\r\n"))
-        if (!line.empty()) plain.append(line.substr(line.substr(19, 4) == ",   " ? 23 : 0)).append("\n");
-    return plain;
+        plain.append(line.substr(Mid(line, 20, 4) == ",   " ? 23 : 0)).append("\n");
+    return plain.substr(0, plain.size() - 1);
 }
 
 // The store over real files in a folder of the test's own, the log on.
