@@ -192,13 +192,13 @@ void CurlInternet::waitForBytes(CurlTransfer& transfer) {
     perform();
     while (!transfer.hasBytes() && !transfer.hasEnded()) {
         loop_.DoEvents();
-        if (const std::int32_t error = transfer.outOfPatience(); error != 0) {
-            transfer.end(error);
-            leave(transfer);
-            return;
-        }
         pause();
         perform();
+        // Only what the network does not bring now is silence: a handler may have held the loop for minutes.
+        const std::int32_t error = transfer.hasBytes() || transfer.hasEnded() ? 0 : transfer.outOfPatience();
+        if (error == 0) continue;
+        transfer.end(error);
+        leave(transfer);
     }
 }
 

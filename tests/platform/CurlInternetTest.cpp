@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <array>
+#include <future>
 
 #include <gtest/gtest.h>
 
@@ -123,6 +124,24 @@ TEST_F(CurlInternetTest, sendsCredentialsOnlyWhenTheServerAsksForThem) {
     ASSERT_EQ(peer.requests().size(), 2U);
     EXPECT_EQ(peer.requests()[0].find("Authorization"), std::string::npos);
     EXPECT_TRUE(peer.requests()[1].ends_with("a=b"));
+}
+
+TEST_F(CurlInternetTest, aHandlerThatHoldsTheLoopForMinutesIsNoSilenceOfTheServers) {
+    std::promise<void> held;
+    HttpPeer peer([&](const std::string&) {
+        held.get_future().wait();
+        return HttpPeer::ok("late");
+    });
+    EventLoop::TimerId timer = 0;
+    timer = loop_.SetTimer(20, [&] {  // a dialog that the user leaves open, say
+        loop_.KillTimer(timer);
+        clock_.advance(std::chrono::minutes{2});
+        clock_.setRealMoment(std::chrono::seconds{10});  // a wait ends as soon as there is something
+        held.set_value();
+    });
+    const auto request = openUrl("http://" + peer.address() + "/o");
+    ASSERT_NE(request, nullptr) << internet_.LastError();
+    EXPECT_EQ(readAll(*request).Body, "late");
 }
 
 TEST_F(CurlInternetTest, givesUpAfterThirtySecondsOfSilence) {
