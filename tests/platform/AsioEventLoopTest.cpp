@@ -9,6 +9,7 @@
 #include <time.h>
 
 #include "platform/asio/AsioEventLoop.h"
+#include "platform/posix/SystemClock.h"
 #include "tests/support/DrivenClock.h"
 
 namespace vell::test {
@@ -16,14 +17,6 @@ namespace {
 
 using std::chrono::milliseconds;
 using testing::ElementsAre;
-using testing::IsEmpty;
-
-class RealClock : public DrivenClock {
-  public:
-    SteadyTime Steady() const override { return std::chrono::floor<milliseconds>(std::chrono::steady_clock::now()); }
-    milliseconds realLength(milliseconds length) const override { return length; }
-    void passed(milliseconds) override {}
-};
 
 class AsioEventLoopTest : public testing::Test {
   protected:
@@ -121,7 +114,7 @@ TEST_F(AsioEventLoopTest, aWindowSystemIsPumpedAndToldOfTimers) {
 }
 
 TEST(AsioEventLoopIdleTest, waitingCostsNoProcessorTime) {
-    RealClock clock;
+    SystemClock clock;
     AsioEventLoop loop(clock);
     const auto processorTime = [] {
         timespec used{};
@@ -137,7 +130,7 @@ TEST(AsioEventLoopIdleTest, waitingCostsNoProcessorTime) {
 }
 
 TEST(AsioEventLoopIdleTest, aPostFromAnotherThreadEndsTheWait) {
-    RealClock clock;
+    SystemClock clock;
     AsioEventLoop loop(clock);
     bool happened = false;
     std::thread other([&] { asio::post(loop.context(), [&] { happened = true; }); });

@@ -135,6 +135,7 @@ TEST_F(PosixShellTest, printingHandsTheFileToLp) {
     const auto helper = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "Acrord32.exe";
     const auto exitCode = [&](std::vector<std::string> arguments) {
         std::vector<char*> argv;
+        argv.reserve(arguments.size() + 1);
         for (auto& argument : arguments)
             argv.push_back(argument.data());
         argv.push_back(nullptr);
