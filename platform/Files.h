@@ -59,8 +59,8 @@ class Files {
     [[nodiscard]] virtual std::string ReadFile(std::string_view path) const = 0;
     // Replaces or makes the file; what lies under its name is the old content or the new, never a part.
     virtual void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) = 0;
-    // Overwrites one byte of a file that is long enough. Whatever happens, the file is the old one or the new one; it is
-    // much cheaper than writing a whole file anew.
+    // Overwrites one byte of a file that is long enough. Whatever happens, the file is the old one or the new one; it
+    // is much cheaper than writing a whole file anew.
     virtual void ReplaceByte(std::string_view path, std::int64_t offset, char byte) = 0;
     // Makes the file when it is missing.
     virtual void Append(std::string_view path, std::string_view bytes) = 0;

@@ -55,6 +55,7 @@ std::string lowered(std::string text) {
 
 // Where a file system without permissions is mounted, every file looks like a program.
 bool hasPermissions(const std::string& path) {
+    // Of linux/magic.h: FAT, exFAT, NTFS (both drivers), FUSE, SMB (both versions), 9P.
     constexpr std::array<std::uint32_t, 8> without{0x4d44,     0x2011bab0, 0x5346544e, 0x7366746e,
                                                    0x65735546, 0xff534d42, 0xfe534d42, 0x01021997};
     struct statfs drive {};
