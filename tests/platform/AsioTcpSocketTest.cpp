@@ -21,7 +21,7 @@
 namespace vell::test {
 namespace {
 
-using std::string_literals::operator""s;
+using namespace std::string_literals;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::Ge;
@@ -79,7 +79,7 @@ class RawPeer {
     ~RawPeer() { ::close(fd_); }
     bool connected() const { return connected_; }
     void send(const std::string& bytes) const {
-        EXPECT_EQ(::send(fd_, bytes.data(), bytes.size(), 0), static_cast<ssize_t>(bytes.size()));
+        EXPECT_EQ(::send(fd_, bytes.data(), bytes.size(), MSG_NOSIGNAL), static_cast<ssize_t>(bytes.size()));
     }
     void endSending() const { shutdown(fd_, SHUT_WR); }
     void reset() {
@@ -148,7 +148,8 @@ TEST_F(AsioTcpSocketTest, showsEveryStateOnTheWayToAConnection) {
         {"127.0.0.1", "127.0.0.1"}, {"::1", "::1"}, {"localhost", "127.0.0.1"}};
     for (const auto& [host, address] : hosts) {
         End server(sockets_), client(sockets_);
-        if (numberOf([&] { server.Socket->Listen(address); }) != 0 && address == "::1"s) continue;  // a machine without
+        const bool lacks = numberOf([&, at = address] { server.Socket->Listen(at); }) != 0;
+        if (lacks && address == "::1"s) continue;
         client.Socket->Connect(host, server.Socket->LocalPort());
         std::vector<SocketState> states{client.Socket->State()};
         EXPECT_TRUE(until([&] {
@@ -261,8 +262,8 @@ TEST_F(AsioTcpSocketTest, isSilentOnceItIsClosedOrDestroyedInItsOwnEvent) {
                 told == "ConnectionRequest" ? server.Socket->SendData("220 ready\r\n") : server.Socket->Close();
             };
             End& closing = atServer ? server : client;
-            closing.During = [&, usual = closing.During](const std::string& told) {
-                if (told != event) return usual ? usual(told) : void();
+            closing.During = [&, mine = event, usual = closing.During](const std::string& told) {
+                if (told != mine) return usual ? usual(told) : void();
                 closing.Socket->Close();
                 if (destroys) closing.Socket.reset();
                 loop_.DoEvents();
@@ -329,8 +330,7 @@ TEST_F(AsioTcpSocketTest, refusesWhatTheStateOrTheMachineDoesNotAllow) {
     EXPECT_EQ(numberOf([&] { socket.Accept(); }), 40020);
     EXPECT_EQ(numberOf([&] { socket.Connect("", 21); }), 10049);
     EXPECT_EQ(numberOf([&] { socket.Connect("127.0.0.1", 0); }), 10049);
-    for (const char* nowhere : {"192.0.2.1", "somewhere"})
-        EXPECT_EQ(numberOf([&] { socket.Listen(nowhere); }), 10049);
+    EXPECT_EQ(numberOf([&] { socket.Listen("192.0.2.1"); }), 10049);
     EXPECT_EQ(socket.State(), SocketState::Closed);
     EXPECT_EQ(socket.GetData(1) + socket.LocalIP() + socket.RemoteHostIP(), "");
     join();
