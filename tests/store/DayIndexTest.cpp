@@ -56,12 +56,15 @@ TEST_F(DayIndexTest, readsAgainOnlyWhatSomebodyElseHasChanged) {
 
 TEST_F(DayIndexTest, forgetsAMarkThatDidNotReachTheFile) {
     put("A.PDF||-||\r\nB.PDF||-||\r\n");
-    files_.Trouble = "ALLFILES";
-    EXPECT_THROW(mark("A.PDF"), RunTimeError);
-    EXPECT_EQ(now(), "A.PDF||-||\r\nB.PDF||-||\r\n");
-    files_.Trouble.clear();
-    mark("B.PDF");
-    EXPECT_EQ(now(), "A.PDF||-||\r\nB.PDF||d||\r\n\r\n");
+    const std::string kept[] = {"A.PDF||-||\r\nB.PDF||-||\r\n", "A.PDF||-||\r\nB.PDF||d||\r\n\r\n"};
+    for (const auto& text : kept) {  // the first is written as a whole, the second one byte of it
+        files_.Trouble = "ALLFILES";
+        EXPECT_THROW(mark("A.PDF"), RunTimeError);
+        EXPECT_EQ(now(), text);
+        files_.Trouble.clear();
+        mark("B.PDF");
+        EXPECT_EQ(now(), kept[1]);
+    }
     std::filesystem::remove(folder_.path() / "ALLFILES.DIR");
     EXPECT_THROW(mark("A.PDF"), RunTimeError);
     EXPECT_FALSE(folder_.has("ALLFILES.DIR"));

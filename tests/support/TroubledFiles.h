@@ -12,9 +12,12 @@ namespace vell::test {
 class TroubledFiles : public PosixFiles {
   public:
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
-        ++Writes;
         fail(path);
         PosixFiles::WriteWhole(path, bytes, durability);
+    }
+    void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
+        fail(path);
+        PosixFiles::ReplaceByte(path, offset, byte);
     }
     void DeleteFile(std::string_view path) override {
         fail(path);
@@ -30,7 +33,6 @@ class TroubledFiles : public PosixFiles {
 
     std::string Trouble;
     std::function<std::optional<std::uint64_t>()> Free;
-    int Writes = 0;
     mutable int Reads = 0;
 
   private:
