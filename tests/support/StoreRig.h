@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "base/text.h"
 #include "config/Settings.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
@@ -15,16 +14,9 @@
 #include "tests/support/ScriptedBoxes.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/TroubledFiles.h"
+#include "tests/support/plainLog.h"
 
 namespace vell::test {
-
-// The lines of a log without what differs from run to run: date and time in front.
-[[nodiscard]] inline std::string plainLog(const std::string& text) {
-    std::string plain;
-    for (const std::string_view line : Split(text, "\r\n"))
-        plain.append(line.substr(Mid(line, 20, 4) == ",   " ? 23 : 0)).append("\n");
-    return plain.substr(0, plain.size() - 1);
-}
 
 // The store over real files in a folder of the test's own, the log on.
 struct StoreRig {
