@@ -95,14 +95,20 @@ std::optional<CommandLine> parseCommandLine(std::vector<std::string> arguments, 
     try {
         app.parse(std::move(arguments));
         return line;
+    } catch (const CLI::RequiredError& error) {
+        const auto unknown = app.remaining();
+        terminal.Write(Terminal::Stream::Error,
+                       unknown.empty() ? std::string(error.what()) : "There is no command '" + unknown.front() + "'");
+        terminal.Write(Terminal::Stream::Error, "\n'vell-console --help' shows what there is.\n");
+        exitCode = exit_code::Usage;
     } catch (const CLI::ParseError& error) {
         std::ostringstream output;
         std::ostringstream problem;
         exitCode = app.exit(error, output, problem) == 0 ? exit_code::Good : exit_code::Usage;
         terminal.Write(Terminal::Stream::Output, output.str());
         terminal.Write(Terminal::Stream::Error, problem.str());
-        return std::nullopt;
     }
+    return std::nullopt;
 }
 
 }  // namespace vell

@@ -86,7 +86,7 @@ std::optional<std::string> ConsoleBoxes::askForLine(std::string_view prompt, boo
     std::optional<std::string> line;
     if (!givenUp_) line = terminal_.ReadLine();
     if (secret) terminal_.setEcho(true);
-    if (secret || !line) screen_.ask("\n");
+    if (secret || !line) terminal_.Write(Terminal::Stream::Error, "\n");  // nobody's return key has moved the cursor
     return line;
 }
 

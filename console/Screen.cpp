@@ -43,7 +43,8 @@ std::string shownLines(std::string_view text) {
     std::string lines;
     const std::string unified = Replace(text, "\r\n", "\n");
     for (const std::string_view line : Split(unified, "\n"))
-        lines += (lines.empty() ? "" : "\n") + shownText(line);
+        lines.append(shownText(line)).append("\n");
+    lines.erase(lines.find_last_not_of('\n') + 1);
     return lines;
 }
 

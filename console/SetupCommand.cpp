@@ -64,12 +64,15 @@ int SetupCommand::change(SetupField field, const std::string& value) {
     if (const std::string mistake = mistakeIn(field, *wanted); !mistake.empty()) return wrong(mistake);
     dialog_.setEntry(field, *wanted);
     dialog_.normalise(field);
-    if (const auto problem = dialog_.saveOnly(field)) return wrong(utf8FromCodePage(problem->Message));
+    if (const auto problem = dialog_.problemOf(field)) return wrong(utf8FromCodePage(problem->Message));
+    if (const auto problem = dialog_.saveOnly(field)) {
+        tell(utf8FromCodePage(problem->Message));
+        return exit_code::Failed;
+    }
     const std::string saved = dialog_.entry(field);
     dialog_.Form_Load();
     screen_.print(keyOf(field) + " = " + shown(field));
-    if (dialog_.entry(field) != saved)
-        screen_.tell("Of the value given, only this much takes effect: " + dialog_.entry(field));
+    if (dialog_.entry(field) != saved) tell("Of the value given, only this much takes effect: " + shown(field));
     return exit_code::Good;
 }
 
@@ -119,9 +122,13 @@ void SetupCommand::askForLogin() {
 }
 
 int SetupCommand::wrong(const std::string& message) {
-    screen_.leaveStatus();
-    terminal_.Write(Terminal::Stream::Error, message + "\n");
+    tell(message);
     return exit_code::Usage;
+}
+
+void SetupCommand::tell(const std::string& utf8) {
+    screen_.leaveStatus();
+    terminal_.Write(Terminal::Stream::Error, utf8 + "\n");
 }
 
 }  // namespace vell

@@ -30,6 +30,7 @@ class SetupCommand {
     [[nodiscard]] std::string shown(SetupField field) const;
     void showAll();
     [[nodiscard]] int wrong(const std::string& message);
+    void tell(const std::string& utf8);
 
     frmSetup dialog_;
     Terminal& terminal_;

@@ -98,6 +98,7 @@ void HttpPeer::serveOne(int connection) {
         if (sent <= 0) return;
         rest.remove_prefix(static_cast<std::size_t>(sent));
     }
+    if (answer.Sent) answer.Sent();
     while (answer.Stalls && waitForInput(connection, ending_))
         if (recv(connection, buffer.data(), buffer.size(), 0) <= 0) return;
 }

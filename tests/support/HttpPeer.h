@@ -16,7 +16,8 @@ class HttpPeer {
   public:
     struct Answer {
         std::string Bytes;
-        bool Stalls = false;  // says nothing more and keeps the connection open until the peer ends
+        bool Stalls = false;                   // says nothing more and keeps the connection open until the peer ends
+        std::function<void()> Sent = nullptr;  // called when the bytes have left
     };
     // The handler is called in the peer's thread with the whole request, headers and body.
     using Handler = std::function<Answer(const std::string& request)>;
