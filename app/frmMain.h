@@ -49,6 +49,8 @@ class frmMain {
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] ClippingsBrowser& browser() { return browser_; }
     [[nodiscard]] const Settings& settings() const { return session_.Setup; }
+    // False when the settings file is damaged and was read in part only.
+    [[nodiscard]] bool areSettingsWhole() const { return loader_.isWhole(); }
 
   private:
     [[nodiscard]] static std::string programFolder(const Process& process);

@@ -17,11 +17,13 @@ void SettingsLoader::setAppVersion(std::string version) {
 }
 
 void SettingsLoader::GetSetup() {
+    isWhole_ = false;
     try {
         loadHost();
         loadDownload();
         loadGeneral();
         settings_.AgentName = "VELL_" + appVersion_ + "_user:" + settings_.Uid;
+        isWhole_ = true;
     } catch (...) {
         log_.WriteLog("GetSetup()");
     }

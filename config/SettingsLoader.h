@@ -22,6 +22,8 @@ class SettingsLoader {
     // The running program's version, "major.minor.revision".
     void setAppVersion(std::string version);
     void GetSetup();
+    // False when the last load ended early.
+    [[nodiscard]] bool isWhole() const { return isWhole_; }
 
   private:
     void loadHost();
@@ -39,6 +41,7 @@ class SettingsLoader {
     ErrorLog& errors_;
     TextLog& log_;
     std::string appVersion_;
+    bool isWhole_ = true;
 };
 
 }  // namespace vell

@@ -133,6 +133,10 @@ void frmSetup::Form_Load() {
     entries_ = loaded;
 }
 
+bool frmSetup::isWhole() const {
+    return loader_.isWhole();
+}
+
 bool frmSetup::isEnabled(SetupField field) const {
     const bool ofFtp = field == SetupField::Port || field == SetupField::TimeOut || field == SetupField::Passive;
     return !ofFtp || entry(SetupField::Protocol) == "FTP";

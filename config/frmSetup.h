@@ -71,6 +71,8 @@ class frmSetup {
 
     // Reads the settings anew into the entries.
     void Form_Load();
+    // False when a password in the file cannot be read: what stands behind it is then left out.
+    [[nodiscard]] bool isWhole() const;
     // The entries that FTP alone needs can be changed only when FTP is chosen. They are saved all the same.
     [[nodiscard]] bool isEnabled(SetupField field) const;
 

@@ -25,6 +25,7 @@ int Commands::run(const CommandLine& line) {
     using Command = CommandLine::Command;
     const bool alone = line.What == Command::Download;
     if (!program_.Form_Load(alone ? frmMain::Start::Alone : frmMain::Start::Beside)) return exit_code::AlreadyRunning;
+    if (line.What != Command::Setup && !program_.areSettingsWhole()) screen_.tell(damagedSettings);
     int code = exit_code::Good;
     switch (line.What) {
         case Command::Download:

@@ -71,6 +71,11 @@ int SetupCommand::change(SetupField field, const std::string& value) {
     }
     const std::string saved = dialog_.entry(field);
     dialog_.Form_Load();
+    if (!dialog_.isWhole()) {
+        screen_.print(keyOf(field) + " was saved.");
+        tell(std::string(damagedSettings));
+        return exit_code::Good;
+    }
     screen_.print(keyOf(field) + " = " + shown(field));
     if (dialog_.entry(field) != saved) tell("Of the value given, only this much takes effect: " + shown(field));
     return exit_code::Good;
@@ -107,6 +112,7 @@ void SetupCommand::showAll() {
         screen_.print(setting + std::string(width < meaningColumn ? meaningColumn - width : 2, ' ') + "# " +
                       std::string(row.Meaning));
     }
+    if (!dialog_.isWhole()) tell(std::string(damagedSettings));
 }
 
 void SetupCommand::askForLogin() {

@@ -76,6 +76,14 @@ TEST_F(SetupCommandTest, takesAPasswordFromTheInputAndShowsNoneEvenWhenItCannotB
     EXPECT_EQ(run("Pwd", "other"), "1 !Error! The settings file could not be written\n");
 }
 
+TEST_F(SetupCommandTest, repairsAFileWithDamagedPasswords) {
+    folder.put("vell.ini", "[Host]\r\nPwd=bad\r\nproxyPwd=bad\r\n[Download]\r\nLocalDir=/clips\r\n");
+    EXPECT_NE(run().find("!" + std::string(damagedSettings)), std::string::npos);
+    EXPECT_EQ(run("Pwd", "new"), "0 Pwd was saved.\n!" + std::string(damagedSettings) + "\n");
+    EXPECT_EQ(run("proxyPwd", ""), "0 proxyPwd = (not set)\n");
+    EXPECT_EQ(setup.Pwd + setup.LocalDir, "new/clips");
+}
+
 TEST_F(SetupCommandTest, asksForTheLoginAnew) {
     SetupCommand command(frmSetup(setup, loader, ini, log), terminal, screen, boxes);
     command.askForLogin();
