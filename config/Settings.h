@@ -3,6 +3,9 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
+
+#include "config/ScheduleEntry.h"
 
 namespace vell {
 
@@ -31,6 +34,8 @@ struct Settings {
     std::int16_t PrintAllDelay = 0;  // seconds
     std::int16_t Debug = 0;          // 1 or more: the event log is kept
     std::string AgentName;           // what the service sees of the program's version and the user
+
+    std::vector<ScheduleEntry> ScheduleList;  // filled by GetSchedule alone
 };
 
 }  // namespace vell

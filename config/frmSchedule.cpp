@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+#include "config/frmSchedule.h"
+
+#include <array>
+#include <string>
+#include <utility>
+
+#include "base/text.h"
+#include "config/Schedule.h"
+#include "config/ScheduleView.h"
+#include "config/Settings.h"
+#include "config/modIni.h"
+#include "platform/MessageBoxes.h"
+
+namespace vell {
+
+namespace {
+constexpr std::string_view inputTitle = "Schedule Time";
+constexpr std::string_view invalidTime = "Invalid time entered";
+constexpr std::array everyDay{true, true, true, true, true, true, true};
+}  // namespace
+
+frmSchedule::frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log)
+    : settings_(settings), ini_(ini), boxes_(boxes), log_(log) {}
+
+void frmSchedule::Form_Load() {
+    GetSchedule(settings_, ini_, log_);
+    rows_ = settings_.ScheduleList;
+}
+
+void frmSchedule::cmdAddSchedule_Click(ScheduleView& view) {
+    const std::string answer = view.InputBox("Enter a valid time in the format HH:MM ie. 15:30", inputTitle, "");
+    const std::string_view time = Trim(answer);
+    if (IsTimeValid(time)) {
+        add({everyDay, std::string(time)});
+        return;
+    }
+    if (!time.empty()) refuse(invalidTime);
+    view.Beep();
+}
+
+void frmSchedule::cmdEdit_Click(ScheduleView& view, std::size_t row) {
+    if (row >= rows_.size()) return;
+    const std::string answer = view.InputBox("Enter a valid time", inputTitle, rows_[row].Time);
+    if (IsTimeValid(answer))
+        rows_[row].Time = Trim(answer);
+    else
+        refuse(invalidTime);
+}
+
+void frmSchedule::cmdDelSchedule_Click(std::size_t row) {
+    if (rows_.size() == 1)
+        rows_.clear();
+    else if (row < rows_.size())
+        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+}
+
+void frmSchedule::grdSchedule_Click(ScheduleView& view, std::size_t row, std::size_t column) {
+    if (row >= rows_.size()) return;
+    if (column < scheduleDays.size())
+        rows_[row].Days[column] = !rows_[row].Days[column];
+    else if (column == timeColumn)
+        cmdEdit_Click(view, row);
+}
+
+void frmSchedule::add(ScheduleEntry entry) {
+    rows_.push_back(std::move(entry));
+}
+
+bool frmSchedule::cmdOk_Click() {
+    const bool written = write();
+    GetSchedule(settings_, ini_, log_);
+    if (!written) refuse("Error! The schedule could not be saved");
+    return written;
+}
+
+bool frmSchedule::write() {
+    bool written = ini_.VellIniDeleteSection("Schedule");
+    for (std::size_t row = 0; row < rows_.size() && written; ++row)
+        written = ini_.VellIniWriteString("Schedule", "Schedule" + std::to_string(row + 1), storedTextOf(rows_[row]));
+    return written;
+}
+
+void frmSchedule::refuse(std::string_view message) {
+    boxes_.Show(message, programCaption, Buttons::Ok, BoxIcon::None);
+}
+
+}  // namespace vell

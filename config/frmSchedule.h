@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "base/errors.h"
+#include "config/ScheduleEntry.h"
+
+namespace vell {
+
+class MessageBoxes;
+class ScheduleView;
+class modIni;
+struct Settings;
+
+// What the schedule dialog decides. It works on rows of its own; only OK writes them. Rows are counted from 0, the
+// caption row apart; columns 0 to 6 are the days and column 7 is the time.
+class frmSchedule {
+  public:
+    frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log);
+
+    static constexpr std::size_t timeColumn = 7;
+
+    void Form_Load();
+    [[nodiscard]] const std::vector<ScheduleEntry>& rows() const { return rows_; }
+
+    // Asks for a time; the new row is active on every day.
+    void cmdAddSchedule_Click(ScheduleView& view);
+    void cmdEdit_Click(ScheduleView& view, std::size_t row);
+    void cmdDelSchedule_Click(std::size_t row);
+    // Switches a day on or off, or edits the time.
+    void grdSchedule_Click(ScheduleView& view, std::size_t row, std::size_t column);
+
+    // Adds a row as it is.
+    void add(ScheduleEntry entry);
+
+    // Replaces the stored schedule by the rows and loads it. False, with a message, when the file could not be
+    // written.
+    [[nodiscard]] bool cmdOk_Click();
+
+  private:
+    [[nodiscard]] bool write();
+    void refuse(std::string_view message);
+
+    Settings& settings_;
+    modIni& ini_;
+    MessageBoxes& boxes_;
+    ErrorLog& log_;
+    std::vector<ScheduleEntry> rows_;
+};
+
+}  // namespace vell
