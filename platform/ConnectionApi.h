@@ -28,13 +28,18 @@ class ConnectionApi {
     // 0 on success, else the error. Waits for the outcome and lets events happen meanwhile.
     virtual std::uint32_t InternetDial(std::uintptr_t parentWindow, std::string_view connectionName,
                                        std::uint32_t flags, std::uint32_t& connection) = 0;
-    // 0 on success.
+    // 0 on success. This and the next two wait for the outcome like InternetDial.
     virtual std::uint32_t InternetHangUp(std::uint32_t connection) = 0;
     virtual bool InternetAutodial(std::uint32_t flags, std::uintptr_t parentWindow) = 0;
     virtual bool InternetAutodialHangup() = 0;
+    // Makes the calls that wait end at once, as failed; a dial does not stay half done. To be called from the events
+    // that happen meanwhile. Later calls are not concerned.
+    virtual void CancelWaits() = 0;
 
     // The number of the last failure; 0 when the system reported none.
     [[nodiscard]] virtual std::int32_t LastError() const = 0;
+    // Why the last call failed, where the system tells it in words and not by a number; empty otherwise.
+    [[nodiscard]] virtual std::string LastReason() const = 0;
     // The system's text for one of its own errors, and the internet library's for one from 12001 up. Both as
     // delivered, the line end included.
     [[nodiscard]] virtual std::string SystemErrorText(std::int32_t code) const = 0;
