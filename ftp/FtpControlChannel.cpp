@@ -12,7 +12,7 @@ namespace vell {
 
 namespace {
 
-constexpr std::size_t blockSize = 16 * 1024;
+constexpr std::size_t blockSize = 16UL * 1024;
 constexpr std::size_t mostUnreadReplies = 256;  // no dialogue leaves more; a flood of them would fill the memory
 
 constexpr int serviceClosing = 421;

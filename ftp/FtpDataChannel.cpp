@@ -14,8 +14,8 @@ namespace vell {
 
 namespace {
 
-constexpr std::size_t blockSize = 64 * 1024;
-constexpr std::size_t longestListing = 64 * 1024 * 1024;
+constexpr std::size_t blockSize = 64UL * 1024;
+constexpr std::size_t longestListing = 64UL * 1024 * 1024;
 
 // The events count in 32 bits; larger files show as the largest number.
 std::int32_t shown(std::int64_t count) {

@@ -21,7 +21,7 @@ struct FtpReply {
 // to the line with the same code and a blank, whatever stands between (RFC 959, 4.2). A bare LF ends a line, too.
 class FtpReplyReader {
   public:
-    static constexpr std::size_t longest = 64 * 1024;
+    static constexpr std::size_t longest = 64UL * 1024;
 
     void feed(std::string_view bytes);
     // Nothing: more bytes are needed, or the reply is overlong.

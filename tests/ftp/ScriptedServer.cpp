@@ -24,7 +24,7 @@ void ScriptedServer::ConnectionRequest() {
 void ScriptedServer::DataArrival(std::size_t /*bytes*/) {
     (void)data_->GetData(data_->BytesReceived());
     received_ += control_->GetData(control_->BytesReceived());
-    for (std::size_t end; (end = received_.find("\r\n")) != std::string::npos;) {
+    for (std::size_t end = 0; (end = received_.find("\r\n")) != std::string::npos;) {
         commands.push_back(received_.substr(0, end));
         received_.erase(0, end + 2);
         obey(commands.back());
