@@ -32,7 +32,7 @@ DownloadRun::DownloadRun(const Parts& parts) : p_(parts), index_(parts.Disk) {}
 
 void DownloadRun::StartDownload() {
     Session& state = p_.State;
-    if (state.gIsBusy) return;
+    if (state.gIsBusy || state.IsEnding) return;
     state.gIsBusy = true;
     state.gIsTransferring = false;
     state.gStopRequested = false;
@@ -52,7 +52,8 @@ void DownloadRun::StartDownload() {
 void DownloadRun::run() {
     if (!prepare()) return;
     if (!p_.State.Setup.UseHTTP && !p_.Ftp.open()) {
-        p_.State.Outcome.FtpFailed = true;
+        p_.State.Outcome.FtpFailed = !p_.State.gStopRequested;
+        p_.State.Outcome.Stopped = p_.State.gStopRequested;
         return;
     }
     fetchAll();
@@ -99,6 +100,7 @@ void DownloadRun::fetchAll() {
     state.gLastProgressBytes = 0;
     pdfOk_ = false;
     textOk_ = false;
+    p_.View.showProgress(0, 0);
     p_.Log.WriteLog("Number of files to download :" + std::to_string(count));
     p_.Browser.refresh();
     for (std::int32_t i = 1; i <= count && !state.gStopRequested; ++i)

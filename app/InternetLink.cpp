@@ -12,7 +12,7 @@
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
 #include "service/RunFeedback.h"
-#include "ui/BrowserView.h"
+#include "ui/BusyMoment.h"
 
 namespace vell {
 
@@ -21,23 +21,12 @@ namespace {
 // INTERNET_DIAL_UNATTENDED: nobody may be there to press "Connect".
 constexpr std::uint32_t dialUnattended = 0x8000;
 
-class BusyCursor {
-  public:
-    explicit BusyCursor(BrowserView& view) : view_(view) { view_.showBusy(true); }
-    ~BusyCursor() { view_.showBusy(false); }
-    BusyCursor(const BusyCursor&) = delete;
-    BusyCursor& operator=(const BusyCursor&) = delete;
-
-  private:
-    BrowserView& view_;
-};
-
 }  // namespace
 
 InternetLink::InternetLink(const Parts& parts) : p_(parts) {}
 
 bool InternetLink::StartINET() {
-    const BusyCursor busy(p_.View);
+    const BusyMoment busy(p_.View);
     return trap(p_.Errors, "StartINET()", false, [&] {
         p_.gInet.SetGlobalOnline();
         p_.gInet.Refresh();
@@ -79,7 +68,7 @@ bool InternetLink::dial() {
 }
 
 bool InternetLink::StopINET(bool ask) {
-    const BusyCursor busy(p_.View);
+    const BusyMoment busy(p_.View);
     step([&] { p_.gInet.Refresh(); });
     if (!isDialUpConnected()) return true;
     if (ask && !userAgrees()) return true;

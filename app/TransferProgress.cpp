@@ -16,8 +16,9 @@ namespace {
 constexpr std::int64_t kilobyte = 1024;
 constexpr double filesPerClipping = 3;
 
-const DownloadEntry& currentEntry(const Session& session) {
-    return session.Downloads.gDownloadList.at(static_cast<std::size_t>(session.gCurrentFileIndex) - 1);
+std::int32_t entrySize(const Session& session) {
+    const DownloadEntry* entry = session.currentEntry();
+    return entry == nullptr ? 0 : entry->Size;
 }
 
 int percentOf(std::int64_t part, std::int64_t whole) {
@@ -76,7 +77,7 @@ void TransferProgress::count(std::int32_t bytes) {
 
 void TransferProgress::show(std::int32_t bytes) {
     const DownloadState& downloads = session_.Downloads;
-    view_.showProgress(percentOf(bytes, currentEntry(session_).Size),
+    view_.showProgress(percentOf(bytes, entrySize(session_)),
                        percentOf(downloads.gBytesDownloaded, downloads.gTotalBytes));
     const std::string text = statusOf(bytes);
     StatusBar(text);
@@ -85,13 +86,12 @@ void TransferProgress::show(std::int32_t bytes) {
 
 std::string TransferProgress::statusOf(std::int32_t bytes) const {
     const DownloadState& downloads = session_.Downloads;
-    const DownloadEntry& entry = currentEntry(session_);
     const auto count = static_cast<std::int32_t>(downloads.gDownloadList.size());
     if (session_.gCurrentFileIndex == count && session_.gLastProgressBytes == 0)
         return "Finished: " + std::to_string(session_.gClippingsDownloaded) + " of " + clippingTotal(session_) +
                " clippings downloaded.";
-    return clippingCounter() + " Downloading " + entry.FileName + " (" + kilobytes(bytes) + "/" +
-           kilobytes(entry.Size) + "kb), Total kb downloaded: " + kilobytes(downloads.gBytesDownloaded) + "/" +
+    return clippingCounter() + " Downloading " + session_.currentFile() + " (" + kilobytes(bytes) + "/" +
+           kilobytes(entrySize(session_)) + "kb), Total kb downloaded: " + kilobytes(downloads.gBytesDownloaded) + "/" +
            kilobytes(downloads.gTotalBytes) + "kb";
 }
 

@@ -6,8 +6,9 @@
 
 #include "app/MainView.h"
 #include "base/text.h"
+#include "config/Schedule.h"
 #include "platform/Clock.h"
-#include "platform/EventLoop.h"
+#include "platform/ConnectionApi.h"
 #include "platform/Files.h"
 #include "platform/InternetApi.h"
 #include "platform/MessageBoxes.h"
@@ -32,13 +33,16 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       articles_(platform.Opener, platform.Boxes, platform.Loop, log_),
       progress_(session_, view, platform.Loop, platform.Time, log_, paintInterval),
       http_(platform.Internet, platform.Disk, platform.Boxes, progress_, log_, session_.Setup),
-      ftp_(progress_, log_),
+      ftp_(session_, platform_, view, progress_, log_, paintInterval),
       list_(http_, store_, platform.Disk, platform.Boxes, progress_, log_, session_.Setup, session_.Day,
             session_.Downloads, version),
       browser_(store_, platform.Disk, view, platform.Time, log_, session_.Setup, session_.Day),
+      gInet_(platform.Connection, platform.Boxes, log_),
+      ras_(platform.Ras, log_),
+      link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, log_, gInet_, ras_}),
       run_({session_, view, platform.Loop, platform.Time, platform.Disk, log_, store_, articles_, http_, ftp_, list_,
             browser_, progress_}),
-      scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, browser_) {
+      scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, link_, browser_) {
     session_.gVersion = std::move(version);
 }
 
@@ -55,7 +59,8 @@ bool frmMain::Form_Load(Start start) {
     session_.dtToDate = today;
     session_.DownloadToday = true;
     view_.showDateRange(today, today);
-    if (start == Start::Alone && platform_.Program.IsPreviousInstance()) {
+    onlyLooks_ = start == Start::Beside;
+    if (!onlyLooks_ && platform_.Program.IsPreviousInstance()) {
         mIsSecondInstance_ = true;
         platform_.Boxes.Show("Program is already running", programCaption, Buttons::Ok, BoxIcon::None);
         return false;
@@ -71,13 +76,24 @@ bool frmMain::Form_Load(Start start) {
     loader_.setAppVersion(session_.gVersion);
     loader_.GetSetup();
     if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
+    GetSchedule(session_.Setup, ini_, log_);
     browser_.PopulateDateCombo();
     return true;
 }
 
 void frmMain::Form_Unload() {
     if (mIsSecondInstance_) return;
+    platform_.Loop.KillTimer(tmrSchedule_);
+    if (!onlyLooks_) closeConnections();
     log_.Stop();
+}
+
+void frmMain::closeConnections() {
+    (void)ftp_.StopFTP(true);
+    if (!session_.Setup.CloseConnection || link_.StopINET(true)) return;
+    constexpr std::string_view failed = "Error! Could not close dial-up connection";
+    platform_.Boxes.Show(failed, programCaption, Buttons::Ok, BoxIcon::None);
+    log_.WriteLog(failed);
 }
 
 void frmMain::chooseToday() {
@@ -104,8 +120,20 @@ void frmMain::cmdStopDownload_Click() {
     progress_.StatusBar("Download STOPED by user.");
 }
 
-void frmMain::abandonTransfers() {
+void frmMain::endSession() {
+    session_.IsEnding = true;
+    session_.gStopRequested = true;
+    platform_.Connection.CancelWaits();
     platform_.Internet.CancelRequests(InternetApi::Cancel::All);
+    ftp_.breakOff();
+}
+
+void frmMain::startSchedule() {
+    tmrSchedule_ = platform_.Loop.SetTimer(ScheduledRuns::tickMilliseconds, [this] { scheduled_.tmrSchedule_Timer(); });
+}
+
+frmSchedule frmMain::scheduleDialog() {
+    return {session_.Setup, ini_, platform_.Boxes, log_};
 }
 
 frmSetup frmMain::setupDialog() {

@@ -1,17 +1,23 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "app/DownloadRun.h"
 #include "app/FtpSession.h"
+#include "app/InternetLink.h"
 #include "app/ScheduledRuns.h"
 #include "app/Session.h"
 #include "app/TransferProgress.h"
 #include "config/SettingsLoader.h"
+#include "config/frmSchedule.h"
 #include "config/frmSetup.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
+#include "net/CWinInetConnection.h"
+#include "net/ModRAS.h"
+#include "platform/EventLoop.h"
 #include "platform/Platform.h"
 #include "service/DownloadList.h"
 #include "service/modHTTP.h"
@@ -42,17 +48,24 @@ class frmMain {
     void chooseRange(const Date& from, const Date& to);
     void mnuForceDownload_Click();
     void cmdStopDownload_Click();
-    // Ends transfers that Stop has let go on.
-    void abandonTransfers();
+    // The program is to end: what is under way is given up at once, and no run begins any more.
+    void endSession();
+
+    // The schedule's timer; it ticks in the event loop from startSchedule on.
+    void startSchedule();
+    [[nodiscard]] std::optional<LocalTime> nextDue() const { return scheduled_.nextDue(); }
+    [[nodiscard]] bool isBusy() const { return session_.gIsBusy; }
     [[nodiscard]] const RunOutcome& outcome() const { return session_.Outcome; }
 
     [[nodiscard]] frmSetup setupDialog();
+    [[nodiscard]] frmSchedule scheduleDialog();
     [[nodiscard]] ClippingsBrowser& browser() { return browser_; }
     [[nodiscard]] const Settings& settings() const { return session_.Setup; }
     // False when the settings file is damaged and was read in part only.
     [[nodiscard]] bool areSettingsWhole() const { return loader_.isWhole(); }
 
   private:
+    void closeConnections();
     [[nodiscard]] static std::string programFolder(const Process& process);
 
     Platform platform_;
@@ -68,9 +81,14 @@ class frmMain {
     FtpSession ftp_;
     DownloadList list_;
     ClippingsBrowser browser_;
+    CWinInetConnection gInet_;
+    ModRAS ras_;
+    InternetLink link_;
     DownloadRun run_;
     ScheduledRuns scheduled_;
     bool mIsSecondInstance_ = false;
+    bool onlyLooks_ = false;  // shares the program folder with one that works
+    EventLoop::TimerId tmrSchedule_ = 0;
 };
 
 }  // namespace vell

@@ -2,6 +2,7 @@
 #include "console/CommandLine.h"
 
 #include <algorithm>
+#include <memory>
 #include <sstream>
 
 #include <CLI/CLI.hpp>
@@ -65,6 +66,25 @@ void addSetup(CLI::App& app, CommandLine& line) {
     command->callback([&line] { line.What = CommandLine::Command::Setup; });
 }
 
+void addSchedule(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("schedule", "Show or change the weekly schedule");
+    command->require_subcommand(0, 1);
+    command->callback([&line, command] {
+        if (command->get_subcommands().empty()) line.What = CommandLine::Command::Schedule;
+    });
+    CLI::App* add = command->add_subcommand("add", "Add an entry: days and a time, or a time alone for every day");
+    auto words = std::make_shared<std::vector<std::string>>();
+    add->add_option("ENTRY", *words, "For example \"Mon Wed 07:30\"")->required();
+    add->callback([&line, words] {
+        line.What = CommandLine::Command::ScheduleAdd;
+        for (const std::string& word : *words)
+            line.Entry += (line.Entry.empty() ? "" : " ") + word;
+    });
+    CLI::App* remove = command->add_subcommand("remove", "Remove an entry by its number");
+    remove->add_option("N", line.Number, "As 'schedule' shows it")->required();
+    remove->callback([&line] { line.What = CommandLine::Command::ScheduleRemove; });
+}
+
 void describe(CLI::App& app, CommandLine& line) {
     app.name("vell-console");
     app.description("Fetches the press clippings of a day and lists them.");
@@ -80,9 +100,13 @@ void describe(CLI::App& app, CommandLine& line) {
         line.What = CommandLine::Command::Days;
     });
     addSetup(app, line);
+    addSchedule(app, line);
+    app.add_subcommand("watch", "Keep the weekly schedule until Ctrl-C or SIGTERM")->callback([&line] {
+        line.What = CommandLine::Command::Watch;
+    });
     app.footer(
         "Exit codes: 0 ended well, 1 a file or the list could not be fetched, 2 wrong usage,\n"
-        "3 no internet connection, 5 already running, 130 stopped with Ctrl-C.");
+        "3 no internet connection, 5 already running, 130 stopped with Ctrl-C (watch: 0).");
 }
 
 }  // namespace

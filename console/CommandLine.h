@@ -19,11 +19,12 @@ inline constexpr int Usage = 2;         // unknown option, impossible date, wron
 inline constexpr int NoConnection = 3;  // no internet connection
 inline constexpr int AlreadyRunning = 5;
 inline constexpr int Interrupted = 130;  // stopped by SIGINT
+inline constexpr int Terminated = 143;   // stopped by SIGTERM
 }  // namespace exit_code
 
 // What the user asked for. Texts in UTF-8.
 struct CommandLine {
-    enum class Command { Download, List, Days, Setup };
+    enum class Command { Download, List, Days, Setup, Schedule, ScheduleAdd, ScheduleRemove, Watch };
 
     Command What = Command::Download;
     std::string Folder;  // of the program; empty for the usual one
@@ -34,6 +35,8 @@ struct CommandLine {
     bool Tsv = false;
     std::optional<std::string> Key;
     std::optional<std::string> Value;
+    std::string Entry;  // of the schedule, such as "Mon Wed 07:30"
+    int Number = 0;     // of an entry, counted from 1
 };
 
 // Nothing when there is nothing to do but to end with `exitCode`: after help or version, or after an error, which is

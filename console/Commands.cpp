@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "console/Commands.h"
 
+#include <csignal>
+#include <optional>
+
 #include "app/frmMain.h"
 #include "console/ClippingsTable.h"
 #include "console/ConsoleBoxes.h"
 #include "console/ConsoleView.h"
+#include "console/ScheduleCommand.h"
 #include "console/Screen.h"
 #include "console/SetupCommand.h"
+#include "platform/EventLoop.h"
 #include "platform/Terminal.h"
 
 namespace vell {
@@ -16,14 +21,15 @@ namespace {
 constexpr std::size_t widthWithoutTerminal = 120;
 }  // namespace
 
-Commands::Commands(frmMain& program, ConsoleView& view, Terminal& terminal, Screen& screen, ConsoleBoxes& boxes)
-    : program_(program), view_(view), terminal_(terminal), screen_(screen), boxes_(boxes) {
+Commands::Commands(frmMain& program, EventLoop& loop, ConsoleView& view, Terminal& terminal, Screen& screen,
+                   ConsoleBoxes& boxes)
+    : program_(program), loop_(loop), view_(view), terminal_(terminal), screen_(screen), boxes_(boxes) {
     view_.onOpenSetup([this] { SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).askForLogin(); });
 }
 
 int Commands::run(const CommandLine& line) {
     using Command = CommandLine::Command;
-    const bool alone = line.What == Command::Download;
+    const bool alone = line.What == Command::Download || line.What == Command::Watch;
     if (!program_.Form_Load(alone ? frmMain::Start::Alone : frmMain::Start::Beside)) return exit_code::AlreadyRunning;
     if (line.What != Command::Setup && !program_.areSettingsWhole()) screen_.tell(damagedSettings);
     int code = exit_code::Good;
@@ -40,6 +46,14 @@ int Commands::run(const CommandLine& line) {
         case Command::Setup:
             code = SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).run(line);
             break;
+        case Command::Schedule:
+        case Command::ScheduleAdd:
+        case Command::ScheduleRemove:
+            code = ScheduleCommand(program_.scheduleDialog(), screen_).run(line);
+            break;
+        case Command::Watch:
+            code = watch();
+            break;
     }
     program_.Form_Unload();
     return code;
@@ -50,7 +64,8 @@ int Commands::download(const CommandLine& line) {
     if (line.From && line.To) program_.chooseRange(*line.From, *line.To);
     program_.mnuForceDownload_Click();
     screen_.leaveStatus();
-    if (interrupts_ > 0) return exit_code::Interrupted;
+    if (signal_ != 0) return signal_ == SIGINT ? exit_code::Interrupted : exit_code::Terminated;
+    if (program_.outcome().NoConnection) return exit_code::NoConnection;
     return program_.outcome().isGood() ? exit_code::Good : exit_code::Failed;
 }
 
@@ -85,12 +100,35 @@ int Commands::days() {
     return exit_code::Good;
 }
 
-void Commands::interrupt() {
+int Commands::watch() {
+    if (!program_.nextDue()) {
+        screen_.tell(
+            "There is no schedule to keep. Add an entry, for example: vell-console schedule add Mon Wed 07:30");
+        return exit_code::Usage;
+    }
+    constexpr int longestNap = 60000;  // milliseconds; the schedule's timer and signals end it
+    watches_ = true;
+    program_.startSchedule();
+    std::optional<LocalTime> announced;
+    while (signal_ == 0) {
+        if (const auto next = program_.nextDue(); next != announced) {
+            if (next) screen_.print("Next download: " + momentText(*next));
+            announced = next;
+        }
+        loop_.WaitForEvents(longestNap);
+    }
+    screen_.print("Stopped watching.");
+    return exit_code::Good;
+}
+
+void Commands::interrupt(int signal) {
     boxes_.giveUpQuestion();
-    if (interrupts_++ == 0)
+    const bool first = signal_ == 0;
+    signal_ = signal;
+    if (first && signal == SIGINT && !watches_ && program_.isBusy())
         program_.cmdStopDownload_Click();
     else
-        program_.abandonTransfers();
+        program_.endSession();
 }
 
 }  // namespace vell

@@ -7,6 +7,7 @@ namespace vell {
 
 class ConsoleBoxes;
 class ConsoleView;
+class EventLoop;
 class frmMain;
 class Screen;
 class Terminal;
@@ -14,23 +15,27 @@ class Terminal;
 // Does what the command line asks for and gives the exit code.
 class Commands {
   public:
-    Commands(frmMain& program, ConsoleView& view, Terminal& terminal, Screen& screen, ConsoleBoxes& boxes);
+    Commands(frmMain& program, EventLoop& loop, ConsoleView& view, Terminal& terminal, Screen& screen,
+             ConsoleBoxes& boxes);
 
     [[nodiscard]] int run(const CommandLine& line);
-    // Ctrl-C: the first acts as the Stop button, the next ends what still hangs.
-    void interrupt();
+    // The first Ctrl-C acts as the Stop button of a download; the next one, and SIGTERM, end what is under way at once.
+    void interrupt(int signal);
 
   private:
     [[nodiscard]] int download(const CommandLine& line);
     [[nodiscard]] int list(const CommandLine& line);
     [[nodiscard]] int days();
+    [[nodiscard]] int watch();
 
     frmMain& program_;
+    EventLoop& loop_;
     ConsoleView& view_;
     Terminal& terminal_;
     Screen& screen_;
     ConsoleBoxes& boxes_;
-    int interrupts_ = 0;
+    bool watches_ = false;
+    int signal_ = 0;  // the last one; 0 for none
 };
 
 }  // namespace vell

@@ -13,11 +13,16 @@
 #include "console/ConsoleView.h"
 #include "console/Screen.h"
 #include "platform/asio/AsioEventLoop.h"
+#include "platform/asio/AsioSockets.h"
 #include "platform/asio/StopSignals.h"
 #include "platform/posix/CurlInternet.h"
+#include "platform/posix/NetworkInterfaces.h"
+#include "platform/posix/NetworkManagerClient.h"
+#include "platform/posix/PosixConnection.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixIniFile.h"
 #include "platform/posix/PosixProcess.h"
+#include "platform/posix/PosixRas.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/PosixTerminal.h"
 #include "platform/posix/SystemClock.h"
@@ -30,16 +35,21 @@ int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
     vell::PosixFiles files;
     vell::PosixIniFile ini(files);
     vell::CurlInternet internet(loop, clock);
+    vell::AsioSockets sockets(loop);
     const auto wanted = line.Folder.empty() ? std::nullopt : std::optional(line.Folder);
     vell::PosixProcess process(vell::ProgramPlace::ofThisProcess(wanted));
     vell::PosixShell shell;
+    vell::NetworkManagerClient manager(loop, clock, "");
+    vell::PosixConnection connection(manager, vell::configuredProxy());
+    vell::PosixRas ras(manager);
     vell::Screen screen(terminal);
     vell::ConsoleBoxes boxes(terminal, screen, loop);
     if (line.Yes) boxes.sayYesToAll();
     vell::ConsoleView view(screen, boxes);
-    vell::frmMain program({clock, loop, files, ini, internet, boxes, process, shell}, view, VELL_VERSION);
-    vell::Commands commands(program, view, terminal, screen, boxes);
-    const vell::StopSignals signals(loop, [&](int /*number*/) { commands.interrupt(); });
+    vell::frmMain program({clock, loop, files, ini, internet, sockets, connection, ras, boxes, process, shell}, view,
+                          VELL_VERSION);
+    vell::Commands commands(program, loop, view, terminal, screen, boxes);
+    const vell::StopSignals signals(loop, [&](int number) { commands.interrupt(number); });
     return commands.run(line);
 }
 

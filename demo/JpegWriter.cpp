@@ -103,7 +103,7 @@ class JpegFile {
         putSegment('\xDA', std::string("\x03\x01\x00\x02\x00\x03\x00\x00\x3F\x00"sv));
     }
 
-    // Brightness (part 0) or one of the two colour differences of a square, around zero.
+    // Brightness (component 0) or one of the two colour differences of a square, around zero.
     static Block blockOf(const Canvas& canvas, int left, int top, std::size_t part) {
         static constexpr std::array<std::array<double, 3>, 3> weights{
             {{0.299, 0.587, 0.114}, {-0.1687, -0.3313, 0.5}, {0.5, -0.4187, -0.0813}}};

@@ -4,13 +4,16 @@
 namespace vell {
 
 class Clock;
+class ConnectionApi;
 class EventLoop;
 class Files;
 class IniFile;
 class InternetApi;
 class MessageBoxes;
 class Process;
+class RasApi;
 class Shell;
+class Sockets;
 
 // Everything that the program has of the operating system, handed down by constructors. Owned by the program's main.
 struct Platform {
@@ -19,6 +22,9 @@ struct Platform {
     Files& Disk;
     IniFile& Ini;
     InternetApi& Internet;
+    Sockets& Net;
+    ConnectionApi& Connection;
+    RasApi& Ras;
     MessageBoxes& Boxes;
     Process& Program;
     Shell& Opener;

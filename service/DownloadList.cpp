@@ -86,8 +86,8 @@ bool DownloadList::getList() {
         verdict = judge(records);
     }
     if (verdict == Verdict::Refused) return false;
-    storeIndex(records);
-    fillDownloadList(records);
+    const auto changed = storeIndex(records);
+    fillDownloadList(records, changed);
     return true;
 }
 
@@ -142,13 +142,15 @@ void DownloadList::dropBadRecords(std::vector<std::string>& records) {
     });
 }
 
-void DownloadList::storeIndex(std::vector<std::string>& records) {
+std::unordered_set<std::string> DownloadList::storeIndex(std::vector<std::string>& records) {
     const std::string path = day_.gDayFolder + std::string(indexFileName);
+    std::unordered_set<std::string> changed;
     if (!records.empty() && files_.PathExists(path)) {
         Merged merged = mergeWithIndex(std::move(records), files_.ReadFile(path));
         for (const std::string& name : merged.GoneFiles)
             if (isClippingName(name)) store_.DeleteArticleFiles(name);
         records = std::move(merged.Records);
+        changed = std::move(merged.ChangedFiles);
     }
     std::string text;
     for (const std::string& record : records)
@@ -156,21 +158,24 @@ void DownloadList::storeIndex(std::vector<std::string>& records) {
     files_.WriteWhole(path, text, Durability::Rename);
     state_.gClippingsCount = static_cast<std::int32_t>(
         records.size() - static_cast<std::size_t>(std::count_if(records.begin(), records.end(), isEmpty)));
+    return changed;
 }
 
-void DownloadList::fillDownloadList(const std::vector<std::string>& records) {
+void DownloadList::fillDownloadList(const std::vector<std::string>& records,
+                                    const std::unordered_set<std::string>& changed) {
     state_.gDownloadList.push_back({advertisementFile, "", advertisementSize});
     for (const std::string& record : records) {
         if (record.empty()) continue;
         const std::string name(indexKey(record));
-        append(name, indexField(record, pdfSizeField));
-        append(Replace(name, ".PDF", ".TXT"), indexField(record, textSizeField));
-        append(Replace(name, ".PDF", ".MT"), indexField(record, companionSizeField));
+        const bool isOutdated = changed.contains(name);
+        append(name, indexField(record, pdfSizeField), isOutdated);
+        append(Replace(name, ".PDF", ".TXT"), indexField(record, textSizeField), isOutdated);
+        append(Replace(name, ".PDF", ".MT"), indexField(record, companionSizeField), isOutdated);
     }
 }
 
-void DownloadList::append(std::string fileName, std::string_view size) {
-    state_.gDownloadList.push_back({std::move(fileName), "", sizeOf(size)});
+void DownloadList::append(std::string fileName, std::string_view size, bool isOutdated) {
+    state_.gDownloadList.push_back({std::move(fileName), "", sizeOf(size), isOutdated});
     state_.gTotalBytes += state_.gDownloadList.back().Size;
 }
 

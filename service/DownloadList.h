@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 #include "log/EventLog.h"
@@ -39,9 +40,10 @@ class DownloadList {
     [[nodiscard]] std::string listRequest() const;
     // Drops what is no record or would lead out of the day folder, and says so in the log.
     void dropBadRecords(std::vector<std::string>& records);
-    void storeIndex(std::vector<std::string>& records);
-    void fillDownloadList(const std::vector<std::string>& records);
-    void append(std::string fileName, std::string_view size);
+    // Gives the articles of which the service has another version than the last time.
+    [[nodiscard]] std::unordered_set<std::string> storeIndex(std::vector<std::string>& records);
+    void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
+    void append(std::string fileName, std::string_view size, bool isOutdated);
 
     modHTTP& http_;
     modGlobal& store_;

@@ -11,6 +11,7 @@ struct DownloadEntry {
     std::string FileName;
     std::string Transfer;  // kept for the transfer; empty
     std::int32_t Size = 0;
+    bool IsOutdated = false;  // the service has changed it since: what lies on the disk is no beginning of it
 };
 
 inline constexpr const char* advertisementFile = "ADVERTISMENT.JPG";

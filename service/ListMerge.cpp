@@ -41,8 +41,8 @@ std::string lineBreaksMade(std::string_view answer) {
     return text;
 }
 
-bool sameVersionFetched(std::string_view oldLine, std::string_view record) {
-    return indexField(oldLine, markField) == "d" && indexField(oldLine, changeField) == indexField(record, changeField);
+bool sameVersion(std::string_view oldLine, std::string_view record) {
+    return indexField(oldLine, changeField) == indexField(record, changeField);
 }
 
 void markFetched(std::string& record) {
@@ -81,7 +81,10 @@ Merged mergeWithIndex(std::vector<std::string> records, std::string_view oldInde
         while (position < old.size() && name > indexKey(old[position]))
             passOld();
         if (position < old.size() && name == indexKey(old[position])) {
-            if (sameVersionFetched(old[position], record)) markFetched(record);
+            if (!sameVersion(old[position], record))
+                merged.ChangedFiles.emplace(name);
+            else if (indexField(old[position], markField) == "d")
+                markFetched(record);
             ++position;
         }
     }

@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <vector>
 
 // From the service's answer to the day's new index: pure text work.
@@ -13,8 +14,9 @@ namespace vell {
 [[nodiscard]] std::vector<std::string> answerRecords(std::string_view answer);
 
 struct Merged {
-    std::vector<std::string> Records;    // with the marks that the old index carries over
-    std::vector<std::string> GoneFiles;  // articles that stand in the old index and no longer in the list
+    std::vector<std::string> Records;              // with the marks that the old index carries over
+    std::vector<std::string> GoneFiles;            // articles that stand in the old index and no longer in the list
+    std::unordered_set<std::string> ChangedFiles;  // articles of which the service has another version now
 };
 
 // Both lists are in the byte order of their file names; of a list out of order nothing is called gone that still

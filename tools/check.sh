@@ -50,7 +50,7 @@ cmake --preset debug >/dev/null
 flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED $(pkg-config --cflags gio-2.0)"
 headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|desktop)/')
 # shellcheck disable=SC2086
-echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ {} || fail "a header does not compile alone"
+echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ -include {} /dev/null || fail "a header does not compile alone"
 
 if [ "$fast" -eq 0 ]; then
   echo "== clang-tidy"

@@ -10,24 +10,13 @@
 #include "config/Settings.h"
 #include "platform/Files.h"
 #include "store/modGlobal.h"
+#include "ui/BusyMoment.h"
 
 namespace vell {
 
 namespace {
 
 constexpr std::chrono::milliseconds refreshInterval{250};
-
-// Shows the busy cursor for as long as it lives.
-class BusyMoment {
-  public:
-    explicit BusyMoment(BrowserView& view) : view_(view) { view_.showBusy(true); }
-    ~BusyMoment() { view_.showBusy(false); }
-    BusyMoment(const BusyMoment&) = delete;
-    BusyMoment& operator=(const BusyMoment&) = delete;
-
-  private:
-    BrowserView& view_;
-};
 
 }  // namespace
 

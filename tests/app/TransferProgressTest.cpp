@@ -7,15 +7,18 @@
 #include "tests/support/StoreRig.h"
 
 namespace vell::test {
-namespace {
 
 class TransferProgressTest : public testing::Test, protected StoreRig {
   protected:
-    // A list of `count` entries of 10240 bytes each; the entry `current` is being fetched.
+    // Of a list of `count` entries of 10240 bytes each, the entry `current` is being fetched.
     void list(std::size_t count, std::int32_t current) {
         session.Downloads = {{count, {"A.PDF", "", 10240}}, 40960};
         session.gCurrentFileIndex = current;
         session.gLastProgressBytes = 0;
+    }
+    void report(std::initializer_list<std::int32_t> counts) {
+        for (const std::int32_t bytes : counts)
+            progress.HTTPDownloadProgress(bytes);
     }
     Session session;
     RecordingView view;
@@ -24,51 +27,41 @@ class TransferProgressTest : public testing::Test, protected StoreRig {
 
 TEST_F(TransferProgressTest, followsAFileFromItsFirstByteToItsEnd) {
     list(10, 4);
-    for (const std::int32_t bytes : {0, 5120, 10240, 10240})
-        progress.HTTPDownloadProgress(bytes);
-    EXPECT_EQ(view.Progress, (std::vector<std::pair<int, int>>{{0, 0}, {50, 12}, {100, 25}, {100, 25}}));
+    report({0, 5120, 10240, 10240});
+    EXPECT_EQ(view.Progress, "0/0 50/12 100/25 100/25 ");
     EXPECT_EQ(session.Downloads.gBytesDownloaded, 10240);
     EXPECT_EQ(session.gLastProgressBytes, 0);
-    EXPECT_EQ(view.Statuses[1], "(1/3) Downloading A.PDF (5/10kb), Total kb downloaded: 5/40kb");
-    EXPECT_EQ(logged(), "HTTP-->" + view.Statuses[0] + "\nHTTP-->" + view.Statuses[1] + "\nHTTP-->" + view.Statuses[2] +
-                            "\nHTTP-->" + view.Statuses[3] + "\n");
-    progress.HTTPDownloadProgress(5120);  // a broken attempt ...
-    progress.HTTPDownloadProgress(2047);  // ... and the next one: fewer bytes begin anew
+    EXPECT_EQ(Replace("HTTP-->" + view.Statuses, "\n", "\nHTTP-->"), logged() + "HTTP-->");
+    report({5120, 2047});  // an attempt that breaks off, and the next one: fewer bytes begin anew
     EXPECT_EQ(session.Downloads.gBytesDownloaded, 10240 + 5120 + 2047);
-    EXPECT_EQ(view.Statuses.back(), "(1/3) Downloading A.PDF (1/10kb), Total kb downloaded: 16/40kb");
+    EXPECT_EQ(view.Status, "(1/3) Downloading A.PDF (1/10kb), Total kb downloaded: 16/40kb");
 }
 
 TEST_F(TransferProgressTest, countsClippingsWithTheirFractionsAndTellsTheEnd) {
-    const struct {
-        std::size_t count;
-        std::int32_t current;
-        std::string status;
-    } table[] = {
-        {10, 1, "(0/3) Downloading A.PDF (10/10kb), Total kb downloaded: 10/40kb"},
-        {11, 2, "(0/3.33333333333333) Downloading A.PDF (10/10kb), Total kb downloaded: 10/40kb"},
-        {10, 9, "(3/3) Downloading A.PDF (10/10kb), Total kb downloaded: 10/40kb"},
-        {10, 10, "Finished: 3 of 3 clippings downloaded."},
-        {11, 11, "Finished: 3 of 3.33333333333333 clippings downloaded."},
-    };
     session.gClippingsDownloaded = 3;
-    for (const auto& row : table) {
-        list(row.count, row.current);
-        progress.HTTPDownloadProgress(10240);
-        progress.HTTPDownloadProgress(10240);
-        EXPECT_EQ(view.Statuses.back(), row.status);
+    const std::string file = " Downloading A.PDF (10/10kb), Total kb downloaded: 10/40kb";
+    for (const auto& [count, current, status] : std::initializer_list<std::tuple<int, int, std::string>>{
+             {10, 1, "(0/3)" + file},
+             {11, 2, "(0/3.33333333333333)" + file},
+             {10, 9, "(3/3)" + file},
+             {10, 10, "Finished: 3 of 3 clippings downloaded."},
+             {11, 11, "Finished: 3 of 3.33333333333333 clippings downloaded."}}) {
+        list(static_cast<std::size_t>(count), current);
+        report({10240, 10240});
+        EXPECT_EQ(view.Status, status);
     }
 }
 
 TEST_F(TransferProgressTest, keepsItsErrorsToItselfAndItsStatusOnOneLine) {
     progress.StatusBar("a\r\nb\nc\r");
-    EXPECT_EQ(view.Statuses.back() + progress.statusText(), "abcabc");
+    EXPECT_EQ(view.Statuses + progress.statusText(), "abc\nabc");
     list(4, 2);
     session.Downloads.gDownloadList[1].Size = 0;
-    progress.HTTPDownloadProgress(100);
+    report({100});
     session.gCurrentFileIndex = 5;
-    progress.HTTPDownloadProgress(200);
+    report({200});
     EXPECT_EQ(session.Downloads.gBytesDownloaded, 200);
-    EXPECT_EQ(view.Statuses.size(), 1U);
+    EXPECT_EQ(view.Statuses, "abc\n");
     EXPECT_EQ(Split(logged(), " in HTTPDownloadProgress()\n").size(), 3U);
 }
 
@@ -76,12 +69,10 @@ TEST_F(TransferProgressTest, withoutALogPaintsOnlyWhatAnEyeCanFollow) {
     log.Stop();
     list(4, 2);
     for (std::int32_t bytes = 0; bytes <= 10240; bytes += 1024, clock.advance(std::chrono::milliseconds{10}))
-        progress.HTTPDownloadProgress(bytes);
-    EXPECT_EQ(view.Progress.size(), 3U);
-    progress.HTTPDownloadProgress(10240);
-    EXPECT_EQ(view.Progress.back(), (std::pair{100, 25}));
-    EXPECT_EQ(session.Downloads.gBytesDownloaded, 10240);
+        report({bytes});
+    EXPECT_EQ(view.Progress, "0/0 50/12 100/25 ");
+    report({10240});
+    EXPECT_EQ(view.Progress, "0/0 50/12 100/25 100/25 ");
 }
 
-}  // namespace
 }  // namespace vell::test

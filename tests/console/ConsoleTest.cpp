@@ -5,104 +5,27 @@
 #include "console/CommandLine.h"
 #include "console/ConsoleBoxes.h"
 #include "console/Screen.h"
-#include "platform/asio/AsioEventLoop.h"
-#include "tests/support/DrivenClock.h"
+#include "console/SetupCommand.h"
 #include "tests/support/FakeTerminal.h"
+#include "tests/support/StoreRig.h"
 
 namespace vell::test {
-namespace {
 
-std::string describe(const CommandLine& line) {
-    const auto day = [](const char* name, const std::optional<Date>& date) {
-        return date ? name + date->dayName() : std::string();
-    };
-    const char* commands[] = {"download", "list", "days", "setup"};
-    return commands[static_cast<int>(line.What)] + day(" on ", line.Day) + day(" from ", line.From) +
-           day(" to ", line.To) + (line.Tsv ? " tsv" : "") + (line.Yes ? " yes" : "") +
-           (line.Folder.empty() ? "" : " in " + line.Folder) + (line.Key ? " " + *line.Key : "") +
-           (line.Value ? "=" + *line.Value : "");
-}
-
-TEST(CommandLineTest, understandsItsCommandsAndRefusesTheRestWithAReason) {
-    const struct {
-        std::vector<std::string> arguments;
-        std::string meaning;  // after a number: the exit code, and a part of what is written
-    } table[] = {
-        {{"download"}, "download"},
-        {{"--folder", "/f", "--yes", "download", "--date", "29/02/2004"}, "download on 29/02/2004 yes in /f"},
-        {{"download", "--from", "01/03/2004", "--to", "01/03/2004", "--yes"},
-         "download from 01/03/2004 to 01/03/2004 yes"},
-        {{"list", "--tsv", "--date", "07/03/2004", "--folder", "/f"}, "list on 07/03/2004 tsv in /f"},
-        {{"days"}, "days"},
-        {{"setup"}, "setup"},
-        {{"setup", "Uid", "\xCE\xB1"}, "setup Uid=\xCE\xB1"},
-        {{"setup", "Pwd", "-"}, "setup Pwd=-"},
-        {{"setup", "Pwd", "--", "-x"}, "setup Pwd=-x"},
-        {{"setup", "DialUp", ""}, "setup DialUp="},
-        {{"--version"}, "0vell-console "},
-        {{"--help"}, "0Exit codes: 0 ended well"},
-        {{"download", "--help"}, "0dd/mm/yyyy"},
-        {{}, "2subcommand is required"},
-        {{"fetch", "--date", "07/03/2004"}, "2There is no command 'fetch'"},
-        {{"download", "--dat", "07/03/2004"}, "2--dat"},
-        {{"download", "--date"}, "2--date"},
-        {{"download", "--date", "30/02/2004"}, "2'30/02/2004' is no day of the calendar"},
-        {{"list", "--date", "2004-03-07"}, "2'2004-03-07' is no day of the calendar"},
-        {{"download", "--from", "02/03/2004", "--to", "01/03/2004"}, "2is later than --to"},
-        {{"download", "--from", "02/03/2004"}, "2needs the other end of the range"},
-        {{"download", "--to", "02/03/2004"}, "2needs the other end of the range"},
-        {{"download", "--date", "02/03/2004", "--from", "02/03/2004", "--to", "02/03/2004"}, "2goes without --from"},
-        {{"setup", "Uid", "a", "b"}, "2b"},
-    };
-    for (const auto& row : table) {
-        FakeTerminal terminal;
-        int code = -1;
-        const auto line = parseCommandLine(row.arguments, terminal, code);
-        if (line) {
-            EXPECT_EQ(describe(*line), row.meaning);
-            continue;
-        }
-        EXPECT_EQ(std::to_string(code), row.meaning.substr(0, 1)) << row.meaning;
-        EXPECT_NE((code == 0 ? terminal.Out : terminal.Err).find(row.meaning.substr(1)), std::string::npos)
-            << row.meaning << terminal.Out << terminal.Err;
-    }
-}
-
-class ScreenTest : public testing::Test {
+class ConsoleTest : public testing::Test, protected StoreRig {
   protected:
-    FakeTerminal terminal;
-    Screen screen{terminal};
-};
-
-TEST_F(ScreenTest, rewritesTheStatusInPlaceOnATerminalAndPrintsLinesElsewhere) {
-    screen.showStatus("one \xE1", 50);
-    screen.showStatus("", -1);
-    screen.tell("a\r\n\r\nb\r\n");
-    screen.print("x");
-    EXPECT_EQ(terminal.taken(), "one \xCE\xB1\nx\n!a\n\nb\n");
-    terminal.Person = true;
-    screen.showStatus("one \xE1", 50);
-    EXPECT_EQ(terminal.taken(), "\r[##########..........] one \xCE\xB1\x1b[K");
-    screen.showStatus(std::string(60, 'x'), -1);
-    EXPECT_EQ(terminal.taken(), "\r" + std::string(38, 'x') + "…\x1b[K");
-    screen.print("y");
-    screen.print("z");
-    EXPECT_EQ(terminal.taken(), "\ny\nz\n");
-}
-
-TEST_F(ScreenTest, letsNoTextOfTheServiceSteerTheTerminal) {
-    EXPECT_EQ(shownText(std::string("\x1b[2J\x07\0\t\r\n\x7F\x81\xA0z", 13)), " [2J       \xC2\xA0z");
-    EXPECT_EQ(shownLines("\na\r\nb\x1b\n\n"), "\na\nb ");
-    EXPECT_EQ(columns("\xCE\xB1"
-                      "b…"),
-              3U);
-    EXPECT_EQ(fitted("\xCE\xB1\xCE\xB2\xCE\xB3", 3), "\xCE\xB1\xCE\xB2\xCE\xB3");
-    EXPECT_EQ(fitted("\xCE\xB1\xCE\xB2\xCE\xB3", 2), "\xCE\xB1…");
-    EXPECT_EQ(fitted("ab", 1) + fitted("ab", 0), "…");
-}
-
-TEST(ClippingsTableTest, fitsItsColumnsIntoTheWidth) {
-    const auto row = [](const char* paper, const char* title, const char* type, bool opened, bool printed) {
+    Answer ask(Buttons buttons, std::string_view text = "Q") {
+        return console.Show(text, programCaption, buttons, BoxIcon::None);
+    }
+    // The exit code of the setup command, its output, "!", and its error output.
+    std::string change(const std::string& key, const std::optional<std::string>& value) {
+        SetupCommand command(frmSetup(setup, loader, ini, log), terminal, screen, console);
+        CommandLine line;
+        if (!key.empty()) line.Key = key;
+        line.Value = value;
+        const int code = command.run(line);
+        return std::to_string(code) + " " + terminal.taken();
+    }
+    static ClippingRow row(const char* paper, const char* title, const char* type, bool opened, bool printed) {
         auto file = std::make_shared<CFtpFile>();
         file->FileName = "A.PDF";
         file->FilePath = "/c\\07032004\\";
@@ -110,42 +33,104 @@ TEST(ClippingsTableTest, fitsItsColumnsIntoTheWidth) {
         file->Description = title;
         file->ArticleType = type;
         file->Category = "P\t1,P2";
-        return ClippingRow{file, opened, printed};
+        return {file, opened, printed};
+    }
+
+    FakeTerminal terminal;
+    Screen screen{terminal};
+    ConsoleBoxes console{terminal, screen, loop};
+};
+
+TEST_F(ConsoleTest, understandsItsCommandsAndRefusesTheRestWithAReason) {
+    const auto describe = [](const CommandLine& line) {
+        const char* commands[] = {"download", "list", "days", "setup"};
+        const auto text = [](const auto& date) { return date ? date->dayName() : std::string("-"); };
+        return std::string(commands[static_cast<int>(line.What)]) + " " + text(line.Day) + " " + text(line.From) + " " +
+               text(line.To) + (line.Tsv ? " tsv" : "") + (line.Yes ? " yes " : " ") + line.Folder +
+               line.Key.value_or("") + (line.Value ? "=" + *line.Value : "");
     };
+    // Arguments between commas; after a number: the exit code, and a part of what is told.
+    for (const auto& [arguments, meaning] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"download", "download - - - "},
+             {"--folder,/f,--yes,download,--date,29/02/2004", "download 29/02/2004 - - yes /f"},
+             {"download,--from,01/03/2004,--to,01/03/2004,--yes", "download - 01/03/2004 01/03/2004 yes "},
+             {"list,--tsv,--date,07/03/2004,--folder,/f", "list 07/03/2004 - - tsv /f"},
+             {"days", "days - - - "},
+             {"setup,Uid,\xCE\xB1", "setup - - - Uid=\xCE\xB1"},
+             {"setup,Pwd,-", "setup - - - Pwd=-"},
+             {"setup,Pwd,--,-x", "setup - - - Pwd=-x"},
+             {"setup,DialUp,", "setup - - - DialUp="},
+             {"--version", "0vell-console "},
+             {"--help", "0Exit codes: 0 ended well"},
+             {"download,--help", "0dd/mm/yyyy"},
+             {"--yes", "2subcommand is required"},
+             {"fetch,--date,07/03/2004", "2There is no command 'fetch'"},
+             {"download,--dat,07/03/2004", "2--dat"},
+             {"download,--date", "2--date"},
+             {"download,--date,30/02/2004", "2'30/02/2004' is no day of the calendar"},
+             {"list,--date,2004-03-07", "2'2004-03-07' is no day of the calendar"},
+             {"download,--from,02/03/2004,--to,01/03/2004", "2is later than --to"},
+             {"download,--from,02/03/2004", "2needs the other end of the range"},
+             {"download,--to,02/03/2004", "2needs the other end of the range"},
+             {"download,--date,02/03/2004,--from,02/03/2004,--to,02/03/2004", "2goes without --from"},
+             {"setup,Uid,a,b", "2b"}}) {
+        const auto pieces = Split(arguments, ",");
+        int code = -1;
+        const auto line = parseCommandLine({pieces.begin(), pieces.end()}, terminal, code);
+        const std::string told = terminal.taken();
+        const bool asMeant =
+            line ? describe(*line) == meaning : code == meaning[0] - '0' && told.find(meaning + 1) != std::string::npos;
+        EXPECT_TRUE(asMeant) << meaning << "\n" << told;
+    }
+}
+
+TEST_F(ConsoleTest, rewritesTheStatusInPlaceOnATerminalAndPrintsLinesElsewhere) {
+    screen.showStatus("one \xE1", 50);
+    screen.showStatus("", -1);
+    screen.tell("a\r\n\r\nb\r\n");
+    screen.print("x");
+    EXPECT_EQ(terminal.taken(), "one α\nx\n!a\n\nb\n");
+    terminal.Person = true;
+    screen.showStatus("one \xE1", 50);
+    screen.showStatus(std::string(60, 'x'), -1);
+    screen.print("y");
+    screen.print("z");
+    EXPECT_EQ(terminal.taken(), "\r[##########..........] one α\x1b[K\r" + std::string(38, 'x') + "…\x1b[K\ny\nz\n!");
+}
+
+TEST_F(ConsoleTest, letsNoTextOfTheServiceSteerTheTerminal) {
+    EXPECT_EQ(shownText(std::string("\x1b[2J\x07\0\t\r\n\x7F\x81\xA0z", 13)), " [2J       \xC2\xA0z");
+    EXPECT_EQ(shownLines("\na\r\nb\x1b\n\n"), "\na\nb ");
+    EXPECT_EQ(columns("αb…"), 3U);
+    EXPECT_EQ(fitted("αβγ", 3) + fitted("αβγ", 2) + fitted("ab", 1) + fitted("ab", 0), "αβγα……");
+}
+
+TEST_F(ConsoleTest, fitsClippingsIntoTheWidthAndGivesProgramsAllOfThem) {
     const std::vector<ClippingRow> rows{row("\xCA\xC1", "A title of some length", " ", true, true),
                                         row("", "", "T", false, true), row("N", "", "T", true, false)};
-    EXPECT_EQ(
-        clippingsTable(rows, 48),
-        (std::vector<std::string>{
-            "   Newspaper  Title               Type  Category", "─  ─────────  ──────────────────  ────  ────────",
-            "B  \xCE\x9A\xCE\x91         A title of some l…        P 1,P2",
-            "P             A.PDF               T     P 1,P2", "O  N                              T     P 1,P2"}));
+    std::string table;
+    for (const std::string& line : clippingsTable(rows, 48))
+        table += line + "\n";
+    EXPECT_EQ(table, R"(   Newspaper  Title               Type  Category
+─  ─────────  ──────────────────  ────  ────────
+B  ΚΑ         A title of some l…        P 1,P2
+P             A.PDF               T     P 1,P2
+O  N                              T     P 1,P2
+)");
     EXPECT_EQ(columns(clippingsTable(rows, 0)[1]), 52U);
     EXPECT_EQ(columns(clippingsTable(rows, 1)[1]), 37U);
     EXPECT_EQ(clippingsTable({}, 80).size(), 2U);
-    EXPECT_EQ(clippingTsv(rows[0]),
-              "B\t\xCE\x9A\xCE\x91\tA title of some length\t\tP 1,P2\tA.PDF\t/c\\07032004\\A.PDF");
+    EXPECT_EQ(clippingTsv(rows[0]), "B\tΚΑ\tA title of some length\t\tP 1,P2\tA.PDF\t/c\\07032004\\A.PDF");
     EXPECT_EQ(clippingTsv(row("N", "", "T", false, false)), "-\tN\t\tT\tP 1,P2\tA.PDF\t/c\\07032004\\A.PDF");
 }
 
-class ConsoleBoxesTest : public ScreenTest {
-  protected:
-    Answer ask(Buttons buttons, std::string_view text = "Q") {
-        return boxes.Show(text, programCaption, buttons, BoxIcon::None);
-    }
-    DrivenClock clock;
-    AsioEventLoop loop{clock};
-    ConsoleBoxes boxes{terminal, screen, loop};
-};
-
-TEST_F(ConsoleBoxesTest, answersByItselfWhenNobodyIsThere) {
-    boxes.Show("text", "Caption", Buttons::Ok, BoxIcon::None);
-    EXPECT_EQ(terminal.taken(), "!Caption: text\n");
+TEST_F(ConsoleTest, answersByItselfWhenNobodyIsThere) {
+    console.Show("text", "Caption", Buttons::Ok, BoxIcon::None);
     EXPECT_EQ(ask(Buttons::YesNo), Answer::No);
     EXPECT_EQ(ask(Buttons::AbortRetryIgnore), Answer::Abort);
-    EXPECT_EQ(terminal.taken(), "!Q\n-> No\nQ\n-> Abort\n");
-    EXPECT_EQ(boxes.askForLine("?", false), std::nullopt);
-    boxes.sayYesToAll();
+    EXPECT_EQ(terminal.taken(), "!Caption: text\nQ\n-> No\nQ\n-> Abort\n");
+    EXPECT_EQ(console.askForLine("?", false), std::nullopt);
+    console.sayYesToAll();
     for (const char* question : {"Q", "another", "Q"}) {
         for (int i = 0; i < 3; ++i)
             EXPECT_EQ(ask(Buttons::RetryCancel, question), Answer::Retry);
@@ -153,26 +138,67 @@ TEST_F(ConsoleBoxesTest, answersByItselfWhenNobodyIsThere) {
     }
 }
 
-TEST_F(ConsoleBoxesTest, asksThePersonUntilAButtonIsNamed) {
+TEST_F(ConsoleTest, asksThePersonUntilAButtonIsNamed) {
     terminal.Person = true;
-    terminal.Typed = {"", "x", " C "};
+    terminal.Typed = {"", "x", " C ", "ign", "yess", "y"};
     EXPECT_EQ(ask(Buttons::OkCancel), Answer::Cancel);
     EXPECT_EQ(terminal.taken(), "!Q\nOK/Cancel? OK/Cancel? OK/Cancel? ");
-    terminal.Typed = {"ign", "yes", "yess", "y"};
     EXPECT_EQ(ask(Buttons::AbortRetryIgnore), Answer::Ignore);
     EXPECT_EQ(ask(Buttons::YesNo), Answer::Yes);
-    EXPECT_EQ(ask(Buttons::YesNo), Answer::Yes);
     EXPECT_EQ(ask(Buttons::YesNo), Answer::No);  // the input has ended
-    terminal.taken();
-    terminal.Typed = {"secret"};
-    EXPECT_EQ(boxes.askForLine("Password: ", true), "secret");
-    EXPECT_EQ(terminal.taken(), "!Password: *\n");
-    EXPECT_TRUE(terminal.Echo);
     terminal.Silent = true;
-    const auto timer = loop.SetTimer(100, [&] { boxes.giveUpQuestion(); });
+    const auto timer = loop.SetTimer(100, [&] { console.giveUpQuestion(); });
     EXPECT_EQ(ask(Buttons::YesNo), Answer::No);
     loop.KillTimer(timer);
 }
 
-}  // namespace
+TEST_F(ConsoleTest, changesOneSettingWithTheDialogsChecksAndShowsNoPassword) {
+    for (const auto& [entry, answer] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"host=service.example", "0 Host = service.example\n!"},
+             {"Uid=α", "0 Uid = α\n!"},
+             {"Uid= ann ", "0 Uid = ann\n!Of the value given, only this much takes effect: ann\n"},
+             {"Uid=\xE2\x82\xBF", "2 !The value of Uid has a character that is neither Latin nor Greek.\n"},
+             {"Uid=", "2 !Error! Username not specified\n"},
+             {"Protocol=ftp", "0 Protocol = FTP\n!"},
+             {"Protocol=smtp", "2 !Protocol takes HTTP or FTP.\n"},
+             {"TimeOut=120", "0 TimeOut = 12\n!Of the value given, only this much takes effect: 12\n"},
+             {"TimeOut=soon", "2 !TimeOut takes a number.\n"},
+             {"RetryDelay=50", "2 !Error! Retry delay value set too high\n"},
+             {"PrintOnDownload=yes", "2 !PrintOnDownload takes 0 or 1.\n"},
+             {"LocalDir=clips", "2 !LocalDir takes a full path, such as /home/ann/clippings.\n"},
+             {"LocalDir=/clips//", "0 LocalDir = /clips\n!"},
+             {"Pwd=topsecret", "0 Pwd = (set)\n!"},
+             {"proxyPwd=", "0 proxyPwd = (not set)\n!"},
+             {"Debug=1", "2 !There is no setting 'Debug'. 'vell-console setup' shows them all.\n"}}) {
+        const auto pieces = Split(entry, "=");
+        EXPECT_EQ(change(std::string(pieces[0]), std::string(pieces[1])), answer) << entry;
+    }
+    const std::string all = change("UID", {}) + change("", {});
+    EXPECT_TRUE(all.starts_with("0 ann\n!0 Protocol = FTP") && all.find("\nPwd = (set)") != std::string::npos) << all;
+    EXPECT_EQ((all + folder.get("vell.ini")).find("topsecret"), std::string::npos);
+    files.Trouble = "vell.ini";
+    EXPECT_EQ(change("Pwd", "other"), "1 !Error! The settings file could not be written\n");
+    EXPECT_EQ(setup.Pwd, "topsecret");
+}
+
+TEST_F(ConsoleTest, takesPasswordsUnseenAndRepairsDamagedOnes) {
+    terminal.Typed = {"piped"};
+    EXPECT_EQ(change("Pwd", "-") + setup.Pwd, "0 Pwd = (set)\n!piped");
+    SetupCommand command(frmSetup(setup, loader, ini, log), terminal, screen, console);
+    command.askForLogin();
+    EXPECT_EQ(terminal.taken(), "!Change them with 'vell-console setup Uid NAME' and 'vell-console setup Pwd -'.\n");
+    terminal.Person = true;
+    terminal.Typed = {"ann", "secret", "", ""};
+    command.askForLogin();
+    command.askForLogin();
+    EXPECT_EQ(setup.Uid + setup.Pwd, "annsecret");
+    EXPECT_EQ(terminal.taken(), "Uid = ann\nPwd = (set)\n!User name []: Password: *\nUser name [ann]: Password: *\n");
+
+    const std::string damaged = "!" + std::string(damagedSettings) + "\n";
+    folder.put("vell.ini", "[Host]\r\nPwd=bad\r\nproxyPwd=bad\r\n[Download]\r\nLocalDir=/kept\r\n");
+    EXPECT_TRUE(change("", {}).ends_with(damaged));
+    EXPECT_EQ(change("Pwd", "new"), "0 Pwd was saved.\n" + damaged);
+    EXPECT_EQ(change("proxyPwd", "") + setup.Pwd + setup.LocalDir, "0 proxyPwd = (not set)\n!new/kept");
+}
+
 }  // namespace vell::test

@@ -1,35 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "store/Articles.h"
 #include "store/modGlobal.h"
+#include "tests/support/RecordingShell.h"
 #include "tests/support/StoreRig.h"
 
 namespace vell::test {
-namespace {
-
-namespace fs = std::filesystem;
 
 class modGlobalTest : public testing::Test, protected StoreRig {
   protected:
-    std::string listing(std::vector<std::string> patterns) {
+    std::string listing(const std::vector<std::string>& patterns) {
         std::string text;
         for (const auto& f : store.GetLocalFiles(day.gDayFolder, patterns))
             text += f->FileName + "=" + std::to_string(f->FileSize) + "," + f->NewspaperName + "," + f->Description +
-                    "," + f->Category + "," + f->ArticleType + "\n";
+                    "," + f->Category + "," + f->ArticleType + ";";
         return text;
     }
+    static std::string joined(const std::vector<std::string>& names) {
+        std::string text;
+        for (const std::string& name : names)
+            text += name + " ";
+        return text;
+    }
+    // How often the procedure has logged an error since the last call.
+    std::size_t errorsOf(const std::string& procedure) { return Split(logged(), " in " + procedure + "\n").size() - 1; }
+
+    RecordingShell shell;
+    Articles articles{shell, boxes, loop, log};
 };
 
 TEST_F(modGlobalTest, makesTheDaysFolderOneLevelDeepAndOnlyUnderARoot) {
-    day.gDayFolder.clear();
-    const std::string wanted = setup.LocalDir + "\\07032004\\";
-    EXPECT_TRUE(store.CreateDownloadDirPath());
-    EXPECT_EQ(day.gDayFolder, wanted);
-    EXPECT_TRUE(store.CreateDownloadDirPath());  // the folder is there already
-    EXPECT_TRUE(folder.has("clips/07032004"));
+    const std::string wanted = std::exchange(day.gDayFolder, "");
+    EXPECT_TRUE(store.CreateDownloadDirPath() && folder.has("clips/07032004"));
+    EXPECT_TRUE(store.CreateDownloadDirPath());  // it is there already
+    EXPECT_EQ(std::exchange(day.gDayFolder, ""), wanted);
     EXPECT_EQ(logged(), "Download directory is '" + wanted + "'\nDownload directory is '" + wanted + "'\n");
-
-    day.gDayFolder.clear();
     folder.put("clips/08032004", "a file stands in the way");
     day.gCurrentDate = "08032004";
     EXPECT_FALSE(store.CreateDownloadDirPath());
@@ -39,120 +45,134 @@ TEST_F(modGlobalTest, makesTheDaysFolderOneLevelDeepAndOnlyUnderARoot) {
     }
     EXPECT_EQ(day.gDayFolder, "");
     EXPECT_FALSE(folder.has("missing"));
-    const std::string lines = logged();
-    EXPECT_EQ(Split(lines, " in CreateDownloadDirPath()\n").size(), 5U) << lines;
+    EXPECT_EQ(errorsOf("CreateDownloadDirPath()"), 4U);
 }
 
 TEST_F(modGlobalTest, joinsTheFilesOfADayToItsIndexWithoutRegardToCase) {
-    putIntoDay("a.pdf", "12345");
-    putIntoDay("B.PDF", "");
-    putIntoDay("C.PDF", "1");
-    putIntoDay("A.TXT", "1");
-    EXPECT_EQ(listing({"*.PDF", ""}), "a.pdf=5,,,,\nB.PDF=0,,,,\nC.PDF=1,,,,\n");
-    putIntoDay("ALLFILES.DIR",
-               "A.PDF||N1||T1||P|E||Y\r\nA.PDF||second||.||.||.\r\nb.pdf||N2||.||.||.\r\nGONE.PDF||N3\r\nC.PDF||last");
-    EXPECT_EQ(listing({"*.PDF", "*.TXT"}), "a.pdf=5,N1,T1,P,E,Y\nB.PDF=0,N2,,, \nC.PDF=1,,,,\n");
+    put("a.pdf", "12345");
+    for (const char* name : {"B.PDF", "C.PDF", "A.TXT"})
+        put(name, "1");
+    EXPECT_EQ(listing({"*.PDF", ""}), "a.pdf=5,,,,;B.PDF=1,,,,;C.PDF=1,,,,;");
+    put("ALLFILES.DIR", "A.PDF||N||T||P|E||Y\r\nA.PDF||second\r\nb.pdf||M||.||.||.\r\nGONE.PDF||L\r\nC.PDF||last");
+    EXPECT_EQ(listing({"*.PDF", "*.TXT"}), "a.pdf=5,N,T,P,E,Y;B.PDF=1,M,,, ;C.PDF=1,,,,;");
     EXPECT_EQ(listing({"*.PDF"}), "");
     EXPECT_EQ(store.indexTable().size(), 4U);
-    fs::remove(folder.path() / "clips/07032004/ALLFILES.DIR");
-    EXPECT_EQ(listing({"*.txt", "*.PDF", ""}), "A.TXT=1,,,,\na.pdf=5,,,,\nB.PDF=0,,,,\nC.PDF=1,,,,\n");
-    fs::create_directory(folder.path() / "clips/07032004/ALLFILES.DIR");
-    EXPECT_EQ(listing({"*.TXT", ""}), "A.TXT=1,,,,\n");
-    EXPECT_NE(logged().find(" in GetLocalFiles()\n"), std::string::npos);
+    files.DeleteFile(day.gDayFolder + "ALLFILES.DIR");
+    EXPECT_EQ(listing({"*.txt", "*.PDF", ""}), "A.TXT=1,,,,;a.pdf=5,,,,;B.PDF=1,,,,;C.PDF=1,,,,;");
+    files.MakeFolder(day.gDayFolder + "ALLFILES.DIR");
+    EXPECT_EQ(listing({"*.TXT", ""}), "A.TXT=1,,,,;");
+    EXPECT_EQ(errorsOf("GetLocalFiles()"), 1U);
 }
 
 TEST_F(modGlobalTest, listsFoldersAndSortsDaysNewestFirst) {
-    fs::create_directories(folder.path() / "clips/b");
-    fs::create_directories(folder.path() / "clips/.hidden");
-    folder.put("clips/file", "");
-    EXPECT_EQ(store.GetLocalDirectories(setup.LocalDir, false), (std::vector<std::string>{".hidden", "b"}));
-    EXPECT_EQ(store.GetLocalDirectories(setup.LocalDir, true).size(), 4U);
-    EXPECT_TRUE(store.GetLocalDirectories(folder.text() + "/none", false).empty());
-    EXPECT_EQ(store.DateSort({"15/02/2004", "07/03/2004", "31/12/2003", "08/02/2004", "07/03/2004"}),
-              (std::vector<std::string>{"07/03/2004", "07/03/2004", "15/02/2004", "08/02/2004", "31/12/2003"}));
-    EXPECT_TRUE(store.DateSort({}).empty());
+    folder.put("clips/b/file", "");
+    folder.put("clips/.hidden/file", "");
+    EXPECT_EQ(joined(store.GetLocalDirectories(setup.LocalDir, false)), ".hidden b ");
+    EXPECT_EQ(joined(store.GetLocalDirectories(setup.LocalDir, true)), ". .. .hidden b ");
+    EXPECT_EQ(joined(store.GetLocalDirectories(folder.text() + "/none", false)), "");
+    EXPECT_EQ(joined(store.DateSort({"15/02/2004", "07/03/2004", "31/12/2003", "08/02/2004", "07/03/2004"})),
+              "07/03/2004 07/03/2004 15/02/2004 08/02/2004 31/12/2003 ");
 }
 
 TEST_F(modGlobalTest, marksArticlesInTheirOwnFolder) {
+    put("A.PDF", "");
     const std::string article = day.gDayFolder + "A.PDF";
-    putIntoDay("A.PDF", "");
-    EXPECT_FALSE(store.IsFileOpened(article));
-    EXPECT_TRUE(store.MarkFileOpened("  " + article + " "));
-    EXPECT_TRUE(store.IsFileOpened(day.gDayFolder + "a.pdf"));
+    EXPECT_FALSE(store.IsFileOpened(article) || store.IsFilePrinted(article));
+    EXPECT_TRUE(store.MarkFileOpened("  " + article + " ") && store.IsFileOpened(day.gDayFolder + "a.pdf"));
     EXPECT_FALSE(store.IsFilePrinted(article));
-    EXPECT_TRUE(store.MarkFilePrinted(article));
-    EXPECT_TRUE(store.IsFilePrinted(article));
-    EXPECT_EQ(inDay("OPENED.DIR"), "[VIEW]\r\nA.PDF=1\r\n");
-    EXPECT_EQ(inDay("PRINTED.DIR"), "[PRINT]\r\nA.PDF=1\r\n");
-    putIntoDay("OPENED.DIR", "[VIEW]\r\nA.PDF=\" 1 \"\r\nB.PDF=2\r\nC.PDF=yes\r\nD.PDF=\r\n");
+    EXPECT_TRUE(store.MarkFilePrinted(article) && store.IsFilePrinted(article));
+    EXPECT_EQ(get("OPENED.DIR") + get("PRINTED.DIR"), "[VIEW]\r\nA.PDF=1\r\n[PRINT]\r\nA.PDF=1\r\n");
+    put("OPENED.DIR", "[VIEW]\r\nA.PDF=\" 1 \"\r\nB.PDF=2\r\nC.PDF=yes\r\nD.PDF=\r\n");
     EXPECT_TRUE(store.IsFileOpened(article));
     for (const char* other : {"B.PDF", "C.PDF", "D.PDF", "E.PDF", ""})
         EXPECT_FALSE(store.IsFileOpened(day.gDayFolder + other)) << other;
-    for (const char* nowhere : {"", "A.PDF", "/A.PDF"}) {
-        EXPECT_FALSE(store.MarkFileOpened(nowhere));
-        EXPECT_FALSE(store.MarkFilePrinted(nowhere));
-        EXPECT_FALSE(store.IsFileOpened(nowhere));
-        EXPECT_FALSE(store.IsFilePrinted(nowhere));
-    }
+    for (const char* nowhere : {"", "A.PDF", "/A.PDF"})
+        EXPECT_FALSE(store.MarkFileOpened(nowhere) || store.MarkFilePrinted(nowhere) || store.IsFileOpened(nowhere));
     EXPECT_FALSE(store.MarkFileOpened(folder.text() + "\\missing\\A.PDF"));
 }
 
 TEST_F(modGlobalTest, deletesADayAndAsksAgainWhileSomethingIsInUse) {
-    const std::string question =
-        "Sharing Violation: Cannot delete one or more files. There has been a sharing violation. Make sure no files "
-        "are in use.";
     for (const char* name : {"A.PDF", "A.TXT", "ALLFILES.DIR", ".vell-999999999-1.part"})
-        putIntoDay(name, "x");
+        put(name, "x");
     files.Trouble = "A.TXT";
     boxes.Answers = {Answer::Retry, Answer::Cancel};
     store.DeleteContent("07/03/2004");
-    EXPECT_EQ(boxes.Shown, (std::vector<std::string>{question, question}));
-    EXPECT_TRUE(dayHas("A.TXT"));
+    const std::string question =
+        "Sharing Violation: Cannot delete one or more files. There has been a sharing "
+        "violation. Make sure no files are in use.|";
+    EXPECT_EQ(boxes.Shown, question + question);
+    EXPECT_TRUE(has("A.TXT"));
     boxes.Answers = {Answer::Retry};
     boxes.OnQuestion = [&] { files.Trouble.clear(); };
     store.DeleteContent("07/03/2004");
     EXPECT_FALSE(folder.has("clips/07032004"));
-    const std::string lines = logged();
-    EXPECT_EQ(Split(lines, " in DeleteContent()\n").size(), 4U) << lines;
+    EXPECT_EQ(errorsOf("DeleteContent()"), 3U);
 }
 
 TEST_F(modGlobalTest, neverDeletesOutsideADayFolder) {
-    folder.put("clips/keep.txt", "x");
-    folder.put("keep.txt", "x");
-    putIntoDay("A.PDF", "x");
-    for (const char* name : {"", "..", "../..", "00/00/0000", "30/02/2004", "7/3/2004", "07032004", "07/03/2004/"}) {
-        store.DeleteContent(name);
+    for (const char* name : {"keep.txt", "clips/keep.txt", "clips/07032004/keep.txt"})
+        folder.put(name, "x");
+    for (const char* name :
+         {"", "..", "../..", "00/00/0000", "30/02/2004", "7/3/2004", "07032004", "07/03/2004/", "07/03/2004"}) {
+        if (std::string_view(name) == "07/03/2004") setup.LocalDir.clear();
         day.cmbDate = name;
-        store.DeleteArticleFiles("A.PDF");
-        store.DeleteDayFile("A.PDF");
+        store.DeleteContent(name);
+        store.DeleteArticleFiles("keep.txt");
+        store.DeleteDayFile("keep.txt");
     }
-    day.cmbDate = "07/03/2004";
-    setup.LocalDir.clear();
-    store.DeleteContent("07/03/2004");
-    store.DeleteArticleFiles("A.PDF");
-    EXPECT_TRUE(folder.has("clips/keep.txt") && folder.has("keep.txt") && dayHas("A.PDF"));
+    EXPECT_TRUE(folder.has("keep.txt") && folder.has("clips/keep.txt") && has("keep.txt"));
 }
 
 TEST_F(modGlobalTest, deletesAnArticleInAllItsFormsFromTheChosenDay) {
     day.gCurrentDate = "08032004";
-    for (const char* name : {"X.PDF", "X.TXT", "X.MT", "XY.PDF", "ALLFILES.DIR"}) {
-        putIntoDay(name, "x");
-        folder.put(std::string("clips/08032004/") + name, "x");
-    }
+    for (const char* name : {"X.PDF", "X.TXT", "X.MT", "XY.PDF", "ALLFILES.DIR"})
+        for (const char* where : {"clips/07032004/", "clips/08032004/"})
+            folder.put(std::string(where) + name, "x");
     store.DeleteArticleFiles("X.PDF");
     store.DeleteArticleFiles("GONE.PDF");
     store.DeleteDayFile("ALLFILES.DIR");
-    for (const char* name : {"X.PDF", "X.TXT", "X.MT", "ALLFILES.DIR"}) {
-        EXPECT_FALSE(dayHas(name)) << name;
-        EXPECT_TRUE(folder.has(std::string("clips/08032004/") + name)) << name;
-    }
-    EXPECT_TRUE(dayHas("XY.PDF"));
-    EXPECT_TRUE(boxes.Shown.empty());
+    EXPECT_EQ(files.Enumerate(day.gDayFolder, "*.*", Files::Kind::Files).size(), 1U);
+    EXPECT_EQ(files.Enumerate(setup.LocalDir + "\\08032004", "*.*", Files::Kind::Files).size(), 5U);
     files.Trouble = "XY.PDF";
     store.DeleteArticleFiles("XY.PDF");
-    EXPECT_EQ(boxes.Shown,
-              std::vector<std::string>{"Cannot delete " + day.gDayFolder + "XY.PDF. Make sure it's not in use."});
+    EXPECT_EQ(boxes.Shown, "Cannot delete " + day.gDayFolder + "XY.PDF. Make sure it's not in use.|");
 }
 
-}  // namespace
+TEST_F(modGlobalTest, tellsWhyTheSystemDidNotOpenSomething) {
+    const std::string texts =
+        "0The operating system is out of memory or resources.|2The specified file was not found.|"
+        "3The specified path was not found.|5The operating system denied access to the specified file.|"
+        "8There was not enough memory to complete the operation.|"
+        "11The .exe file is invalid (non-Win32\xAE .exe or error in .exe image).|26A sharing violation occurred.|"
+        "27The file name association is incomplete or invalid.|"
+        "28The DDE transaction could not be completed because the request timed out.|29The DDE transaction failed.|"
+        "30The DDE transaction could not be completed because other DDE transactions were being processed.|"
+        "31There is no application associated with the given file name extension.|"
+        "32The specified dynamic-link library was not found.|1|-1";
+    for (const auto row : Split(texts, "|")) {
+        boxes.Shown.clear();
+        shell.Result = static_cast<int>(Val(row));
+        const std::string text(row.substr(std::min(row.find_first_not_of("-0123456789"), row.size())));
+        EXPECT_FALSE(articles.ShellExec("C:\\x.pdf", ""));
+        EXPECT_EQ(boxes.Shown, text.empty() ? "" : "Error opening file 'C:\\x.pdf '.\r\n" + text + "|");
+    }
+    shell.Result = 33;
+    EXPECT_TRUE(articles.ShellExec("http://x", "-y"));
+}
+
+TEST_F(modGlobalTest, printsWhateverHasPdfInItsPath) {
+    EXPECT_TRUE(articles.PrintArticle("C:\\A.PDF\\b.txt"));
+    shell.Result = 2;
+    EXPECT_FALSE(articles.PrintArticle("C:\\y.pdf"));
+    EXPECT_FALSE(articles.PrintArticle("C:\\x.TXT"));
+    EXPECT_EQ(shell.Opened, "Acrord32.exe < /p /h \"C:\\A.PDF\\b.txt\">\nAcrord32.exe < /p /h \"C:\\y.pdf\">\n");
+    EXPECT_EQ(boxes.Shown,
+              "Error opening file 'Acrord32.exe  /p /h \"C:\\y.pdf\"'.\r\nThe specified file was not "
+              "found.|");
+    EXPECT_EQ(logged(),
+              "PRINTING:C:\\A.PDF\\b.txt\n        Acrord32.exe /p /h \"C:\\A.PDF\\b.txt\"\n"
+              "        Status:True\nPRINTING:C:\\y.pdf\n        Acrord32.exe /p /h \"C:\\y.pdf\"\n"
+              "        Status:False\nPRINTING:C:\\x.TXT\n");
+}
+
 }  // namespace vell::test

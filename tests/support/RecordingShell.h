@@ -2,22 +2,21 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "platform/Shell.h"
 
 namespace vell::test {
 
-// Opens nothing, remembers what it was asked for ("file|parameters") and answers `Result`.
+// Opens nothing and answers `Result`.
 class RecordingShell : public Shell {
   public:
     [[nodiscard]] int Open(std::string_view file, std::string_view parameters) override {
-        Opened.push_back(std::string(file).append("|").append(parameters));
+        Opened.append(file).append(" <").append(parameters).append(">\n");
         return Result;
     }
 
     int Result = 33;
-    std::vector<std::string> Opened;
+    std::string Opened;  // what it was asked for: a file and its parameters in each line
 };
 
 }  // namespace vell::test

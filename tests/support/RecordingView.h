@@ -3,8 +3,6 @@
 
 #include <functional>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include "app/MainView.h"
 
@@ -14,8 +12,9 @@ namespace vell::test {
 class RecordingView : public MainView {
   public:
     void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) override {
-        Days = dayNames;
-        Chosen = chosen;
+        Days.clear();
+        for (const std::string& name : dayNames)
+            Days += (name == chosen ? "*" : "") + name + " ";
     }
     void showClippings(const std::vector<ClippingRow>& rows) override {
         Rows.clear();
@@ -29,19 +28,21 @@ class RecordingView : public MainView {
     void showAdvertisement(const std::string& path) override { Advertisement = path; }
     void showBusy(bool busy) override { Busy += busy ? 1 : -1; }
     void showStatus(std::string_view text) override {
-        Statuses.emplace_back(text);
-        if (OnStatus) OnStatus(Statuses.back());
+        Status = text;
+        Statuses += Status + "\n";
+        if (const auto act = OnStatus) act(Status);  // a copy: it may put another in its place
     }
-    void showProgress(int currentFile, int wholeRun) override { Progress.emplace_back(currentFile, wholeRun); }
+    void showProgress(int currentFile, int wholeRun) override {
+        Progress += std::to_string(currentFile) + "/" + std::to_string(wholeRun) + " ";
+    }
     void showForcedRun(bool running) override { Running = running; }
     void showDateRange(const Date& from, const Date& to) override { Range = from.dayName() + "-" + to.dayName(); }
-    void displayInfoMessageBox(std::string_view text) override { Messages.emplace_back(text); }
+    void displayInfoMessageBox(std::string_view text) override { Message = text; }
     void openSetup() override {}
     [[nodiscard]] bool followsRun() const override { return Follows; }
 
-    std::vector<std::string> Days, Statuses, Messages;
-    std::string Chosen, Rows, Count, Alert, Advertisement, Range;
-    std::vector<std::pair<int, int>> Progress;
+    std::string Days, Rows, Count, Alert, Advertisement, Progress, Range, Message;
+    std::string Status, Statuses;  // the last one, and all, each on a line
     int Busy = 0;
     bool Running = false;
     bool Follows = true;

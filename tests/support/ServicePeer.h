@@ -26,26 +26,35 @@ class ServicePeer {
 
     static constexpr const char* listScript = "/vell/vellClipsToDownload.asp";
     static constexpr const char* alertScript = "/sources.asp";
+    static std::string pathOf(const std::string& name) { return "/archive/2004/03/07/" + name; }
+
+    // From now on lists the clippings N120040307.PDF, N220040307.PDF ... for every day, and has their files.
+    void serve(int clippings) {
+        std::string list;
+        for (int i = 1; i <= clippings; ++i) {
+            const std::string number = std::to_string(i), base = "N" + number + "20040307";
+            list += base + ".pdf||paper||title " + number + "||cat||type||1||-||150000||300||20<br>";
+            for (const char* ending : {".PDF", ".TXT", ".MT"})
+                Answers[pathOf(base + ending)] = HttpPeer::ok(std::string(ending[1] == 'P' ? 1500 : 300, number[0]));
+        }
+        Answers[listScript] = HttpPeer::ok(list);
+        Answers[alertScript] = HttpPeer::ok("strike");
+        Answers["/archive/RTIS/ME/NT/ADVERTISMENT.JPG"] = HttpPeer::ok("jpeg");
+    }
 
     std::map<std::string, HttpPeer::Answer> Answers;         // by path
     std::function<void(HttpPeer::Answer&)> BeforeAnswering;  // in the peer's thread
 
     [[nodiscard]] std::vector<std::string> requests() const { return peer_.requests(); }
-    [[nodiscard]] std::vector<std::string> paths() const {
-        std::vector<std::string> asked;
-        for (const std::string& request : requests())
-            asked.push_back(pathOf(request));
-        return asked;
-    }
+    [[nodiscard]] std::string lastPath() const { return requested(requests().back()); }
 
   private:
-    [[nodiscard]] static std::string pathOf(const std::string& request) {
-        const auto host = request.find("service.example");
-        const auto from = request.find('/', host);
-        return host == std::string::npos ? request : request.substr(from, request.find(' ', from) - from);
+    [[nodiscard]] static std::string requested(const std::string& request) {
+        const auto from = request.find('/', request.find("service.example"));
+        return request.substr(from, request.find(' ', from) - from);
     }
     HttpPeer::Answer answer(const std::string& request) {
-        const auto found = Answers.find(pathOf(request));
+        const auto found = Answers.find(requested(request));
         auto answer = found == Answers.end() ? HttpPeer::status("404 Not Found") : found->second;
         if (BeforeAnswering) BeforeAnswering(answer);
         return answer;

@@ -3,14 +3,14 @@
 
 #include <string>
 
+#include "base/text.h"
 #include "config/SettingsLoader.h"
-#include "config/frmSetup.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
-#include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixIniFile.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/TroubledFiles.h"
 
 namespace vell::test {
 
@@ -20,23 +20,31 @@ struct SettingsRig {
         ini.setAppDir(folder.text() + "\\");
         loader.setAppVersion("2.0.15");
         log.Start(folder.text(), folder.text() + "\\vell.log");
+        logged();
     }
-    void load(const std::string& file) {
-        folder.put("vell.ini", file);
-        loader.GetSetup();
+    // A log without what differs from run to run: date and time in front of the lines.
+    [[nodiscard]] static std::string plain(const std::string& log) {
+        std::string text;
+        for (const std::string_view line : Split(log, "\r\n"))
+            text.append(line.substr(Mid(line, 20, 4) == ",   " ? 23 : 0)).append("\n");
+        return text.substr(0, text.size() - 1);
     }
-    [[nodiscard]] bool logHas(const std::string& line) const {
-        return folder.get("vell.log").find(line) != std::string::npos;
+    // What was logged since the last call.
+    std::string logged() {
+        const std::string text = plain(folder.get("vell.log")).substr(seenOfLog);
+        seenOfLog += text.size();
+        return text;
     }
 
     TempFolder folder;
     DrivenClock clock;
-    PosixFiles files;
+    TroubledFiles files;
     PosixIniFile iniFile{files};
     EventLog log{clock, files};
     modIni ini{iniFile, log};
     Settings setup;
     SettingsLoader loader{setup, ini, log, log};
+    std::size_t seenOfLog = 0;
 };
 
 }  // namespace vell::test

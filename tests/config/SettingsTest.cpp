@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "config/frmSetup.h"
+#include "config/modCrypt.h"
+#include "tests/support/SettingsRig.h"
+
+namespace vell::test {
+
+using enum SetupField;
+
+class SettingsTest : public testing::Test, protected SettingsRig {
+  protected:
+    // The fields that are not as in a program without settings.
+    [[nodiscard]] static std::string changed(const Settings& s) {
+        Settings none;
+        none.AutoUpdateCheck = true;
+        none.AgentName = "VELL_2.0.15_user:";
+        std::string text;
+        const std::string now = fieldsOf(s), usual = fieldsOf(none);
+        const auto a = Split(now, ";"), b = Split(usual, ";");
+        for (std::size_t i = 0; i < a.size(); ++i)
+            if (a[i] != b[i]) text.append(a[i]).append(";");
+        return text;
+    }
+    [[nodiscard]] static std::string fieldsOf(const Settings& s) {
+        const auto n = [](double number) { return NumberText(number); };
+        return "Protocol=" + s.Protocol + ";UseHTTP=" + n(s.UseHTTP) + ";Host=" + s.Host + ";Port=" + n(s.Port) +
+               ";Uid=" + s.Uid + ";Pwd=" + s.Pwd + ";Retry=" + n(s.RetryOnFailure) + ";Delay=" + n(s.RetryDelay) +
+               ";TimeOut=" + n(s.TimeOut) + ";Passive=" + n(s.Passive) + ";pUser=" + s.proxyUsername +
+               ";pPwd=" + s.proxyPwd + ";LocalDir=" + s.LocalDir + ";DialUp=" + s.DialUp +
+               ";Print=" + n(s.PrintOnDownload) + ";Close=" + n(s.CloseConnection) + ";Check=" + n(s.AutoUpdateCheck) +
+               ";Server=" + n(s.AutoUpdateServer) + ";Notify=" + n(s.AutoUpdateNotify) + ";Auto=" + n(s.AutoPlayDelay) +
+               ";All=" + n(s.PrintAllDelay) + ";Debug=" + n(s.Debug) + ";Agent=" + s.AgentName;
+    }
+    void load(const std::string& file) {
+        folder.put("vell.ini", file);
+        loader.GetSetup();
+    }
+    void fillIn(std::initializer_list<const char*> entries) {
+        for (std::size_t i = 0; i < setupFieldCount; ++i)
+            dialog.setEntry(SetupField{i}, entries.begin()[i]);
+    }
+    std::string scrambled(std::string_view clear) {
+        std::string key;
+        return Encrypt(clear, key, log);
+    }
+
+    frmSetup dialog{setup, loader, ini, log};
+};
+
+TEST_F(SettingsTest, eachKeyFillsItsOwnFieldAndLeavesTheOthersAtTheirDefaults) {
+    const std::string table =
+        "[Host]Protocol=FTP>Protocol=FTP;UseHTTP=0;|[host]PROTOCOL = ftp>Protocol=ftp;|[Host]Host=a.b>Host=a.b;|"
+        "[Host]Host=#NF#>|[Host]Host=a%b>Host=ab;|[Host]Host>|\xEF\xBB\xBF[Host]Host=bom>Host=bom;|[Host]Host=" +
+        std::string(300, 'h') + ">Host=" + std::string(249, 'h') +
+        ";|[Host]Port=2121>Port=2121;|[Host]Port=65000>Port=6500;|[Host]Port=12abc>Port=12;|[Host]Port=abc>|"
+        "[Host]Uid=\xE1>Uid=\xE1;Agent=VELL_2.0.15_user:\xE1;|[Host]RetryOnFailure=12>Retry=1;|"
+        "[Host]RetryDelay=7.5>Delay=7;|[Host]RetryDelay=.5>Delay=0.5;|[Host]TimeOut=300>TimeOut=30;|"
+        "[Host]TimeOut=.5>|[Host]Passive=1>|[Host]proxyUsername=ann>pUser=ann;|[Host]Pwd=wo\xC0>Pwd=AB;|"
+        "[Host]proxyPwd=wo\xC0>pPwd=AB;|[Download]LocalDir=/c>LocalDir=/c;|[Download]Dialup=Modem>DialUp=Modem;|"
+        "[Download]PrintOnDownload=-1>Print=1;|[Download]PrintOnDownload=yes>|[Download]PrintOnDownload=70000>|"
+        "[Download]CloseConnection=1>Close=1;|[Download]CloseConnection=1x>|[Download]AutoUpdateCheck=>|"
+        "[Download]AutoUpdateCheck=0>Check=0;|[Download]AutoUpdateServer=1>Server=1;|"
+        "[Download]AutoUpdateNotify=1x>Notify=1;|[General]AutoPlayDelay=100>Auto=10;|"
+        "[General]PrintAllDelay=5>All=5;|[General]Debug=2>Debug=2;";
+    for (const std::string_view row : Split(table, "|")) {
+        const std::string file(row.substr(0, row.find('>')));
+        const std::string expected(row.substr(row.find('>') + 1));
+        load(Replace(Replace(file, "]", "]\r\n"), "%", std::string(1, '\0')));
+        EXPECT_EQ(changed(setup), expected) << file;
+        // Three numbers must be there: what is missing, or no number, is told.
+        const std::size_t good = InStr("Print=1; Close=1; Debug=2;", expected) > 0 && !expected.empty() ? 1 : 0;
+        const std::string lines = logged();
+        EXPECT_EQ(Split(lines, "HelpContext=0 in VellIniReadString()\n").size() - 1, 3 - good) << file << lines;
+    }
+}
+
+TEST_F(SettingsTest, aDamagedPasswordEndsTheLoadWhereItStands) {
+    for (const char* key : {"Pwd", "proxyPwd"}) {
+        load("[Host]\r\nHost=old\r\nPwd=wo\xC0\r\n[Download]\r\nLocalDir=/old\r\n");
+        load(std::string("[Host]\r\nHost=new\r\n") + key + "=bad\r\n[Download]\r\nLocalDir=/new\r\n");
+        EXPECT_EQ(setup.Host + setup.Pwd + setup.LocalDir, "newAB/old");
+        EXPECT_FALSE(loader.isWhole());
+        EXPECT_TRUE(logged().ends_with(" in Decrypt()\nGetSetup()\n"));
+    }
+}
+
+TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAreRight) {
+    const struct {
+        SetupField field;
+        std::vector<std::string> wrong;
+        std::string message, right;
+    } steps[] = {
+        {Host, {"", "   "}, "Host not specified", "h"},
+        {Port, {"", " "}, "Port not specified", "0"},
+        {Uid, {" "}, "Username not specified", "u"},
+        {Pwd, {"", " "}, "Password not specified", "p"},
+        {RetryOnFailure, {"", "0", "-1", "abc", "0.5"}, "Number of retries not specified", "12"},
+        {RetryDelay, {" ", "0", "abc"}, "Retry delay not specified", "50"},
+        {RetryDelay, {"50", "49.5", "999999"}, "Retry delay value set too high", "49"},
+        {AutoPlayDelay, {"", "0"}, "Auto play delay not specified", "50"},
+        {AutoPlayDelay, {"50"}, "Auto play delay set too high", "1"},
+        {TimeOut, {"", "-5"}, "Timeout not specified", "500"},
+        {PrintAllDelay, {"", "0"}, "Print All delay not specified", "50"},
+        {PrintAllDelay, {"50"}, "Print All delay set too high", "49"},
+        {Uid, {"a\r\n[x]", "a\tb"}, "Uid must be one line without control characters", "u"},  // the file could not
+        {ProxyPwd, {std::string(167, 'p')}, "proxyPwd is too long", std::string(166, 'p')},   // give these back
+        {LocalDir, {std::string(250, 'd')}, "LocalDir is too long", std::string(249, 'd')},
+    };
+    for (const auto& step : steps)
+        dialog.setEntry(step.field, step.wrong.back());
+    for (const auto& step : steps) {
+        for (const std::string& wrong : step.wrong) {
+            dialog.setEntry(step.field, wrong);
+            const auto problem = dialog.cmdOk_Click().value_or(SetupProblem{Count, "none"});
+            EXPECT_EQ(problem.Message, "Error! " + step.message) << wrong;
+            EXPECT_EQ(problem.Field, step.field);
+        }
+        dialog.setEntry(step.field, step.right);
+    }
+    EXPECT_FALSE(folder.has("vell.ini"));
+    EXPECT_FALSE(dialog.cmdOk_Click().has_value());
+    EXPECT_EQ(setup.TimeOut, 50);  // the loader's cut
+}
+
+TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
+    folder.put("vell.ini", "; mine\r\n[General]\r\nDebug=2\r\n");
+    fillIn({"FTP",    "service.example", "2121", "ann", "3", "49", "99", "1", "p\xE1", "proxy",
+            "/clips", "Modem",           "1",    "0",   "0", "1",  "1",  "7", "1",     "sec ret"});
+    ASSERT_FALSE(dialog.cmdOk_Click().has_value());
+    EXPECT_EQ(folder.get("vell.ini"),
+              "; mine\r\n[General]\r\nDebug=2\r\nAutoPlayDelay=7\r\nPrintAllDelay=1\r\n"
+              "[Host]\r\nProtocol=FTP\r\nHost=service.example\r\nPort=2121\r\nUid=ann\r\nRetryOnFailure=3\r\n"
+              "RetryDelay=49\r\nTimeOut=99\r\nPassive=1\r\nproxyUsername=p\xE1\r\nproxyPwd=" +
+                  scrambled("proxy") + "\r\nPwd=" + scrambled("sec ret") +
+                  "\r\n[Download]\r\nLocalDir=/clips\r\nDialup=Modem\r\nPrintOnDownload=1\r\nCloseConnection=0\r\n"
+                  "AutoUpdateCheck=0\r\nAutoUpdateServer=1\r\nAutoUpdateNotify=1\r\n");
+    frmSetup again(setup, loader, ini, log);
+    again.Form_Load();
+    for (const SetupRow& row : frmSetup::rows())
+        EXPECT_EQ(again.entry(row.Field), row.Field == Passive ? "0" : dialog.entry(row.Field)) << row.Key;
+}
+
+TEST_F(SettingsTest, theDialogChangesTheSettingsAtOnceOnlyUntilItIsClosed) {
+    load("[Host]\r\nProtocol=HTTP\r\n");
+    dialog.Form_Load();
+    EXPECT_FALSE(dialog.isEnabled(Port) || dialog.isEnabled(TimeOut) || dialog.isEnabled(Passive));
+    dialog.setEntry(Protocol, "FTP");
+    EXPECT_TRUE(dialog.isEnabled(Port) && !setup.UseHTTP);
+    dialog.Form_Unload();
+    EXPECT_TRUE(setup.UseHTTP);
+    for (const auto& [field, typed, normal] : std::initializer_list<std::tuple<SetupField, const char*, const char*>>{
+             {Port, "12abc", "12"}, {Port, "a", "0"}, {RetryDelay, " 7.50x", "7.5"}, {Host, "12abc", "12abc"}}) {
+        dialog.setEntry(field, typed);
+        dialog.normalise(field);
+        EXPECT_EQ(dialog.entry(field), normal);
+    }
+}
+
+}  // namespace vell::test
