@@ -2,11 +2,13 @@
 #include "app/InternetLink.h"
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 #include <utility>
 
 #include "base/text.h"
 #include "config/Settings.h"
+#include "log/EventLog.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/EventLoop.h"
@@ -27,7 +29,7 @@ InternetLink::InternetLink(const Parts& parts) : p_(parts) {}
 
 bool InternetLink::StartINET() {
     const BusyMoment busy(p_.View);
-    return trap(p_.Errors, "StartINET()", false, [&] {
+    return trap(p_.Log, "StartINET()", false, [&] {
         p_.gInet.SetGlobalOnline();
         p_.gInet.Refresh();
         logFlags();
@@ -122,7 +124,7 @@ bool InternetLink::hangUpByRas(Refreshing refreshing) {
 
 template <class Body>
 void InternetLink::step(Body&& body) {
-    trapStep(p_.Errors, "StopINET()", std::forward<Body>(body));
+    trapStep(p_.Log, "StopINET()", std::forward<Body>(body));
 }
 
 }  // namespace vell

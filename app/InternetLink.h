@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-
-#include "base/errors.h"
-
 namespace vell {
 
 class BrowserView;
 class CWinInetConnection;
+class EventLog;
 class EventLoop;
 class MessageBoxes;
 class ModRAS;
@@ -25,8 +22,7 @@ class InternetLink {
         BrowserView& View;
         MessageBoxes& Boxes;
         EventLoop& Loop;
-        TextLog& Log;
-        ErrorLog& Errors;
+        EventLog& Log;
         CWinInetConnection& gInet;
         ModRAS& Ras;
     };

@@ -39,7 +39,7 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       browser_(store_, platform.Disk, view, platform.Time, log_, session_.Setup, session_.Day),
       gInet_(platform.Connection, platform.Boxes, log_),
       ras_(platform.Ras, log_),
-      link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, log_, gInet_, ras_}),
+      link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, gInet_, ras_}),
       run_({session_, view, platform.Loop, platform.Time, platform.Disk, log_, store_, articles_, http_, ftp_, list_,
             browser_, progress_}),
       scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, link_, browser_) {

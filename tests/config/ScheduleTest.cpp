@@ -3,39 +3,32 @@
 
 #include "config/Schedule.h"
 #include "config/ScheduleView.h"
-#include "config/Settings.h"
 #include "config/frmSchedule.h"
-#include "config/modIni.h"
-#include "platform/posix/PosixFiles.h"
-#include "platform/posix/PosixIniFile.h"
-#include "tests/support/Recorder.h"
-#include "tests/support/TempFolder.h"
+#include "tests/support/ScriptedBoxes.h"
+#include "tests/support/SettingsRig.h"
 
 namespace vell::test {
 namespace {
 
-class ScheduleTest : public testing::Test, protected ScheduleView {
+using Lines = std::vector<std::string>;
+
+class ScheduleTest : public testing::Test, protected SettingsRig, protected ScheduleView {
   protected:
     std::string InputBox(std::string_view prompt, std::string_view title, std::string_view offered) override {
-        EXPECT_EQ(title, "Schedule Time");
-        user_.lines.push_back(std::string(prompt) + "|" + std::string(offered));
-        return answer_;
+        boxes.Shown.push_back(std::string(title) + ": " + std::string(prompt) + "|" + std::string(offered));
+        return answer;
     }
-    void Beep() override { user_.lines.emplace_back("beep"); }
-    void load(std::string_view lines) {
-        folder_.put("vell.ini", "[Schedule]\n" + std::string(lines));
-        ini_.setAppDir(folder_.text() + "\\");
-        dialog_.Form_Load();
+    void Beep() override { boxes.Shown.emplace_back("beep"); }
+
+    Lines told() { return std::exchange(boxes.Shown, {}); }
+    void loadSchedule(std::string_view lines) {
+        folder.put("vell.ini", "[Schedule]\n" + std::string(lines));
+        dialog.Form_Load();
     }
 
-    TempFolder folder_;
-    PosixFiles files_;
-    PosixIniFile file_{files_};
-    Recorder user_;
-    modIni ini_{file_, user_};
-    Settings settings_;
-    frmSchedule dialog_{settings_, ini_, user_, user_};
-    std::string answer_;
+    ScriptedBoxes boxes;
+    frmSchedule dialog{setup, ini, boxes, log};
+    std::string answer;
 };
 
 TEST_F(ScheduleTest, readsDaysInAnyCaseAndTheLastOtherPieceAsTheTime) {
@@ -50,12 +43,12 @@ TEST_F(ScheduleTest, readsDaysInAnyCaseAndTheLastOtherPieceAsTheTime) {
 }
 
 TEST_F(ScheduleTest, stopsAtTheFirstMissingNumber) {
-    load("Schedule1=Mon 07:05\nSchedule3=Tue 08:00\n");
-    EXPECT_EQ(settings_.ScheduleList.size(), 1U);
-    load("schedule1=\nSCHEDULE2=Tue 08:00\nSchedule3=\"   \"\n");
-    EXPECT_EQ(settings_.ScheduleList.size(), 3U);
-    load("Schedule0=Mon 07:05\n");
-    EXPECT_TRUE(settings_.ScheduleList.empty());
+    loadSchedule("Schedule1=Mon 07:05\nSchedule3=Tue 08:00\n");
+    EXPECT_EQ(setup.ScheduleList.size(), 1U);
+    loadSchedule("schedule1=\nSCHEDULE2=Tue 08:00\nSchedule3=\"   \"\n");
+    EXPECT_EQ(setup.ScheduleList.size(), 3U);
+    loadSchedule("Schedule0=Mon 07:05\n");
+    EXPECT_TRUE(setup.ScheduleList.empty());
 }
 
 TEST_F(ScheduleTest, takesFiveCharactersOfATimeOfDay) {
@@ -67,56 +60,53 @@ TEST_F(ScheduleTest, takesFiveCharactersOfATimeOfDay) {
 }
 
 TEST_F(ScheduleTest, addsOnlyAValidTimeOnEveryDay) {
-    const std::string prompt = "Enter a valid time in the format HH:MM ie. 15:30|";
-    struct Case {
-        const char* Answer;
-        Lines Told;
-    };
-    for (const Case& one : {Case{"  ", {prompt, "beep"}}, Case{"7:05", {prompt, "box: Invalid time entered", "beep"}},
-                            Case{" 07:05 ", {prompt}}}) {
-        answer_ = one.Answer;
-        dialog_.cmdAddSchedule_Click(*this);
-        EXPECT_EQ(user_.told(), one.Told);
+    const std::string prompt = "Schedule Time: Enter a valid time in the format HH:MM ie. 15:30|";
+    const std::pair<const char*, Lines> cases[] = {
+        {"  ", {prompt, "beep"}}, {"7:05", {prompt, "Invalid time entered", "beep"}}, {" 07:05 ", {prompt}}};
+    for (const auto& [given, expected] : cases) {
+        answer = given;
+        dialog.cmdAddSchedule_Click(*this);
+        EXPECT_EQ(told(), expected);
     }
-    ASSERT_EQ(dialog_.rows().size(), 1U);
-    EXPECT_EQ(storedTextOf(dialog_.rows()[0]), "Mon Tue Wed Thu Fri Sat Sun 07:05");
+    ASSERT_EQ(dialog.rows().size(), 1U);
+    EXPECT_EQ(storedTextOf(dialog.rows()[0]), "Mon Tue Wed Thu Fri Sat Sun 07:05");
 }
 
 TEST_F(ScheduleTest, editsTogglesAndDeletesRows) {
-    dialog_.cmdEdit_Click(*this, 0);
-    dialog_.cmdDelSchedule_Click(0);
-    EXPECT_EQ(user_.told(), Lines{});
-    load("Schedule1=Mon 07:05\nSchedule2=Tue 08:00\n");
-    dialog_.grdSchedule_Click(*this, 0, 0);
-    dialog_.grdSchedule_Click(*this, 0, 6);
-    answer_ = "25:00";
-    dialog_.grdSchedule_Click(*this, 0, frmSchedule::timeColumn);
-    EXPECT_EQ(user_.told(), (Lines{"Enter a valid time|07:05", "box: Invalid time entered"}));
-    answer_ = "10:00 ";
-    dialog_.cmdEdit_Click(*this, 0);
-    EXPECT_EQ(storedTextOf(dialog_.rows()[0]), "Sun 10:00");
-    dialog_.cmdDelSchedule_Click(1);
-    dialog_.cmdDelSchedule_Click(5);  // the last row goes whichever is chosen
-    EXPECT_TRUE(dialog_.rows().empty());
-    EXPECT_EQ(settings_.ScheduleList.size(), 2U);
+    dialog.cmdEdit_Click(*this, 0);
+    dialog.cmdDelSchedule_Click(0);
+    EXPECT_EQ(told(), Lines{});
+    loadSchedule("Schedule1=Mon 07:05\nSchedule2=Tue 08:00\n");
+    dialog.grdSchedule_Click(*this, 0, 0);
+    dialog.grdSchedule_Click(*this, 0, 6);
+    answer = "25:00";
+    dialog.grdSchedule_Click(*this, 0, frmSchedule::timeColumn);
+    EXPECT_EQ(told(), (Lines{"Schedule Time: Enter a valid time|07:05", "Invalid time entered"}));
+    answer = "10:00 ";
+    dialog.cmdEdit_Click(*this, 0);
+    EXPECT_EQ(storedTextOf(dialog.rows()[0]), "Sun 10:00");
+    dialog.cmdDelSchedule_Click(1);
+    dialog.cmdDelSchedule_Click(5);  // the last row goes whichever is chosen
+    EXPECT_TRUE(dialog.rows().empty());
+    EXPECT_EQ(setup.ScheduleList.size(), 2U);
 }
 
 TEST_F(ScheduleTest, writesTheRowsAnewFromOne) {
-    load("Schedule1=Mon 07:05\nSchedule2=wed tue 08:00\nSchedule3=Fri 09:00\nSchedule9=x\n[Host]\nPort=21\n");
-    dialog_.cmdDelSchedule_Click(0);
-    dialog_.grdSchedule_Click(*this, 1, 4);
-    EXPECT_TRUE(dialog_.cmdOk_Click());
-    EXPECT_EQ(settings_.ScheduleList, dialog_.rows());
-    EXPECT_EQ(folder_.get("vell.ini"), "[Host]\nPort=21\n[Schedule]\nSchedule1=Tue Wed 08:00\nSchedule2=09:00\n");
+    loadSchedule("Schedule1=Mon 07:05\nSchedule2=wed tue 08:00\nSchedule3=Fri 09:00\nSchedule9=x\n[Host]\nPort=21\n");
+    dialog.cmdDelSchedule_Click(0);
+    dialog.grdSchedule_Click(*this, 1, 4);
+    EXPECT_TRUE(dialog.cmdOk_Click());
+    EXPECT_EQ(setup.ScheduleList, dialog.rows());
+    EXPECT_EQ(folder.get("vell.ini"), "[Host]\nPort=21\n[Schedule]\nSchedule1=Tue Wed 08:00\nSchedule2=09:00\n");
     for (int last = 0; last < 2; ++last)
-        dialog_.cmdDelSchedule_Click(0);
-    EXPECT_TRUE(dialog_.cmdOk_Click());
-    EXPECT_EQ(folder_.get("vell.ini"), "[Host]\nPort=21\n");
-    EXPECT_EQ(user_.told(), Lines{});
-    ini_.setAppDir(folder_.text() + "\\gone\\");
-    dialog_.add(scheduleEntryOf("Mon 07:05"));
-    EXPECT_FALSE(dialog_.cmdOk_Click());
-    EXPECT_EQ(user_.told(), Lines{"box: Error! The schedule could not be saved"});
+        dialog.cmdDelSchedule_Click(0);
+    EXPECT_TRUE(dialog.cmdOk_Click());
+    EXPECT_EQ(folder.get("vell.ini"), "[Host]\nPort=21\n");
+    EXPECT_EQ(told(), Lines{});
+    ini.setAppDir(folder.text() + "\\gone\\");
+    dialog.add(scheduleEntryOf("Mon 07:05"));
+    EXPECT_FALSE(dialog.cmdOk_Click());
+    EXPECT_EQ(told(), Lines{"Error! The schedule could not be saved"});
 }
 
 }  // namespace

@@ -2,17 +2,21 @@
 #include <gtest/gtest.h>
 
 #include "net/CWinInetConnection.h"
-#include "tests/support/Recorder.h"
+#include "tests/support/ScriptedBoxes.h"
 #include "tests/support/ScriptedConnection.h"
 
 namespace vell::test {
 namespace {
 
-class CWinInetConnectionTest : public testing::Test {
+using Lines = std::vector<std::string>;
+
+class CWinInetConnectionTest : public testing::Test, protected TextLog {
   protected:
+    void WriteLog(std::string_view text) noexcept override { boxes_.Shown.push_back("log: " + std::string(text)); }
+
     ScriptedConnection api_;
-    Recorder user_;
-    CWinInetConnection inet_{api_, user_, user_};
+    ScriptedBoxes boxes_;
+    CWinInetConnection inet_{api_, boxes_, *this};
 };
 
 TEST_F(CWinInetConnectionTest, readsEachFlagAsItsProperty) {
@@ -27,7 +31,7 @@ TEST_F(CWinInetConnectionTest, readsEachFlagAsItsProperty) {
             EXPECT_EQ(read[i], bits[i] == flag) << bits[i] << " " << flag;
         EXPECT_EQ(inet_.IsConnected(), flag == 2);
     }
-    EXPECT_EQ(user_.told(), Lines{});
+    EXPECT_TRUE(boxes_.Shown.empty());
 }
 
 TEST_F(CWinInetConnectionTest, passesOnWhatTheSystemExpects) {
@@ -43,12 +47,12 @@ TEST_F(CWinInetConnectionTest, reportsAFailureThatHasANumberInABoxAndTheLog) {
     const auto report = [&](std::int32_t code, const std::function<void()>& member) {
         api_.error = code;
         member();
-        return user_.told();
+        return std::exchange(boxes_.Shown, {});
     };
-    const auto twice = [](const std::string& text) { return Lines{"box: " + text, "log: " + text}; };
+    const auto twice = [](const std::string& text) { return Lines{"Error: " + text, "log: " + text}; };
     const auto goOnline = [&] { EXPECT_FALSE(inet_.GoOnline("", 0)); };
     EXPECT_EQ(report(12007, goOnline), twice("GoOnline WinInet API Error: 12007 [library's text]"));
-    EXPECT_EQ(user_.lastBox, (std::pair<std::string, Buttons>{"Error", Buttons::AbortRetryIgnore}));
+    EXPECT_EQ(boxes_.LastButtons, Buttons::AbortRetryIgnore);
     EXPECT_EQ(report(12001, goOnline), twice("GoOnline WinInet API Error: 12001 [library's text]"));
     EXPECT_EQ(report(12000, goOnline), twice("GoOnline Win32API Error: 12000 [system's text\r\n]"));
     EXPECT_EQ(report(0, goOnline), Lines{});

@@ -2,17 +2,19 @@
 #include <gtest/gtest.h>
 
 #include "net/ModRAS.h"
-#include "tests/support/Recorder.h"
 #include "tests/support/ScriptedRas.h"
 
 namespace vell::test {
 namespace {
 
-class ModRASTest : public testing::Test {
+using Lines = std::vector<std::string>;
+
+class ModRASTest : public testing::Test, protected ErrorLog {
   protected:
+    void LogError(const RunTimeError& error, std::string_view) noexcept override { ADD_FAILURE() << error.what(); }
+
     ScriptedRas api_;
-    Recorder log_;
-    ModRAS ras_{api_, log_};
+    ModRAS ras_{api_, *this};
     Lines names_{"old"};
 };
 

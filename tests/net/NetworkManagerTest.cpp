@@ -12,18 +12,19 @@
 #include "platform/posix/PosixRas.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/MockNetworkManager.h"
-#include "tests/support/Recorder.h"
 
 namespace vell::test {
 namespace {
 
 using std::chrono::seconds;
 using Api = ConnectionApi;
+using Lines = std::vector<std::string>;
 constexpr seconds patience{5};
 const std::string mobile = "\xCA\xE9\xED\xE7\xF4\xFC";
 
-class NetworkManagerTest : public testing::Test {
+class NetworkManagerTest : public testing::Test, protected ErrorLog {
   protected:
+    void LogError(const RunTimeError& error, std::string_view) noexcept override { ADD_FAILURE() << error.what(); }
     void SetUp() override {
         if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
         start("{}");
@@ -118,39 +119,36 @@ TEST_F(NetworkManagerTest, joinsADialThatIsUnderWay) {
 
 TEST_F(NetworkManagerTest, isAPhoneBook) {
     PosixRas api(*client_);
-    Recorder log;
-    ModRAS ras(api, log);
+    ModRAS ras(api, *this);
     Lines names;
     EXPECT_EQ(ras.VBRasGetAllEntries("", names), 7);
     EXPECT_EQ(names, (Lines{"My ISP", mobile, "Forbidden", "Endless", "Crash", "No bus", "Wrong PIN"}));
-    EXPECT_TRUE(dial("My ISP") && dial(mobile));
-    EXPECT_EQ(ras.GetDialUpConnections(), (Lines{"My ISP", mobile}));
-    EXPECT_TRUE(ras.hangUp(" My ISP"));
-    EXPECT_EQ(client_->links().size(), 1U);
-    EXPECT_TRUE(ras.hangUpAll());
-    EXPECT_TRUE(client_->links().empty());
+    EXPECT_TRUE(dial("My ISP") && dial(mobile) && ras.hangUp(" My ISP"));
+    EXPECT_EQ(ras.GetDialUpConnections(), Lines{mobile});
+    EXPECT_TRUE(ras.hangUpAll() && client_->links().empty());
     EXPECT_EQ(ras.errorText(668), "The connection dropped.");
 }
 
 TEST_F(NetworkManagerTest, judgesByTheInterfacesWhereThereIsNoNetworkManager) {
-    struct Case {
-        std::vector<NetworkInterface> Interfaces;
-        const char* Proxy;
-        State Expected;
-    };
     const NetworkInterface loopback{"lo", true, true, true}, down{"eth0", false, false, true};
     const NetworkInterface bare{"eth0", true, false, false}, lan{"wlan0", true, false, true};
     const NetworkInterface modem{"ppp0", true, false, true};
+    const State offProxy{false, Api::Proxy}, onProxy{true, Api::Proxy | Api::Configured};
+    const State onLan{true, Api::Lan | Api::Configured}, onModem{true, Api::Modem | Api::Configured};
+    const struct {
+        std::vector<NetworkInterface> Interfaces;
+        const char* Proxy;
+        State Expected;
+    } cases[] = {{{loopback, down, bare}, "", {false, 0}},
+                 {{loopback, modem, lan}, "", onLan},
+                 {{modem}, "", onModem},
+                 {{}, "http://proxy.example:3128", offProxy},
+                 {{}, "http://127.evil.example", offProxy},
+                 {{}, "http://127.0.0.1:3128/", onProxy},
+                 {{}, "LOCALHOST:8080", onProxy},
+                 {{}, "http://a:b@[::1]:3128", onProxy}};
     NetworkManagerClient nobody(loop_, clock_, "unix:path=/nonexistent/bus");
-    for (const Case& one : {Case{{loopback, down, bare}, "", State{false, 0}},
-                            Case{{loopback, lan}, "", State{true, Api::Lan | Api::Configured}},
-                            Case{{modem}, "", State{true, Api::Modem | Api::Configured}},
-                            Case{{modem, lan}, "", State{true, Api::Lan | Api::Configured}},
-                            Case{{}, "http://proxy.example:3128", State{false, Api::Proxy}},
-                            Case{{}, "http://127.evil.example", State{false, Api::Proxy}},
-                            Case{{}, "http://127.0.0.1:3128/", State{true, Api::Proxy | Api::Configured}},
-                            Case{{}, "LOCALHOST:8080", State{true, Api::Proxy | Api::Configured}},
-                            Case{{}, "http://a:b@[::1]:3128", State{true, Api::Proxy | Api::Configured}}}) {
+    for (const auto& one : cases) {
         connection_.emplace(nobody, one.Proxy, [&] { return one.Interfaces; });
         EXPECT_EQ(state(), one.Expected) << one.Proxy;
         EXPECT_FALSE(dial("My ISP"));
@@ -162,8 +160,8 @@ TEST_F(NetworkManagerTest, judgesByTheInterfacesWhereThereIsNoNetworkManager) {
 TEST_F(NetworkManagerTest, waitsTwoSecondsForABusThatIsSilent) {
     // It takes connections and never says a word.
     const asio::ip::tcp::acceptor silent(loop_.context(), {asio::ip::address_v4::loopback(), 0});
-    NetworkManagerClient client(loop_, clock_,
-                                "tcp:host=127.0.0.1,port=" + std::to_string(silent.local_endpoint().port()));
+    const std::string port = std::to_string(silent.local_endpoint().port());
+    NetworkManagerClient client(loop_, clock_, "tcp:host=127.0.0.1,port=" + port);
     const SteadyTime before = clock_.Steady();
     EXPECT_FALSE(client.state());
     EXPECT_EQ(client.lastReason(), "the message bus does not answer");

@@ -58,7 +58,8 @@ struct ProgramRig : Process {
     RecordingShell shell;
     RecordingView view;
     bool anotherRuns = false;
-    frmMain program{{clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell}, view, "2.1.37"};
+    frmMain program{
+        {clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell}, view, "2.1.37"};
 };
 
 }  // namespace vell::test

@@ -28,11 +28,10 @@ class ScriptedRas : public RasApi {
     std::uint32_t RasEnumConnections(std::span<std::byte> records, std::uint32_t& bytes,
                                      std::uint32_t& count) override {
         if (sizeIn(records) != 412 || bytes != 412 * 256) return InvalidSize;
-        count = static_cast<std::uint32_t>(connections.size());
-        for (std::uint32_t i = 0; i < count; ++i) {
-            const std::uint32_t handle = 100 + i;
-            std::memcpy(&records[i * 412 + 4], &handle, sizeof handle);
-            std::memcpy(&records[i * 412 + 8], connections[i].data(), connections[i].size());
+        for (count = 0; count < connections.size(); ++count) {
+            const std::uint32_t handle = 100 + count;
+            std::memcpy(&records[count * 412 + 4], &handle, sizeof handle);
+            std::memcpy(&records[count * 412 + 8], connections[count].data(), connections[count].size());
         }
         return enumResult;
     }
