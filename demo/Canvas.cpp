@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <utility>
 
 #include "demo/GreekLetters.h"
 
@@ -52,7 +53,7 @@ Shape line(Spot from, Spot to, double thickness) {
 }
 
 Shape under(std::function<double(double x)> curve) {
-    return [=](Spot p) { return curve(p.X) - p.Y; };
+    return [curve = std::move(curve)](Spot p) { return curve(p.X) - p.Y; };
 }
 
 Canvas::Canvas(int width, int height)

@@ -20,7 +20,7 @@ namespace vell::demo {
 // are dropped (RFC 959, 3.1: the connection follows the Telnet protocol; RFC 854 for the codes).
 class FtpLineReader {
   public:
-    static constexpr std::size_t LineLimit = 8 * 1024;
+    static constexpr std::size_t LineLimit = 8UL * 1024;
 
     void feed(std::string_view bytes);
     // Without its end. A line over the limit comes out as an empty one.

@@ -118,7 +118,7 @@ void FtpDataChannel::close() {
 }
 
 asio::awaitable<bool> FtpDataChannel::open() {
-    using namespace asio::experimental::awaitable_operators;
+    using asio::experimental::awaitable_operators::operator||;
     asio::error_code problem;
     asio::steady_timer limit(listener_.get_executor(), openingAllowed);
     if (target_)

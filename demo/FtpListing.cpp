@@ -22,7 +22,7 @@ std::string rightAligned(const std::string& text, std::size_t width) {
 }
 
 std::string unixLine(const FtpEntry& entry, std::time_t now) {
-    constexpr std::time_t halfAYear = 182 * 24 * 60 * 60;
+    constexpr std::time_t halfAYear = 182L * 24 * 60 * 60;
     const bool isRecent = entry.Time <= now && now - entry.Time < halfAYear;
     return (entry.IsDirectory ? "drwxr-xr-x   2" : "-rw-r--r--   1") + std::string(" ftp      ftp      ") +
            rightAligned(std::to_string(entry.Size), 12) +

@@ -131,6 +131,7 @@ std::vector<FtpEntry> FtpTree::archive() const {
         for (auto& entry : entriesOf(tree_.dayFolder(day)))
             if (!entry.IsDirectory) newest.try_emplace(Upper(entry.Name), entry);
     std::vector<FtpEntry> entries;
+    entries.reserve(newest.size());
     for (auto& named : newest)
         entries.push_back(std::move(named.second));
     return entries;

@@ -28,8 +28,8 @@ struct HttpRequest {
 // proxy, in absolute form.
 class HttpRequestReader {
   public:
-    static constexpr std::size_t HeadLimit = 64 * 1024;
-    static constexpr std::size_t BodyLimit = 64 * 1024;
+    static constexpr std::size_t HeadLimit = 64UL * 1024;
+    static constexpr std::size_t BodyLimit = 64UL * 1024;
 
     void feed(std::string_view bytes) { bytes_.append(bytes); }
     // Nothing: more bytes are needed. Throws HttpProblem.

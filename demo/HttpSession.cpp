@@ -19,6 +19,7 @@ using asio::use_awaitable;
 namespace {
 
 constexpr std::chrono::seconds idleAllowed{30};
+constexpr std::size_t blockSize = 16UL * 1024;
 
 const char* reasonOf(int status) {
     static const std::map<int, const char*> reasons{
@@ -96,7 +97,7 @@ asio::awaitable<std::optional<HttpRequest>> HttpSession::nextRequest() {
 }
 
 asio::awaitable<bool> HttpSession::readMore() {
-    std::array<char, 16 * 1024> block;
+    std::array<char, blockSize> block;
     asio::error_code problem;
     const auto count = co_await socket_.async_read_some(asio::buffer(block), redirect_error(use_awaitable, problem));
     idle_.touch();
@@ -147,8 +148,8 @@ asio::awaitable<bool> HttpSession::sendFile(const std::filesystem::path& file, s
 asio::awaitable<void> HttpSession::linger() {
     asio::error_code problem;
     socket_.shutdown(asio::ip::tcp::socket::shutdown_send, problem);
-    std::array<char, 16 * 1024> block;
-    constexpr std::size_t patience = 16 * 1024 * 1024;
+    std::array<char, blockSize> block;
+    constexpr std::size_t patience = 1024 * blockSize;
     for (std::size_t read = 0; !problem && read < patience;)
         read += co_await socket_.async_read_some(asio::buffer(block), redirect_error(use_awaitable, problem));
 }

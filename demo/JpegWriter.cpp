@@ -29,7 +29,8 @@ constexpr std::string_view acSymbols =
     "\xd9\xda\xe1\xe2\xe3\xe4\xe5\xe6\xe7\xe8\xe9\xea\xf1\xf2\xf3\xf4\xf5\xf6\xf7\xf8\xf9\xfa"sv;
 
 constexpr int side = 8;
-using Block = std::array<double, side * side>;
+constexpr std::size_t cells = 64;
+using Block = std::array<double, cells>;
 
 struct Code {
     unsigned Bits = 0;
@@ -49,13 +50,13 @@ Codes codesOf(std::string_view lengths, std::string_view symbols) {
 }
 
 // The order in which the values of a block are written: along its diagonals.
-std::array<int, side * side> zigzag() {
-    std::array<int, side * side> order{};
+std::array<std::size_t, cells> zigzag() {
+    std::array<std::size_t, cells> order{};
     std::size_t at = 0;
-    for (int diagonal = 0; diagonal < 2 * side - 1; ++diagonal)
-        for (int i = 0; i <= diagonal; ++i) {
-            const int row = diagonal % 2 == 0 ? diagonal - i : i;
-            if (row < side && diagonal - row < side) order[at++] = row * side + diagonal - row;
+    for (std::size_t diagonal = 0; diagonal < 2 * side - 1; ++diagonal)
+        for (std::size_t i = 0; i <= diagonal; ++i) {
+            const std::size_t row = diagonal % 2 == 0 ? diagonal - i : i;
+            if (row < side && diagonal - row < side) order[at++] = row * (side - 1) + diagonal;
         }
     return order;
 }
@@ -63,8 +64,10 @@ std::array<int, side * side> zigzag() {
 class JpegFile {
   public:
     explicit JpegFile(double coarseness) {
-        for (std::size_t i = 0; i < steps_.size(); ++i)
-            steps_[i] = std::clamp(int(coarseness * (2 + order_[i] / side + order_[i] % side)), 1, 255);
+        for (std::size_t i = 0; i < steps_.size(); ++i) {
+            const std::size_t row = order_[i] / side, column = order_[i] % side;
+            steps_[i] = std::clamp(int(coarseness * double(2 + row + column)), 1, 255);
+        }
     }
 
     std::string write(const Canvas& canvas) {
@@ -72,8 +75,8 @@ class JpegFile {
         std::array<int, 3> last{};
         for (int y = 0; y < canvas.height(); y += side)
             for (int x = 0; x < canvas.width(); x += side)
-                for (std::size_t part = 0; part < last.size(); ++part)
-                    last[part] = writeBlock(transformed(blockOf(canvas, x, y, part)), last[part]);
+                for (std::size_t component = 0; component < last.size(); ++component)
+                    last[component] = writeBlock(transformed(blockOf(canvas, x, y, component)), last[component]);
         putBits({0x7F, 7});  // fills the last byte
         return file_ + "\xFF\xD9";
     }
@@ -104,17 +107,17 @@ class JpegFile {
     }
 
     // Brightness (component 0) or one of the two colour differences of a square, around zero.
-    static Block blockOf(const Canvas& canvas, int left, int top, std::size_t part) {
+    static Block blockOf(const Canvas& canvas, int left, int top, std::size_t component) {
         static constexpr std::array<std::array<double, 3>, 3> weights{
             {{0.299, 0.587, 0.114}, {-0.1687, -0.3313, 0.5}, {0.5, -0.4187, -0.0813}}};
         Block block{};
         for (int i = 0; i < side * side; ++i) {
             const Colour& c =
                 canvas.at(std::min(left + i % side, canvas.width() - 1), std::min(top + i / side, canvas.height() - 1));
-            const auto& w = weights[part];
+            const auto& w = weights[component];
             const double value = w[0] * std::clamp(c.Red, 0.0, 1.0) + w[1] * std::clamp(c.Green, 0.0, 1.0) +
                                  w[2] * std::clamp(c.Blue, 0.0, 1.0);
-            block[static_cast<std::size_t>(i)] = value * 255 - (part == 0 ? 128 : 0);
+            block[static_cast<std::size_t>(i)] = value * 255 - (component == 0 ? 128 : 0);
         }
         return block;
     }
@@ -123,10 +126,11 @@ class JpegFile {
     static Block cosines(const Block& block) {
         static const Block table = [] {
             Block values{};
-            for (int u = 0; u < side; ++u)
-                for (int x = 0; x < side; ++x)
-                    values[static_cast<std::size_t>(u * side + x)] =
-                        std::cos((2 * x + 1) * u * std::numbers::pi / 16) / 2 * (u == 0 ? std::sqrt(0.5) : 1);
+            for (std::size_t i = 0; i < cells; ++i) {
+                const std::size_t u = i / side, x = i % side;
+                values[i] =
+                    std::cos(double((2 * x + 1) * u) * std::numbers::pi / 16) / 2 * (u == 0 ? std::sqrt(0.5) : 1);
+            }
             return values;
         }();
         Block result{};
@@ -138,11 +142,11 @@ class JpegFile {
     }
     static Block transformed(const Block& block) { return cosines(cosines(block)); }
 
-    // Gives the first value back: the next block of the same part tells only how its own differs.
+    // Gives the first value back: the next block of the same component tells only how its own differs.
     int writeBlock(const Block& block, int last) {
-        std::array<int, side * side> values{};
+        std::array<int, cells> values{};
         for (std::size_t i = 0; i < values.size(); ++i)
-            values[i] = int(std::lround(block[static_cast<std::size_t>(order_[i])] / steps_[i]));
+            values[i] = int(std::lround(block[order_[i]] / steps_[i]));
         putValue(dcCodes_, 0, values[0] - last);
         int zeros = 0;
         for (std::size_t i = 1; i < values.size(); ++i) {
@@ -164,7 +168,7 @@ class JpegFile {
         int size = 0;
         for (int rest = std::abs(value); rest > 0; rest >>= 1)
             ++size;
-        putBits(codes[static_cast<std::size_t>(zeros * 16 + size)]);
+        putBits(codes[static_cast<std::size_t>(zeros << 4 | size)]);
         const int bits = value < 0 ? value + (1 << size) - 1 : value;
         putBits({static_cast<unsigned>(bits), size});
     }
@@ -179,10 +183,10 @@ class JpegFile {
         }
     }
 
-    const std::array<int, side* side> order_ = zigzag();
+    const std::array<std::size_t, cells> order_ = zigzag();
     const Codes dcCodes_ = codesOf(dcLengths, dcSymbols);
     const Codes acCodes_ = codesOf(acLengths, acSymbols);
-    std::array<int, side * side> steps_{};  // in zigzag order
+    std::array<int, cells> steps_{};  // in zigzag order
     std::string file_;
     std::uint64_t waiting_ = 0;
     int waitingCount_ = 0;

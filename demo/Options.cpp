@@ -54,7 +54,7 @@ void describe(CLI::App& app, Words& words) {
 
 Endpoint endpointOf(const std::string& option, const std::string& text, bool isPublic) {
     try {
-        const Endpoint endpoint = Endpoint::parse(text);
+        Endpoint endpoint = Endpoint::parse(text);
         if (isPublic || endpoint.isLoopback()) return endpoint;
     } catch (const std::invalid_argument& mistake) {
         throw CLI::ValidationError(option, mistake.what());

@@ -25,9 +25,9 @@ constexpr std::array<Paper, 6> papers{{{"ANEM", "Ο Ανεμοδείκτης", t
 constexpr std::size_t sentencesOfATheme = 7;
 using Sentences = std::array<const char*, sentencesOfATheme>;
 
-enum Theme { Economy, Politics, Culture, Sport, Nature, Science, General, themeCount };
+enum Theme { Economy, Politics, Culture, Sport, Nature, Science, General, ThemeCount };
 
-constexpr std::array<Sentences, themeCount> greekSentences{{
+constexpr std::array<Sentences, ThemeCount> greekSentences{{
     {"Οι εξαγωγές ελαιολάδου αυξήθηκαν κατά 8% το πρώτο τρίμηνο, σύμφωνα με τα στοιχεία των παραγωγών.",
      "Οι μικρές επιχειρήσεις ζητούν ταχύτερες διαδικασίες και σταθερούς φορολογικούς κανόνες για την επόμενη "
      "πενταετία.",
@@ -80,7 +80,7 @@ constexpr std::array<Sentences, themeCount> greekSentences{{
      "Το θέμα θα απασχολήσει και πάλι τις επόμενες ημέρες, καθώς εκκρεμούν σημαντικές λεπτομέρειες."},
 }};
 
-constexpr std::array<Sentences, themeCount> englishSentences{{
+constexpr std::array<Sentences, ThemeCount> englishSentences{{
     {"Exports of olive oil rose by 8% in the first quarter, according to figures released by the growers.",
      "Small firms are asking for faster procedures and for tax rules that stay the same for five years.",
      "The new loan scheme is aimed at family businesses with fewer than ten employees.",

@@ -147,9 +147,8 @@ void prepareTree(const fs::path& root, const Date& today) {
     const bool isNew = fs::is_empty(root);
     fs::create_directories(root / ClippingsTree::UploadName);
     if (!isNew && !fs::exists(root / listName)) return;
-    std::vector<Date> wanted;
-    for (int back : daysBack)
-        wanted.push_back(today.plusDays(-back));
+    std::vector<Date> wanted(daysBack.size());
+    std::transform(daysBack.begin(), daysBack.end(), wanted.begin(), [&](int back) { return today.plusDays(-back); });
     if (isNew) {
         write(root / ClippingsTree::UsersName, "user\tpassword\r\ndemo\tdemo\r\n");
         write(root / ClippingsTree::AdvertisementName, advertisementPicture());

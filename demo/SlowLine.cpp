@@ -20,7 +20,7 @@ asio::awaitable<void> pause(std::chrono::nanoseconds length) {
 }  // namespace
 
 std::size_t SlowLine::blockSize() const {
-    constexpr std::size_t largest = 256 * 1024;
+    constexpr std::size_t largest = 256UL * 1024;
     if (speed_.BytesPerSecond == 0) return largest;
     return std::clamp<std::size_t>(speed_.BytesPerSecond / 20, 256, largest);
 }

@@ -15,10 +15,9 @@
 #include "demo/Options.h"
 #include "demo/SampleDays.h"
 
-namespace {
+namespace vell::demo {
 
-using namespace vell;
-using namespace vell::demo;
+namespace {
 
 Date today() {
     const std::time_t now = std::time(nullptr);
@@ -77,10 +76,12 @@ int serve(const Options& options) {
 
 }  // namespace
 
+}  // namespace vell::demo
+
 int main(int count, char** words) {
     try {
-        const CommandLine line = readCommandLine(count, words);
-        return line.Chosen ? serve(*line.Chosen) : line.ExitCode;
+        const auto line = vell::demo::readCommandLine(count, words);
+        return line.Chosen ? vell::demo::serve(*line.Chosen) : line.ExitCode;
     } catch (const std::exception& problem) {
         std::cerr << "vell-demo-service: " << problem.what() << "\n";
         return 1;
