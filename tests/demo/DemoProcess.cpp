@@ -27,6 +27,7 @@ std::vector<std::string> serviceWords(const std::filesystem::path& root, const s
 
 ChildProcess::ChildProcess(const std::vector<std::string>& words) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const auto& word : words)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
@@ -65,7 +66,7 @@ Ended run(const std::vector<std::string>& words) {
     return ChildProcess(words).end();
 }
 
-DemoProcess::DemoProcess(const std::filesystem::path& root, std::vector<std::string> options)
+DemoProcess::DemoProcess(const std::filesystem::path& root, const std::vector<std::string>& options)
     : process_(serviceWords(root, folder_.path() / "ready", options)) {
     while (!folder_.has("ready")) {
         if (!process_.isRunning()) throw std::runtime_error("no service: " + process_.end().Errors);

@@ -43,7 +43,7 @@ Ended run(const std::vector<std::string>& words);
 // The demo service, started on a folder and ready for callers on free ports of loopback.
 class DemoProcess {
   public:
-    explicit DemoProcess(const std::filesystem::path& root, std::vector<std::string> options = {});
+    explicit DemoProcess(const std::filesystem::path& root, const std::vector<std::string>& options = {});
 
     [[nodiscard]] const std::string& http() const { return http_; }  // "127.0.0.1:34567"
     [[nodiscard]] const std::string& ftp() const { return ftp_; }

@@ -5,7 +5,7 @@
 
 #include "base/text.h"
 #include "tests/demo/DemoProcess.h"
-#include "tests/demo/HttpPeer.h"
+#include "tests/demo/HttpCaller.h"
 #include "tests/demo/SmallTree.h"
 
 namespace vell::test {
@@ -167,35 +167,35 @@ TEST_F(DemoHttpTest, keepsAConnectionOrClosesItAsTheRequestAsks) {
         {"GET /none HTTP/1.1\r\nHo st: x\r\n\r\n", false},
     };
     for (const auto& c : cases) {
-        HttpPeer peer(service_.http());
-        peer.send(c.Request);
-        EXPECT_NE(peer.reply().Head.find(c.Keeps ? "keep-alive" : "close"), std::string::npos) << c.Request;
+        HttpCaller caller(service_.http());
+        caller.send(c.Request);
+        EXPECT_NE(caller.reply().Head.find(c.Keeps ? "keep-alive" : "close"), std::string::npos) << c.Request;
         if (!c.Keeps) {
-            EXPECT_TRUE(peer.isClosed()) << c.Request;
+            EXPECT_TRUE(caller.isClosed()) << c.Request;
             continue;
         }
-        peer.send("HEAD /clippings/X.MT HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n");
-        const auto head = peer.reply(false);
+        caller.send("HEAD /clippings/X.MT HTTP/1.1\r\nHost: x\r\nConnection: close\r\n\r\n");
+        const auto head = caller.reply(false);
         EXPECT_NE(head.Head.find("Content-Length: " + std::to_string(contentOf("X.MT").size()) + "\r"),
                   std::string::npos);
-        EXPECT_TRUE(peer.isClosed()) << c.Request;
+        EXPECT_TRUE(caller.isClosed()) << c.Request;
     }
 }
 
 TEST_F(DemoHttpTest, takesRequestsInPiecesInOnePacketWithBareLineFeedsAndAfterAContinue) {
-    HttpPeer peer(service_.http());
+    HttpCaller caller(service_.http());
     for (char c : std::string("\r\nGET /clippings/X.MT HTTP/1.1\r\nHost: x\r\n\r\n"))
-        peer.send({&c, 1});
-    EXPECT_EQ(peer.reply().Body, contentOf("X.MT"));
-    peer.send(
+        caller.send({&c, 1});
+    EXPECT_EQ(caller.reply().Body, contentOf("X.MT"));
+    caller.send(
         "POST /sources.asp HTTP/1.1\nHost: x\nContent-Length: 21\n\ndd=07&mm=03&yyyy=2004"
         "GET /clippings/X.TXT HTTP/1.1\r\nHost: x\r\n\r\n");
-    EXPECT_EQ(peer.reply().Body, cp("Προσοχή\r\n"));
-    EXPECT_EQ(peer.reply().Body, contentOf("X.TXT"));
-    peer.send("POST /sources.asp HTTP/1.1\r\nHost: x\r\nExpect: 100-continue\r\nContent-Length: 21\r\n\r\n");
-    EXPECT_EQ(peer.reply().Status, 100);
-    peer.send("dd=07&mm=03&yyyy=2004");
-    EXPECT_EQ(peer.reply().Body, cp("Προσοχή\r\n"));
+    EXPECT_EQ(caller.reply().Body, cp("Προσοχή\r\n"));
+    EXPECT_EQ(caller.reply().Body, contentOf("X.TXT"));
+    caller.send("POST /sources.asp HTTP/1.1\r\nHost: x\r\nExpect: 100-continue\r\nContent-Length: 21\r\n\r\n");
+    EXPECT_EQ(caller.reply().Status, 100);
+    caller.send("dd=07&mm=03&yyyy=2004");
+    EXPECT_EQ(caller.reply().Body, cp("Προσοχή\r\n"));
 }
 
 TEST_F(DemoHttpTest, refusesWhatIsNoRequestAndClosesOnlyAfterItsAnswerCanBeRead) {
@@ -223,26 +223,27 @@ TEST_F(DemoHttpTest, refusesWhatIsNoRequestAndClosesOnlyAfterItsAnswerCanBeRead)
         {"GET /" + megabyte, 431},
     };
     for (const auto& c : cases) {
-        HttpPeer peer(service_.http());
-        peer.send(c.Request);
-        EXPECT_EQ(peer.reply().Status, c.Status) << c.Request.substr(0, 80);
+        HttpCaller caller(service_.http());
+        caller.send(c.Request);
+        EXPECT_EQ(caller.reply().Status, c.Status) << c.Request.substr(0, 80);
     }
     EXPECT_EQ(get(service_.http(), "/clippings/X.MT").Status, 200);
 }
 
 TEST_F(DemoHttpTest, goesOnAfterCallersThatLeaveInTheMiddle) {
     for (const char* begin : {"", "GET /cli", "POST /sources.asp HTTP/1.0\r\nContent-Length: 21\r\n\r\ndd="})
-        HttpPeer(service_.http()).send(begin);
+        HttpCaller(service_.http()).send(begin);
     EXPECT_EQ(get(service_.http(), "/clippings/X.MT").Body, contentOf("X.MT"));
     EXPECT_EQ(service_.stop(15).Errors, "");
 }
 
 TEST(DemoSlowLineTest, holdsAnswersAndTransfersBack) {
     const SmallTree tree;
-    tree.put("07032004/NEA01_20040307.PDF", std::string(16 * 1024, 'x'));
+    const std::string bytes(16'384, 'x');
+    tree.put("07032004/NEA01_20040307.PDF", bytes);
     const DemoProcess service(tree.path(), {"--rate", "64", "--latency", "60"});
     const auto begin = std::chrono::steady_clock::now();
-    EXPECT_EQ(get(service.http(), "/archive/2004/03/07/NEA01_20040307.PDF").Body.size(), 16U * 1024);
+    EXPECT_EQ(get(service.http(), "/archive/2004/03/07/NEA01_20040307.PDF").Body, bytes);
     const auto took = std::chrono::steady_clock::now() - begin;
     EXPECT_GE(took, std::chrono::milliseconds{60 + 200});  // the pause after the last block need not be waited for
     EXPECT_LT(took, patience / 2);

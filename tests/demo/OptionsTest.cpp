@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/demo/DemoProcess.h"
-#include "tests/demo/HttpPeer.h"
+#include "tests/demo/HttpCaller.h"
 #include "tests/demo/SmallTree.h"
 
 namespace vell::test {
@@ -77,7 +77,7 @@ TEST(DemoOptionsTest, endsCleanlyBySignalEvenWhileCallersAreConnected) {
     const SmallTree tree;
     for (int number : {SIGTERM, SIGINT}) {
         DemoProcess service(tree.path(), {"--verbose"});
-        HttpPeer idle(service.http());
+        HttpCaller idle(service.http());
         auto ftp = streamTo(service.ftp());
         ftp.get();
         EXPECT_EQ(get(service.http(), "/none").Status, 404);

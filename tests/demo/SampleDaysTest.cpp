@@ -9,8 +9,8 @@
 #include "base/Date.h"
 #include "base/text.h"
 #include "tests/demo/DemoProcess.h"
-#include "tests/demo/FtpPeer.h"
-#include "tests/demo/HttpPeer.h"
+#include "tests/demo/FtpCaller.h"
+#include "tests/demo/HttpCaller.h"
 #include "tests/demo/SmallTree.h"
 
 namespace vell::test {
@@ -148,7 +148,8 @@ TEST(DemoSampleDaysTest, holdRealPdfPagesTextsAndAPicture) {
     EXPECT_GT(largest, 100'000U);
     EXPECT_LT(largest, 220'000U);
     expectJpeg(folder.get("ADVERTISMENT.JPG"));
-    EXPECT_EQ(FtpPeer(service.ftp(), "demo", "demo").receive("RETR ADVERTISMENT.JPG"), folder.get("ADVERTISMENT.JPG"));
+    EXPECT_EQ(FtpCaller(service.ftp(), "demo", "demo").receive("RETR ADVERTISMENT.JPG"),
+              folder.get("ADVERTISMENT.JPG"));
 }
 
 TEST(DemoSampleDaysTest, moveWithTheCalendarButLeaveWhatAPersonHasChanged) {

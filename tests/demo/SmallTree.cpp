@@ -28,8 +28,8 @@ SmallTree::SmallTree() {
 }
 
 void SmallTree::putClipping(const std::string& day, const std::string& base) const {
-    for (const char* ending : {".PDF", ".TXT", ".MT"})
-        put(day + "/" + base + ending, contentOf(base + ending));
+    for (const std::string& name : {base + ".PDF", base + ".TXT", base + ".MT"})
+        put((std::filesystem::path(day) / name).string(), contentOf(name));
 }
 
 }  // namespace vell::test

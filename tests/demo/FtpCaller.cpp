@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-#include "tests/demo/FtpPeer.h"
+#include "tests/demo/FtpCaller.h"
 
 #include <array>
 #include <iterator>
 #include <sstream>
 #include <stdexcept>
 
-#include "tests/demo/HttpPeer.h"
+#include "tests/demo/HttpCaller.h"
 
 namespace vell::test {
 
@@ -18,14 +18,14 @@ std::string rest(std::istream& stream) {
 
 }  // namespace
 
-FtpPeer::FtpPeer(const std::string& place, const std::string& user, const std::string& password)
+FtpCaller::FtpCaller(const std::string& place, const std::string& user, const std::string& password)
     : control_(streamTo(place)) {
     if (code() != 220) throw std::runtime_error("no greeting");
     tell("USER " + user);
     lastCode_ = tell("PASS " + password);
 }
 
-std::string FtpPeer::reply() {
+std::string FtpCaller::reply() {
     std::string whole, line;
     do {
         if (!std::getline(control_, line)) break;
@@ -34,27 +34,27 @@ std::string FtpPeer::reply() {
     return whole;
 }
 
-int FtpPeer::code() {
+int FtpCaller::code() {
     const std::string text = reply();
     return text.empty() ? 0 : std::stoi(text.substr(0, 3));
 }
 
-std::string FtpPeer::ask(const std::string& command) {
+std::string FtpCaller::ask(const std::string& command) {
     send(command + "\r\n");
     return reply();
 }
 
-int FtpPeer::tell(const std::string& command) {
+int FtpCaller::tell(const std::string& command) {
     send(command + "\r\n");
     return code();
 }
 
-int FtpPeer::tellIn(const std::string& directory, const std::string& command) {
+int FtpCaller::tellIn(const std::string& directory, const std::string& command) {
     tell("CWD " + directory);
     return tell(command);
 }
 
-std::string FtpPeer::passive() {
+std::string FtpCaller::passive() {
     const std::string numbers = ask("PASV");
     std::istringstream words(numbers.substr(numbers.find('(') + 1));
     std::array<int, 6> n{};
@@ -65,7 +65,7 @@ std::string FtpPeer::passive() {
            ":" + std::to_string(n[4] * 256 + n[5]);
 }
 
-std::string FtpPeer::receive(const std::string& command, Way way) {
+std::string FtpCaller::receive(const std::string& command, Way way) {
     if (way == Way::Active) return receiveActive(command);
     auto data = streamTo(passive());
     lastCode_ = tell(command);
@@ -75,7 +75,7 @@ std::string FtpPeer::receive(const std::string& command, Way way) {
     return bytes;
 }
 
-std::string FtpPeer::receiveActive(const std::string& command) {
+std::string FtpCaller::receiveActive(const std::string& command) {
     using asio::ip::tcp;
     asio::io_context loop;
     tcp::acceptor listener(loop, tcp::endpoint(asio::ip::address_v4::loopback(), 0));
@@ -89,7 +89,7 @@ std::string FtpPeer::receiveActive(const std::string& command) {
     return bytes;
 }
 
-int FtpPeer::store(const std::string& command, std::string_view bytes) {
+int FtpCaller::store(const std::string& command, std::string_view bytes) {
     auto data = streamTo(passive());
     lastCode_ = tell(command);
     if (lastCode_ != 150) return lastCode_;

@@ -21,9 +21,9 @@ struct HttpReply {
 };
 
 // One connection on which requests are written byte by byte as the test wants them.
-class HttpPeer {
+class HttpCaller {
   public:
-    explicit HttpPeer(const std::string& place) : stream_(streamTo(place)) {}
+    explicit HttpCaller(const std::string& place) : stream_(streamTo(place)) {}
 
     void send(std::string_view bytes) { stream_ << bytes << std::flush; }
     // The body as long as its Content-Length says.

@@ -9,10 +9,11 @@
 namespace vell::test {
 
 // An FTP client that does exactly what a test tells it.
-class FtpPeer {
+class FtpCaller {
   public:
     // Takes the greeting and logs in as the service's clients do.
-    explicit FtpPeer(const std::string& place, const std::string& user = "vell", const std::string& password = "ruxo");
+    explicit FtpCaller(const std::string& place, const std::string& user = "vell",
+                       const std::string& password = "ruxo");
 
     void send(std::string_view bytes) { control_ << bytes << std::flush; }
     // A whole reply, its lines joined by "\n"; empty when the connection was closed.

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tests/demo/HttpPeer.h"
+#include "tests/demo/HttpCaller.h"
 
 #include <stdexcept>
 
@@ -15,7 +15,7 @@ asio::ip::tcp::iostream streamTo(const std::string& place) {
     return stream;
 }
 
-HttpReply HttpPeer::reply(bool withBody) {
+HttpReply HttpCaller::reply(bool withBody) {
     HttpReply reply;
     std::size_t size = 0;
     for (std::string line; std::getline(stream_, line) && line != "\r";) {
@@ -29,21 +29,21 @@ HttpReply HttpPeer::reply(bool withBody) {
     return reply;
 }
 
-bool HttpPeer::isClosed() {
+bool HttpCaller::isClosed() {
     return stream_.get() == std::char_traits<char>::eof() && stream_.error() == asio::error::eof;
 }
 
 HttpReply get(const std::string& place, const std::string& address) {
-    HttpPeer peer(place);
-    peer.send("GET " + address + " HTTP/1.0\r\n\r\n");
-    return peer.reply();
+    HttpCaller caller(place);
+    caller.send("GET " + address + " HTTP/1.0\r\n\r\n");
+    return caller.reply();
 }
 
 HttpReply post(const std::string& place, const std::string& address, const std::string& body) {
-    HttpPeer peer(place);
-    peer.send("POST " + address + " HTTP/1.0\r\nContent-Type: application/x-www-form-urlencoded\r\nContent-Length: " +
-              std::to_string(body.size()) + "\r\n\r\n" + body);
-    return peer.reply();
+    HttpCaller caller(place);
+    caller.send("POST " + address + " HTTP/1.0\r\nContent-Type: application/x-www-form-urlencoded\r\nContent-Length: " +
+                std::to_string(body.size()) + "\r\n\r\n" + body);
+    return caller.reply();
 }
 
 }  // namespace vell::test
