@@ -140,7 +140,7 @@ TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartMeanwhileDoNotDi
     EXPECT_TRUE(program.Form_Load(frmMain::Start::Alone));
     program.mnuForceDownload_Click();
     EXPECT_EQ(service.requests().size(), 2U + 10U);
-    EXPECT_TRUE(logHas(" in StartDownload()\n") && logHas("FORCEd download by user\nFORCEd download ENDED\n"));
+    EXPECT_TRUE(logHas(" in StartDownload()\n") && logHas("ConnectionName         : \nFORCEd download ENDED\n"));
     const std::string index = inDay("ALLFILES.DIR");
     EXPECT_EQ(Split(index, "||d||").size(), 3U) << index;
 }

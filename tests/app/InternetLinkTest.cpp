@@ -4,6 +4,7 @@
 #include "app/InternetLink.h"
 #include "app/Session.h"
 #include "app/TransferProgress.h"
+#include "base/text.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"
@@ -16,7 +17,6 @@
 #include "tests/support/ScriptedConnection.h"
 #include "tests/support/ScriptedRas.h"
 #include "tests/support/SettingsRig.h"
-#include "tests/support/plainLog.h"
 
 namespace vell::test {
 namespace {
@@ -37,12 +37,14 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     }
     // What the last step logged, and the status texts that it showed.
     std::string logged() {
-        const std::string all = plainLog(folder.get("vell.log"));
+        const std::string all = SettingsRig::plain(folder.get("vell.log"));
         return all.substr(std::exchange(seen, all.size()));
     }
     Lines statuses() {
         EXPECT_EQ(view.Busy, 0);
-        return std::exchange(view.Statuses, {});
+        const std::string shown = std::exchange(view.Statuses, {});
+        const auto lines = Split(shown, "\n");
+        return {lines.begin(), lines.empty() ? lines.end() : lines.end() - 1};
     }
     // The connection is found to be down when its state is asked for the n-th time.
     void goDownAt(int looks) {
@@ -62,7 +64,7 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     CWinInetConnection inet{api, boxes, log};
     ModRAS ras{phoneBook, log};
     InternetLink link = linkOver(inet, ras);
-    std::size_t seen = plainLog(folder.get("vell.log")).size();
+    std::size_t seen = SettingsRig::plain(folder.get("vell.log")).size();
 };
 
 TEST_F(InternetLinkTest, dialsOnlyWhereAModemIsTheWay) {
