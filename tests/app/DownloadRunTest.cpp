@@ -98,7 +98,7 @@ Getting list of files to download: Done
 Finished: 1 of 1 clippings downloaded.
 )");
     EXPECT_EQ(inDay("ALLFILES.DIR"), "N120040307.PDF||PAPER||TITLE 1||CAT||TYPE||1||-||150000||300||20\r\n\r\n");
-    EXPECT_EQ(boxes.shown(), list + "|");
+    EXPECT_EQ(boxes.Shown, list + "|");
     EXPECT_EQ(program.outcome().FilesFailed, 1);
 }
 
@@ -237,7 +237,7 @@ TEST_F(DownloadRunTest, aSecondInstanceAndAMissingSettingsFileAreTold) {
     std::filesystem::remove(folder.path() / "vell.ini");
     EXPECT_FALSE(runToday());
     EXPECT_TRUE(program.Form_Load(frmMain::Start::Beside));
-    EXPECT_EQ(boxes.shown(),
+    EXPECT_EQ(boxes.Shown,
               "Program is already running|Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE "
               "parameters must be set again.|");
     EXPECT_FALSE(folder.has("vell.log"));

@@ -85,7 +85,7 @@ TEST_F(DownloadListTest, asksForTheDayAndStoresWhatTheServiceLists) {
     EXPECT_EQ(downloads.gTotalBytes, 2147483707);
     EXPECT_EQ(downloads.gClippingsCount, 3);
     EXPECT_FALSE(has("GONE.TXT"));
-    EXPECT_EQ(status + boxes.shown(), "Getting list of files to download: Done");
+    EXPECT_EQ(status + boxes.Shown, "Getting list of files to download: Done");
 }
 
 TEST_F(DownloadListTest, takesWhateverTheServiceAnswers) {
@@ -135,7 +135,7 @@ TEST_F(DownloadListTest, asksForAnotherPasswordForAsLongAsTheUserWishes) {
     const std::string shown =
         "error 1001<br>|Incorrect username/password combination: Please enter a correct "
         "username/password combination.|";
-    EXPECT_EQ(boxes.shown(), shown + shown);
+    EXPECT_EQ(boxes.Shown, shown + shown);
     boxes.Answers = {Answer::Ok};
     onSetup = [&] { service.Answers[ServicePeer::listScript] = HttpPeer::ok("A.PDF||"); };
     EXPECT_TRUE(list.GetDownloadFiles());

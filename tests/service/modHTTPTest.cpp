@@ -115,7 +115,7 @@ TEST_F(modHTTPTest, asksForRoomUntilThereIsMoreThanTheFileNeeds) {
     EXPECT_FALSE(download() || has(name));
     const std::string question = "Not enough free space: Not enough free space available to save " + day.gDayFolder +
                                  name + ". Please free up at least 2 kb from your disk and click Retry|";
-    EXPECT_EQ(boxes.shown(), question + question);
+    EXPECT_EQ(boxes.Shown, question + question);
     boxes.Answers = {Answer::Retry, Answer::Retry};
     EXPECT_TRUE(download() && free.empty());
     EXPECT_TRUE(http.HttpDownloadFile(name, "/" + day.gDayFolder + name, received));  // a network path: nobody asks

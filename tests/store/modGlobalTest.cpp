@@ -100,7 +100,7 @@ TEST_F(modGlobalTest, deletesADayAndAsksAgainWhileSomethingIsInUse) {
     const std::string question =
         "Sharing Violation: Cannot delete one or more files. There has been a sharing "
         "violation. Make sure no files are in use.|";
-    EXPECT_EQ(boxes.shown(), question + question);
+    EXPECT_EQ(boxes.Shown, question + question);
     EXPECT_TRUE(has("A.TXT"));
     boxes.Answers = {Answer::Retry};
     boxes.OnQuestion = [&] { files.Trouble.clear(); };
@@ -135,7 +135,7 @@ TEST_F(modGlobalTest, deletesAnArticleInAllItsFormsFromTheChosenDay) {
     EXPECT_EQ(files.Enumerate(setup.LocalDir + "\\08032004", "*.*", Files::Kind::Files).size(), 5U);
     files.Trouble = "XY.PDF";
     store.DeleteArticleFiles("XY.PDF");
-    EXPECT_EQ(boxes.shown(), "Cannot delete " + day.gDayFolder + "XY.PDF. Make sure it's not in use.|");
+    EXPECT_EQ(boxes.Shown, "Cannot delete " + day.gDayFolder + "XY.PDF. Make sure it's not in use.|");
 }
 
 TEST_F(modGlobalTest, tellsWhyTheSystemDidNotOpenSomething) {
@@ -154,7 +154,7 @@ TEST_F(modGlobalTest, tellsWhyTheSystemDidNotOpenSomething) {
         shell.Result = static_cast<int>(Val(row));
         const std::string text(row.substr(std::min(row.find_first_not_of("-0123456789"), row.size())));
         EXPECT_FALSE(articles.ShellExec("C:\\x.pdf", ""));
-        EXPECT_EQ(boxes.shown(), text.empty() ? "" : "Error opening file 'C:\\x.pdf '.\r\n" + text + "|");
+        EXPECT_EQ(boxes.Shown, text.empty() ? "" : "Error opening file 'C:\\x.pdf '.\r\n" + text + "|");
     }
     shell.Result = 33;
     EXPECT_TRUE(articles.ShellExec("http://x", "-y"));
@@ -166,7 +166,7 @@ TEST_F(modGlobalTest, printsWhateverHasPdfInItsPath) {
     EXPECT_FALSE(articles.PrintArticle("C:\\y.pdf"));
     EXPECT_FALSE(articles.PrintArticle("C:\\x.TXT"));
     EXPECT_EQ(shell.Opened, "Acrord32.exe < /p /h \"C:\\A.PDF\\b.txt\">\nAcrord32.exe < /p /h \"C:\\y.pdf\">\n");
-    EXPECT_EQ(boxes.shown(),
+    EXPECT_EQ(boxes.Shown,
               "Error opening file 'Acrord32.exe  /p /h \"C:\\y.pdf\"'.\r\nThe specified file was not "
               "found.|");
     EXPECT_EQ(logged(),

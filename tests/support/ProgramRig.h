@@ -27,8 +27,6 @@ struct ProgramRig : Process {
                    "[General]\r\nDebug=1\r\n[Download]\r\nLocalDir=" +
                        folder.text() + "/clips\r\n");
         service.serve(3);
-        connection.connected = true;
-        connection.flags = ConnectionApi::Lan | ConnectionApi::Configured;
     }
     bool runToday() {
         const bool started = program.Form_Load(frmMain::Start::Alone);

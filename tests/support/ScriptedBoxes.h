@@ -4,7 +4,6 @@
 #include <deque>
 #include <functional>
 #include <string>
-#include <vector>
 
 #include "platform/MessageBoxes.h"
 
@@ -14,8 +13,8 @@ namespace vell::test {
 class ScriptedBoxes : public MessageBoxes {
   public:
     Answer Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon /*icon*/) override {
-        Shown.push_back(caption == programCaption ? std::string(text) : std::string(caption).append(": ").append(text));
-        LastButtons = buttons;
+        Shown.append(caption == programCaption ? "" : caption).append(caption == programCaption ? "" : ": ");
+        Shown.append(text).append("|");
         if (buttons == Buttons::Ok) return Answer::Ok;
         if (OnQuestion) OnQuestion();
         if (Answers.empty()) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
@@ -24,17 +23,8 @@ class ScriptedBoxes : public MessageBoxes {
         return answer;
     }
 
-    // All that was shown, each box ended by "|".
-    [[nodiscard]] std::string shown() const {
-        std::string all;
-        for (const std::string& text : Shown)
-            all += text + "|";
-        return all;
-    }
-
-    std::deque<Answer> Answers;      // to questions
-    std::vector<std::string> Shown;  // texts, after their caption where they have one of their own
-    Buttons LastButtons = Buttons::Ok;
+    std::deque<Answer> Answers;        // to questions
+    std::string Shown;                 // every box: its caption, where it has one of its own, its text, "|"
     std::function<void()> OnQuestion;  // while the question is open
 };
 
