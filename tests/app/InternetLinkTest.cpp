@@ -4,7 +4,6 @@
 #include "app/InternetLink.h"
 #include "app/Session.h"
 #include "app/TransferProgress.h"
-#include "base/text.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"
@@ -35,16 +34,13 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     InternetLink linkOver(CWinInetConnection& connection, ModRAS& entries) {
         return InternetLink({session.Setup, progress, view, boxes, loop, log, connection, entries});
     }
-    // What the last step logged, and the status texts that it showed.
-    std::string logged() {
-        const std::string all = SettingsRig::plain(folder.get("vell.log"));
-        return all.substr(std::exchange(seen, all.size()));
-    }
+    // The status texts that the last step showed.
     Lines statuses() {
         EXPECT_EQ(view.Busy, 0);
-        const std::string shown = std::exchange(view.Statuses, {});
-        const auto lines = Split(shown, "\n");
-        return {lines.begin(), lines.empty() ? lines.end() : lines.end() - 1};
+        std::string shown = std::exchange(view.Statuses, "");
+        if (!shown.empty()) shown.pop_back();
+        const auto texts = Split(shown, "\n");
+        return {texts.begin(), texts.end()};
     }
     // The connection is found to be down when its state is asked for the n-th time.
     void goDownAt(int looks) {
@@ -64,7 +60,6 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     CWinInetConnection inet{api, boxes, log};
     ModRAS ras{phoneBook, log};
     InternetLink link = linkOver(inet, ras);
-    std::size_t seen = SettingsRig::plain(folder.get("vell.log")).size();
 };
 
 TEST_F(InternetLinkTest, dialsOnlyWhereAModemIsTheWay) {

@@ -22,11 +22,16 @@ namespace vell::test {
 struct ProgramRig : Process {
     ProgramRig() {
         std::filesystem::create_directory(folder.path() / "clips");
-        folder.put("vell.ini",
-                   "[Host]\r\nHost=service.example\r\nUid=ann\r\nRetryOnFailure=3\r\nRetryDelay=5\r\n"
-                   "[General]\r\nDebug=1\r\n[Download]\r\nLocalDir=" +
-                       folder.text() + "/clips\r\n");
+        configure("", folder.text() + "/clips");
         service.serve(3);
+        connection.connected = true;
+        connection.flags = ConnectionApi::Lan | ConnectionApi::Configured;
+    }
+    void configure(const std::string& more, const std::string& localDir) {
+        folder.put("vell.ini",
+                   "[Host]\r\nHost=service.example\r\nUid=ann\r\nRetryOnFailure=3\r\nRetryDelay=49\r\n"
+                   "[General]\r\nDebug=1\r\n[Download]\r\n" +
+                       more + "LocalDir=" + localDir + "\r\n");
     }
     bool runToday() {
         const bool started = program.Form_Load(frmMain::Start::Alone);

@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "platform/MessageBoxes.h"
 
@@ -13,8 +14,8 @@ namespace vell::test {
 class ScriptedBoxes : public MessageBoxes {
   public:
     Answer Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon /*icon*/) override {
-        Shown.append(caption == programCaption ? "" : caption).append(caption == programCaption ? "" : ": ");
-        Shown.append(text).append("|");
+        Shown.push_back(caption == programCaption ? std::string(text) : std::string(caption).append(": ").append(text));
+        LastButtons = buttons;
         if (buttons == Buttons::Ok) return Answer::Ok;
         if (OnQuestion) OnQuestion();
         if (Answers.empty()) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
@@ -23,8 +24,17 @@ class ScriptedBoxes : public MessageBoxes {
         return answer;
     }
 
-    std::deque<Answer> Answers;        // to questions
-    std::string Shown;                 // every box: its caption, where it has one of its own, its text, "|"
+    // All that was shown, each box ended by "|".
+    [[nodiscard]] std::string shown() const {
+        std::string all;
+        for (const std::string& text : Shown)
+            all += text + "|";
+        return all;
+    }
+
+    std::deque<Answer> Answers;      // to questions
+    std::vector<std::string> Shown;  // texts, after their caption where they have one of their own
+    Buttons LastButtons = Buttons::Ok;
     std::function<void()> OnQuestion;  // while the question is open
 };
 

@@ -5,7 +5,6 @@
 #include <functional>
 #include <map>
 #include <string>
-#include <vector>
 
 #include "tests/support/HttpPeer.h"
 
@@ -16,8 +15,8 @@ namespace vell::test {
 class ServicePeer {
   public:
     ServicePeer() {
-        for (const char* name : {"no_proxy", "NO_PROXY"})
-            unsetenv(name);
+        unsetenv("no_proxy");
+        unsetenv("NO_PROXY");
         setenv("http_proxy", ("http://" + peer_.address()).c_str(), 1);
     }
     ~ServicePeer() { unsetenv("http_proxy"); }
@@ -28,33 +27,27 @@ class ServicePeer {
     static constexpr const char* alertScript = "/sources.asp";
     static std::string pathOf(const std::string& name) { return "/archive/2004/03/07/" + name; }
 
-    // From now on lists the clippings N120040307.PDF, N220040307.PDF ... for every day, and has their files.
+    // From now on lists N120040307.PDF, N220040307.PDF ... for every day, and has their files.
     void serve(int clippings) {
-        std::string list;
-        for (int i = 1; i <= clippings; ++i) {
-            const std::string number = std::to_string(i), base = "N" + number + "20040307";
-            list += base + ".pdf||paper||title " + number + "||cat||type||1||-||150000||300||20<br>";
+        Answers[listScript].Bytes = "HTTP/1.0 200 OK\r\n\r\n";
+        for (char number = '1'; number < '1' + clippings; ++number) {
+            const std::string n(1, number), base = "N" + n + "20040307";
+            Answers[listScript].Bytes += base + ".pdf||paper||title " + n + "||cat||type||1||-||150000||300||20<br>";
             for (const char* ending : {".PDF", ".TXT", ".MT"})
-                Answers[pathOf(base + ending)] = HttpPeer::ok(std::string(ending[1] == 'P' ? 1500 : 300, number[0]));
+                Answers[pathOf(base + ending)] = HttpPeer::ok(std::string(ending[1] == 'P' ? 1500 : 300, number));
         }
-        Answers[listScript] = HttpPeer::ok(list);
         Answers[alertScript] = HttpPeer::ok("strike");
         Answers["/archive/RTIS/ME/NT/ADVERTISMENT.JPG"] = HttpPeer::ok("jpeg");
     }
 
     std::map<std::string, HttpPeer::Answer> Answers;         // by path
     std::function<void(HttpPeer::Answer&)> BeforeAnswering;  // in the peer's thread
-
     [[nodiscard]] std::vector<std::string> requests() const { return peer_.requests(); }
-    [[nodiscard]] std::string lastPath() const { return requested(requests().back()); }
 
   private:
-    [[nodiscard]] static std::string requested(const std::string& request) {
-        const auto from = request.find('/', request.find("service.example"));
-        return request.substr(from, request.find(' ', from) - from);
-    }
     HttpPeer::Answer answer(const std::string& request) {
-        const auto found = Answers.find(requested(request));
+        const auto from = request.find('/', request.find("service.example"));
+        const auto found = Answers.find(request.substr(from, request.find(' ', from) - from));
         auto answer = found == Answers.end() ? HttpPeer::status("404 Not Found") : found->second;
         if (BeforeAnswering) BeforeAnswering(answer);
         return answer;
