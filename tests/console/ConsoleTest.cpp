@@ -25,16 +25,6 @@ class ConsoleTest : public testing::Test, protected StoreRig {
         const int code = command.run(line);
         return std::to_string(code) + " " + terminal.taken();
     }
-    static ClippingRow row(const char* paper, const char* title, const char* type, bool opened, bool printed) {
-        auto file = std::make_shared<CFtpFile>();
-        file->FileName = "A.PDF";
-        file->FilePath = "/c\\07032004\\";
-        file->NewspaperName = paper;
-        file->Description = title;
-        file->ArticleType = type;
-        file->Category = "P\t1,P2";
-        return {file, opened, printed};
-    }
 
     FakeTerminal terminal;
     Screen screen{terminal};
@@ -82,41 +72,38 @@ TEST_F(ConsoleTest, understandsItsCommandsAndRefusesTheRestWithAReason) {
 TEST_F(ConsoleTest, rewritesTheStatusInPlaceOnATerminalAndPrintsLinesElsewhere) {
     screen.showStatus("one \xE1", 50);
     screen.showStatus("", -1);
-    screen.tell("a\r\n\r\nb\r\n");
-    screen.print("x");
-    EXPECT_EQ(terminal.taken(), "one α\nx\n!a\n\nb\n");
+    screen.tell("\r\na\r\n\r\nb\x1b\r\n");
+    EXPECT_EQ(terminal.taken(), "one α\n!\na\n\nb \n");
     terminal.Person = true;
     screen.showStatus("one \xE1", 50);
     screen.showStatus(std::string(60, 'x'), -1);
     screen.print("y");
     screen.print("z");
     EXPECT_EQ(terminal.taken(), "\r[##########..........] one α\x1b[K\r" + std::string(38, 'x') + "…\x1b[K\ny\nz\n!");
-}
-
-TEST_F(ConsoleTest, letsNoTextOfTheServiceSteerTheTerminal) {
-    EXPECT_EQ(shownText(std::string("\x1b[2J\x07\0\t\r\n\x7F\x81\xA0z", 13)), " [2J       \xC2\xA0z");
-    EXPECT_EQ(shownLines("\na\r\nb\x1b\n\n"), "\na\nb ");
-    EXPECT_EQ(columns("αb…"), 3U);
     EXPECT_EQ(fitted("αβγ", 3) + fitted("αβγ", 2) + fitted("ab", 1) + fitted("ab", 0), "αβγα……");
 }
 
-TEST_F(ConsoleTest, fitsClippingsIntoTheWidthAndGivesProgramsAllOfThem) {
-    const std::vector<ClippingRow> rows{row("\xCA\xC1", "A title of some length", " ", true, true),
-                                        row("", "", "T", false, true), row("N", "", "T", true, false)};
+TEST_F(ConsoleTest, fitsClippingsIntoTheWidthAndLetsNoneOfThemSteerTheTerminal) {
+    CFtpFile file;
+    file.FileName = "A.PDF";
+    file.FilePath = "/c\\";
+    file.ArticleType = "T";
+    file.Category = std::string("\x1b[2J\x07\0\t\r\n\x7F\x81z", 12);
+    std::vector<ClippingRow> rows{{std::make_shared<CFtpFile>(file), false, true}};
+    file.NewspaperName = "\xCA\xC1";
+    file.Description = "A title of some length";
+    rows.push_back({std::make_shared<CFtpFile>(file), true, true});
     std::string table;
-    for (const std::string& line : clippingsTable(rows, 48))
+    for (const std::string& line : clippingsTable(rows, 51))
         table += line + "\n";
-    EXPECT_EQ(table, R"(   Newspaper  Title               Type  Category
-─  ─────────  ──────────────────  ────  ────────
-B  ΚΑ         A title of some l…        P 1,P2
-P             A.PDF               T     P 1,P2
-O  N                              T     P 1,P2
+    EXPECT_EQ(table, R"(   Newspaper  Title              Type  Category
+─  ─────────  ─────────────────  ────  ────────────
+P             A.PDF              T      [2J       z
+B  ΚΑ         A title of some …  T      [2J       z
 )");
-    EXPECT_EQ(columns(clippingsTable(rows, 0)[1]), 52U);
     EXPECT_EQ(columns(clippingsTable(rows, 1)[1]), 37U);
     EXPECT_EQ(clippingsTable({}, 80).size(), 2U);
-    EXPECT_EQ(clippingTsv(rows[0]), "B\tΚΑ\tA title of some length\t\tP 1,P2\tA.PDF\t/c\\07032004\\A.PDF");
-    EXPECT_EQ(clippingTsv(row("N", "", "T", false, false)), "-\tN\t\tT\tP 1,P2\tA.PDF\t/c\\07032004\\A.PDF");
+    EXPECT_EQ(clippingTsv(rows[1]), "B\tΚΑ\tA title of some length\tT\t [2J       z\tA.PDF\t/c\\A.PDF");
 }
 
 TEST_F(ConsoleTest, answersByItselfWhenNobodyIsThere) {
