@@ -74,6 +74,7 @@ std::vector<std::string> clippingsTable(const std::vector<ClippingRow>& rows, st
     if (width > 0) shrink(widths, width);
 
     std::vector<std::string> lines;
+    lines.reserve(table.size() + 1);
     for (const Cells& cells : table)
         lines.push_back(lineOf(cells, widths));
     std::string rule;

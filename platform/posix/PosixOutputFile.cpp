@@ -6,7 +6,7 @@
 namespace vell {
 
 namespace {
-constexpr std::size_t collectUpTo = 64 * 1024;
+constexpr std::size_t collectUpTo = 64U << 10;
 }
 
 PosixOutputFile::PosixOutputFile(FileHandle file, FilePlace place) : file_(std::move(file)), place_(std::move(place)) {}

@@ -5,7 +5,8 @@
 
 namespace vell::test {
 
-using namespace std::chrono;
+using std::chrono::days, std::chrono::floor, std::chrono::hh_mm_ss, std::chrono::hours, std::chrono::milliseconds,
+    std::chrono::minutes, std::chrono::seconds, std::chrono::sys_days, std::chrono::year, std::chrono::year_month_day;
 
 LocalTime DrivenClock::Now() const {
     const auto midnight = floor<days>(wall_);

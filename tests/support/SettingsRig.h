@@ -31,7 +31,7 @@ struct SettingsRig {
     }
     // What was logged since the last call.
     std::string logged() {
-        const std::string text = plain(folder.get("vell.log")).substr(seenOfLog);
+        std::string text = plain(folder.get("vell.log")).substr(seenOfLog);
         seenOfLog += text.size();
         return text;
     }
