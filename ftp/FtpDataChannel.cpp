@@ -110,6 +110,17 @@ void FtpDataChannel::receiveAll() {
         context_.Wait.reset();
         receiveBlock(block);
     }
+    closeWhenRead();
+}
+
+// Servers may hold back their last reply, for ten seconds or more, until our side of the connection has closed too.
+void FtpDataChannel::closeWhenRead() {
+    if (!flowing_ || transfer_ == Transfer::Upload) return;
+    if (socket_->State() == SocketState::Closing && socket_->BytesReceived() == 0) socket_->Close();
+}
+
+void FtpDataChannel::PeerClosed() {
+    guarded("wscData_Close()", [this] { closeWhenRead(); });
 }
 
 void FtpDataChannel::receiveBlock(std::string_view block) {

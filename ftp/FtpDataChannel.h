@@ -54,10 +54,12 @@ class FtpDataChannel : private TcpSocketEvents {
     void ConnectionRequest() override;
     void DataArrival(std::size_t bytes) override;
     void SendComplete(std::size_t bytes) override;
+    void PeerClosed() override;
     void SocketError(std::int32_t number, const std::string& description) override;
 
     void receiveAll();
     void receiveBlock(std::string_view block);
+    void closeWhenRead();
     void sendNext();
     template <class Body>
     void guarded(std::string_view procedure, Body&& body);

@@ -12,17 +12,19 @@
 
 namespace vell::test {
 
-FtpServerProcess::FtpServerProcess(const std::string& server, const TempFolder& root) {
+FtpServerProcess::FtpServerProcess(const std::string& server, const TempFolder& root, std::uint16_t port) {
     constexpr const char* python = "/usr/bin/python3";  // Debian's own, which finds Debian's modules
     const std::string configuration = configuration_.text() + "/server.conf";
+    const std::string wanted = std::to_string(port);
     std::array<int, 2> ends{};
     if (pipe(ends.data()) != 0) throw std::runtime_error("no pipe");
     child_ = fork();
     if (child_ == 0) {
+        setpgid(0, 0);                     // with a process of its own for every session, which shall end with it
         prctl(PR_SET_PDEATHSIG, SIGKILL);  // a test that dies takes its servers along
         dup2(ends[1], 1);
         execl(python, python, "-W", "ignore", VELL_REAL_SERVER, server.c_str(), root.path().c_str(),
-              configuration.c_str(), nullptr);
+              configuration.c_str(), port == 0 ? nullptr : wanted.c_str(), nullptr);
         _exit(127);
     }
     close(ends[1]);
@@ -34,7 +36,7 @@ FtpServerProcess::FtpServerProcess(const std::string& server, const TempFolder& 
 }
 
 FtpServerProcess::~FtpServerProcess() {
-    kill(child_, SIGKILL);
+    kill(-child_, SIGKILL);
     waitpid(child_, nullptr, 0);
 }
 

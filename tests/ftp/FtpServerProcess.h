@@ -10,10 +10,12 @@
 
 namespace vell::test {
 
-// An FTP server that we did not write, as a child of the test: "pyftpdlib" or "vsftpd" (realServer.py tells of them).
+// An FTP server that we did not write, as a child of the test: "pyftpdlib" or "proftpd" (realServer.py tells
+// of them).
 class FtpServerProcess {
   public:
-    FtpServerProcess(const std::string& server, const TempFolder& root);
+    // On a free port, or on the one that an earlier server had.
+    FtpServerProcess(const std::string& server, const TempFolder& root, std::uint16_t port = 0);
     ~FtpServerProcess();
     FtpServerProcess(const FtpServerProcess&) = delete;
     FtpServerProcess& operator=(const FtpServerProcess&) = delete;

@@ -1,10 +1,22 @@
 # SPDX-License-Identifier: MIT
-"""Serves a folder over FTP with a server that others wrote, on a free port of loopback, and prints the port.
-pyftpdlib lets in "vell" with "ruxo", vsftpd anybody; CONFIG is a file to write. Prints 0 when the server is not there.
-    realServer.py pyftpdlib|vsftpd FOLDER CONFIG"""
-import logging, os, socket, subprocess, sys  # noqa: E401
+"""Serves a folder over FTP with a server that others wrote, on a free port of loopback, and prints the port: one of
+four digits, which is as many as the program's settings keep. Both let in "vell" with "ruxo"; CONFIG is a file to
+write. Prints 0 when the server is not there.
+    realServer.py pyftpdlib|proftpd FOLDER CONFIG [PORT]"""
+import crypt, logging, os, random, socket, subprocess, sys  # noqa: E401
 
-server, folder, config = sys.argv[1:]
+
+def listen(wanted):
+    while True:
+        try:
+            return socket.create_server(('127.0.0.1', wanted or random.randint(2000, 9999)))
+        except OSError:
+            if wanted:
+                raise
+
+
+server, folder, config = sys.argv[1:4]
+listener = listen(int(sys.argv[4]) if len(sys.argv) > 4 else 0)
 if server == 'pyftpdlib':
     try:
         from pyftpdlib import authorizers, handlers, servers
@@ -14,18 +26,22 @@ if server == 'pyftpdlib':
     handlers.FTPHandler.authorizer = authorizers.DummyAuthorizer()
     handlers.FTPHandler.authorizer.add_user('vell', 'ruxo', folder, perm='elradfmwMT')
     handlers.FTPHandler.auth_failed_timeout = 0
-    ftp = servers.FTPServer(('127.0.0.1', 0), handlers.FTPHandler)
+    ftp = servers.FTPServer(listener, handlers.FTPHandler)
     print(ftp.address[1], flush=True)
     ftp.serve_forever()
-if not os.access('/usr/sbin/vsftpd', os.X_OK):
+program = '/usr/sbin/' + server
+if not os.access(program, os.X_OK):
     sys.exit(print(0))
+me = os.stat(folder)
+with open(os.open(config + '.users', os.O_WRONLY | os.O_CREAT, 0o600), 'w') as file:
+    file.write(f'vell:{crypt.crypt("ruxo")}:{me.st_uid}:{me.st_gid}::{folder}:/bin/sh\n')
+settings = ('ServerType inetd\nRequireValidShell off\nRootLogin on\nUseIPv6 off\nWtmpLog off\nTransferLog none\n'
+            f'SystemLog none\nScoreboardFile {config}.board\nAuthOrder mod_auth_file.c\nDefaultRoot ~\n'
+            f'AuthUserFile {config}.users\nAllowOverwrite on\nAllowStoreRestart on\n')
 with open(config, 'w') as file:
-    file.write('listen=NO\nrun_as_launching_user=YES\nseccomp_sandbox=NO\nlocal_enable=NO\nwrite_enable=YES\n'
-               'anonymous_enable=YES\nanon_upload_enable=YES\nanon_mkdir_write_enable=YES\nanon_umask=022\n'
-               f'anon_other_write_enable=YES\nconnect_from_port_20=NO\nanon_root={folder}\n')
-listener = socket.create_server(('127.0.0.1', 0))
+    file.write(settings)
 print(listener.getsockname()[1], flush=True)
 while True:  # one process for each connection, as the internet super-server starts it
     peer, _ = listener.accept()
-    subprocess.Popen(['/usr/sbin/vsftpd', config], stdin=peer, stdout=peer, stderr=peer)
+    subprocess.Popen([program, '-c', config], stdin=peer, stdout=peer, stderr=peer)
     peer.close()

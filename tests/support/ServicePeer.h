@@ -49,7 +49,7 @@ class ServicePeer {
 
   private:
     HttpPeer::Answer answer(const std::string& request) {
-        const auto from = request.find('/', request.find("service.example"));
+        const auto from = request.find('/', request.find("://") + 3);
         const auto found = Answers.find(request.substr(from, request.find(' ', from) - from));
         auto answer = found == Answers.end() ? HttpPeer::status("404 Not Found") : found->second;
         if (BeforeAnswering) BeforeAnswering(answer);

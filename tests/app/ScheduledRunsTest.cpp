@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include <gtest/gtest.h>
+
+#include "platform/posix/NetworkManagerClient.h"
+#include "platform/posix/PosixConnection.h"
+#include "platform/posix/PosixRas.h"
+#include "tests/support/MockNetworkManager.h"
+#include "tests/support/ProgramRig.h"
+
+namespace vell::test {
+
+// The schedule's timer on a clock that the test drives. 07/03/2004 is a Sunday.
+class ScheduledRunsTest : public testing::Test, protected ProgramRig {
+  protected:
+    void load(frmMain& loaded, const std::string& schedule, const std::string& download = "") {
+        configure(download, folder.text() + "/clips");
+        folder.put("vell.ini", folder.get("vell.ini") + "[Schedule]\r\n" + schedule);
+        ASSERT_TRUE(loaded.Form_Load(frmMain::Start::Alone));
+        loaded.startSchedule();
+    }
+    // Lets time go by in the timer's steps.
+    void pass(std::chrono::minutes time) {
+        for (const SteadyTime end = clock.Steady() + time; clock.Steady() < end;) {
+            clock.advance(std::chrono::seconds{10});
+            loop.DoEvents();
+        }
+    }
+    // Each line of the log that tells of a scheduled run, with its time.
+    [[nodiscard]] std::string runs() const {
+        std::string lines;
+        const std::string log = folder.get("vell.log");
+        for (const std::string_view line : Split(log, "\r\n"))
+            if (line.find("Scheduled download") != std::string_view::npos)
+                lines.append(line.substr(0, 19)).append(line.substr(23)).append("\n");
+        return lines;
+    }
+};
+
+TEST_F(ScheduledRunsTest, startsEachEntryOfItsMinuteInTheFirstTickOfItThroughAWeek) {
+    service.serve(0);
+    load(program,
+         "Schedule1=mon 07:30\r\nSchedule2=Mon Wed 07:30\r\nSchedule3=MON SUN 07:30\r\nSchedule5=Tue 08:00\r\n");
+    EXPECT_EQ(program.nextDue(), (LocalTime{{2004, 3, 7}, 7, 30, 0}));
+    // A run that ends within its minute is followed by another at each further tick of it.
+    pass(std::chrono::hours{24 * 7});
+    std::string expected;
+    const struct {
+        std::string Date, Day;
+        int Entries;
+    } table[] = {{"07/03/2004", "SUN", 1}, {"08/03/2004", "MON", 3}, {"10/03/2004", "WED", 1}};
+    for (const auto& [date, day, entries] : table)
+        for (const std::string second : {"00", "10", "20", "30", "40", "50"})
+            for (int entry = 0; entry < entries; ++entry)
+                for (const std::string what : {"STARTED ", "ENDED "})
+                    expected += date + " 07:30:" + second + what + day + " Scheduled download at 07:30\n";
+    EXPECT_EQ(runs(), expected);
+    EXPECT_EQ(program.nextDue(), (LocalTime{{2004, 3, 14}, 7, 30, 0}));
+}
+
+TEST_F(ScheduledRunsTest, aTickInTheMiddleOfARunFindsTheProgramBusy) {
+    load(program, "Schedule1=Sun 06:30\r\n");
+    view.OnStatus = [&](const std::string& status) {
+        if (status.find(" Downloading N2") == std::string::npos) return;
+        view.OnStatus = nullptr;
+        pass(std::chrono::minutes{2});
+    };
+    pass(std::chrono::minutes{1});
+    EXPECT_EQ(Split(runs(), "STARTED").size(), 1U + 6U);
+    EXPECT_EQ(service.requests().size(), 2U + 10U);  // one run alone
+    const std::string index = inDay("ALLFILES.DIR");
+    EXPECT_EQ(Split(index, "||d||").size(), 4U) << index;
+}
+
+TEST_F(ScheduledRunsTest, aClockThatJumpsStartsNothingTwice) {
+    service.serve(0);
+    load(program, "Schedule1=Sun 06:30\r\n");
+    pass(std::chrono::minutes{1});
+    clock.setNow({{2004, 3, 8}, 6, 30, 0});  // a day ahead: a Monday
+    pass(std::chrono::minutes{2});
+    clock.setNow({{2004, 3, 7}, 5, 31, 0});  // an hour back
+    pass(std::chrono::minutes{58});
+    EXPECT_EQ(runs(),
+              "07/03/2004 06:30:00STARTED SUN Scheduled download at 06:30\n"
+              "07/03/2004 06:30:00ENDED SUN Scheduled download at 06:30\n");
+}
+
+TEST_F(ScheduledRunsTest, dialsBeforeARunAndHangsUpAfterIt) {
+    if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
+    const MockNetworkManager mock("{}");
+    NetworkManagerClient client(loop, clock, mock.address());
+    PosixConnection dialUp(client, "");
+    PosixRas profiles(client);
+    frmMain dialling{
+        {clock, loop, files, iniFile, internet, sockets, dialUp, profiles, boxes, *this, shell}, view, "2.1.37"};
+    load(dialling, "Schedule1=Sun 06:30\r\n", "DialUp=My ISP\r\nCloseConnection=1\r\n");
+    pass(std::chrono::minutes{1});
+    clock.advance(std::chrono::seconds{10});
+    loop.DoEvents();
+    EXPECT_TRUE(logHas("Starting 'My ISP' Dial-Up connection.\nGet/Create dir to put downloaded files.\n")) << logged();
+    EXPECT_TRUE(logHas("Stopping internet connection.\nENDED SUN Scheduled download at 06:30\n"));
+    EXPECT_NE(view.Statuses.find("Internet connection closed.\n"), std::string::npos);
+    std::uint32_t flags = 0;
+    EXPECT_FALSE(dialUp.InternetGetConnectedState(flags));
+}
+
+TEST_F(ScheduledRunsTest, withoutAConnectionNothingIsFetched) {
+    connection.connected = false;
+    EXPECT_FALSE(runToday());
+    EXPECT_TRUE(program.outcome().NoConnection && service.requests().empty());
+    EXPECT_EQ(view.Status, "Make sure you are connected to the Internet");
+}
+
+}  // namespace vell::test
