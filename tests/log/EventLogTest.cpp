@@ -37,6 +37,7 @@ TEST(EventLogTest, survivesEverythingThatHappensToItsFile) {
         log.LogEvent("a", 1);
         log.LogEvent("b", 2);
         log.LogEvent("c", 3);
+        EXPECT_EQ(std::filesystem::status(folder.path() / "Log.txt").permissions(), std::filesystem::perms{0600});
         EXPECT_EQ(folder.get("Log.txt"), "Error: a\r\nWarning: b\r\nInformation: c\r\n");
         log.Reset();
         EXPECT_FALSE(folder.has("Log.txt"));

@@ -74,13 +74,15 @@ TEST_F(IndexTest, marksAClippingAndEndsTheFileWithAnEmptyLine) {
 
 TEST_F(IndexTest, forgetsAMarkThatDidNotReachTheFile) {
     file("A||-||~B||-||~");
-    for (const char* kept : {"A||-||~B||-||~", "A||-||~B||d||~~"}) {
-        files.Trouble = "ALLFILES";  // first the whole file cannot be written, then one byte of it
+    // First the whole file cannot be written, then one byte of it.
+    for (const auto& [kept, next, after] :
+         {std::tuple{"A||-||~B||-||~", "B", "A||-||~B||d||~~"}, {"A||-||~B||d||~~", "A", "A||d||~B||d||~~"}}) {
+        files.Trouble = "ALLFILES";
         EXPECT_THROW(mark("A"), RunTimeError);
         EXPECT_EQ(file(), kept);
         files.Trouble.clear();
-        mark("B");
-        EXPECT_EQ(file(), "A||-||~B||d||~~");
+        mark(next);
+        EXPECT_EQ(file(), after);
     }
     files.DeleteFile(day.gDayFolder + "ALLFILES.DIR");
     EXPECT_THROW(mark("A"), RunTimeError);
