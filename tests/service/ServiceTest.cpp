@@ -177,7 +177,8 @@ TEST_F(ServiceTest, asksForTheDayAndStoresWhatTheServiceLists) {
 TEST_F(ServiceTest, takesWhateverListTheServiceAnswersWith) {
     const std::string old = "A.PDF||N||T||C||Y||1||d\r\n\r\n", none = "        The answer is no list of clippings: '",
                       bad = "        A record of the list was dropped, it names no file of a clipping: '";
-    const std::string endless = "A.PDF||" + std::string(50'000'000, '<');
+    std::string endless = "A.PDF||";
+    endless.resize(50'000'000, '<');
     const struct {
         std::string answer, index, told;  // the index of a refused answer is the old one
         int clippings;

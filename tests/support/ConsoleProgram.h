@@ -20,6 +20,7 @@ class ConsoleProgram {
     ConsoleProgram(const TempFolder& folder, std::vector<std::string> arguments, const std::string& input = "") {
         arguments.insert(arguments.begin(), {VELL_CONSOLE, "--folder", folder.text()});
         std::vector<char*> pointers;
+        pointers.reserve(arguments.size() + 1);
         for (std::string& argument : arguments)
             pointers.push_back(argument.data());
         pointers.push_back(nullptr);

@@ -30,7 +30,8 @@ class ServicePeer {
     // From now on lists N120040307.PDF, N220040307.PDF ... for every day, and has their files.
     void serve(int clippings) {
         Answers[listScript].Bytes = "HTTP/1.0 200 OK\r\n\r\n";
-        for (char number = '1'; number < '1' + clippings; ++number) {
+        for (int i = 1; i <= clippings; ++i) {
+            const char number = static_cast<char>('0' + i);
             const std::string n(1, number), base = "N" + n + "20040307";
             Answers[listScript].Bytes += base + ".pdf||paper||title " + n + "||cat||type||1||-||150000||300||20<br>";
             for (const char* ending : {".PDF", ".TXT", ".MT"})
