@@ -2,15 +2,18 @@
 # Downloads today's clippings from the bundled demo service and shows them. Installs what is missing and builds first.
 #   ./demo.sh           today's day
 #   ./demo.sh --range   three days, one of them without clippings
+#   ./demo.sh --ftp     over FTP instead of HTTP; may be combined with --range
 # Everything it makes lies in build/demo. Run it again and it goes on with what is there.
 set -euo pipefail
 cd "$(dirname "$0")"
 
 range=0
+protocol=HTTP
 for argument in "$@"; do
   case $argument in
     --range) range=1 ;;
-    *) echo "demo.sh: unknown option '$argument'; there is --range" >&2; exit 2 ;;
+    --ftp) protocol=FTP ;;
+    *) echo "demo.sh: unknown option '$argument'; there are --range and --ftp" >&2; exit 2 ;;
   esac
 done
 
@@ -22,18 +25,24 @@ bin=$PWD/build/release/bin
 demo=$PWD/build/demo
 mkdir -p "$demo/program" "$demo/clippings"
 
-# The demo service plays the press-clipping service: on ports of its own, for this run only.
-rm -f "$demo/ready"
-"$bin/vell-demo-service" --root "$demo/service" --http 127.0.0.1:0 --ftp 127.0.0.1:0 --ready-file "$demo/ready" \
-  >"$demo/service.log" 2>&1 &
-service=$!
+# The demo service plays the press-clipping service, for this run only. The settings keep four digits of an FTP port.
+start_service() {
+  rm -f "$demo/ready"
+  "$bin/vell-demo-service" --root "$demo/service" --http 127.0.0.1:0 --ftp "127.0.0.1:$1" --ready-file "$demo/ready" \
+    >"$demo/service.log" 2>&1 &
+  service=$!
+  for _ in $(seq 100); do
+    [ -s "$demo/ready" ] && return 0
+    kill -0 "$service" 2>/dev/null || return 1
+    sleep 0.1
+  done
+  return 1
+}
 trap 'kill "$service" 2>/dev/null || true; wait "$service" 2>/dev/null || true' EXIT
-for _ in $(seq 100); do
-  [ -s "$demo/ready" ] && break
-  kill -0 "$service" 2>/dev/null || { cat "$demo/service.log" >&2; exit 1; }
-  sleep 0.1
+for ftp_port in 2121 $(shuf -i 2200-9900 -n 20); do
+  start_service "$ftp_port" && break
 done
-[ -s "$demo/ready" ] || { echo "demo.sh: the demo service did not start" >&2; exit 1; }
+[ -s "$demo/ready" ] || { cat "$demo/service.log" >&2; echo "demo.sh: the demo service did not start" >&2; exit 1; }
 # The client always asks port 80 of its host. Going through the service as a proxy leads it there without privileges.
 http_proxy=http://$(awk '$1 == "http" { print $2 }' "$demo/ready")
 export http_proxy
@@ -42,12 +51,15 @@ unset no_proxy NO_PROXY
 vell() { "$bin/vell-console" --folder "$demo/program" "$@"; }
 if [ ! -e "$demo/program/vell.ini" ]; then
   printf '; The settings of the demo.\r\n[General]\r\nDebug=0\r\n' >"$demo/program/vell.ini"
-  for setting in Protocol=HTTP Host=clippings.example Uid=demo LocalDir="$demo/clippings" RetryOnFailure=3 \
+  for setting in Uid=demo LocalDir="$demo/clippings" RetryOnFailure=3 \
     RetryDelay=1 TimeOut=20 AutoPlayDelay=5 PrintAllDelay=5; do
     vell setup "${setting%%=*}" "${setting#*=}" >/dev/null
   done
   printf 'demo\n' | vell setup Pwd - >/dev/null
 fi
+for setting in Protocol="$protocol" Host=127.0.0.1 Port="$ftp_port"; do
+  vell setup "${setting%%=*}" "${setting#*=}" >/dev/null
+done
 
 echo
 code=0

@@ -6,7 +6,7 @@ set -euo pipefail
 build=(g++ cmake ninja-build pkg-config libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev)
 test=("${build[@]}" libgtest-dev libgmock-dev curl dbus python3-dbusmock python3-pyftpdlib proftpd-core shared-mime-info)
 check=("${build[@]}" libgtest-dev libgmock-dev clang-format clang-tidy g++-mingw-w64-x86-64-posix git)
-bench=("${build[@]}" libbenchmark-dev nginx-light curl)
+bench=("${build[@]}" libbenchmark-dev nginx-light proftpd-core openssl time curl)
 
 wanted=()
 for job in "$@"; do
