@@ -38,6 +38,8 @@ class BrowserView {
     // The advertisement picture's path; there may be no file under it.
     virtual void showAdvertisement(const std::string& path) = 0;
     virtual void showBusy(bool busy) = 0;
+    // The filter that keeps clippings out of the list, in words; empty for none.
+    virtual void showFilter(std::string_view /*text*/) {}
 };
 
 }  // namespace vell

@@ -45,12 +45,13 @@ void ClippingsBrowser::PopulateLocalFilesGrid() {
     trapStep(log_, "PopulateLocalFilesGrid()", [&] {
         const BusyMoment busy(view_);
         std::vector<ClippingRow> rows;
+        dayFiles_ = {};
         if (!day_.cmbDate.empty()) {
             const std::array<std::string, 2> patterns{"*.PDF", ""};
-            for (const auto& file : store_.GetLocalFiles(store_.folderOfDay(day_.cmbDate), patterns)) {
-                ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
-            }
+            dayFiles_ = store_.GetLocalFiles(store_.folderOfDay(day_.cmbDate), patterns);
         }
+        for (const auto& file : dayFiles_)
+            if (filter_.passes(*file)) ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
         rows_ = std::move(rows);
         view_.showClippings(rows_);
         refreshClippingsCount();
@@ -96,6 +97,24 @@ void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) const {
     const std::string path = row.path();
     row.Opened = store_.IsFileOpened(path);
     row.Printed = store_.IsFilePrinted(path);
+}
+
+void ClippingsBrowser::ShowOpenPrintedPicture(std::size_t row) {
+    ShowOpenPrintedPicture(rows_.at(row));
+    view_.showMarks(row);
+}
+
+void ClippingsBrowser::refreshMarks(const std::string& path) {
+    trapStep(log_, "ShowOpenPrintedPicture()", [&] {
+        for (std::size_t row = 0; row < rows_.size(); ++row)
+            if (rows_[row].path() == path) ShowOpenPrintedPicture(row);
+    });
+}
+
+void ClippingsBrowser::setFilter(ClippingFilter filter) {
+    filter_ = std::move(filter);
+    view_.showFilter(filter_.text());
+    PopulateLocalFilesGrid();
 }
 
 void ClippingsBrowser::refreshClippingsCount() {

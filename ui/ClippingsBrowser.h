@@ -6,8 +6,10 @@
 #include <string_view>
 #include <vector>
 
+#include "ftp/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "ui/BrowserView.h"
+#include "ui/ClippingFilter.h"
 #include "ui/Pacer.h"
 
 namespace vell {
@@ -40,6 +42,16 @@ class ClippingsBrowser {
 
     void loadAlert();
 
+    // The marks of the row, counted from 0, or of the clipping with this path, when it is listed, may have changed.
+    void ShowOpenPrintedPicture(std::size_t row);
+    void refreshMarks(const std::string& path);
+
+    // Lists only what passes from now on.
+    void setFilter(ClippingFilter filter);
+    [[nodiscard]] const ClippingFilter& filter() const { return filter_; }
+    // All clippings of the chosen day, whether they pass the filter or not.
+    [[nodiscard]] const CFtpFiles& dayFiles() const { return dayFiles_; }
+
   private:
     void ShowOpenPrintedPicture(ClippingRow& row) const;
     void refreshClippingsCount();
@@ -53,6 +65,8 @@ class ClippingsBrowser {
     Pacer pacer_;
     std::vector<std::string> days_;
     std::vector<ClippingRow> rows_;
+    CFtpFiles dayFiles_;
+    ClippingFilter filter_;
 };
 
 }  // namespace vell

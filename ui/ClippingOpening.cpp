@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#include "ui/ClippingOpening.h"
+
+#include <utility>
+#include <vector>
+
+#include "store/Articles.h"
+#include "store/modGlobal.h"
+#include "ui/ClippingsBrowser.h"
+
+namespace vell {
+
+namespace {
+constexpr std::size_t openedAtOnce = 20;
+}
+
+ClippingOpening::ClippingOpening(ClippingsBrowser& browser, modGlobal& store, Articles& articles, EventLog& log,
+                                 StatusText status)
+    : browser_(browser), store_(store), articles_(articles), log_(log), status_(std::move(status)) {}
+
+void ClippingOpening::grdLocalFiles_DblClick(std::size_t row) {
+    trapStep(log_, "grdLocalFiles_DblClick()", [&] {
+        const std::string path = browser_.rows().at(row).path();
+        if (store_.IsFileOpened(path))
+            status_("This clipping has been opened already. Press Enter to open it again.");
+        else
+            open(path);
+    });
+}
+
+void ClippingOpening::openRow(std::size_t row) {
+    trapStep(log_, "grdLocalFiles_KeyPress()", [&] { open(browser_.rows().at(row).path()); });
+}
+
+void ClippingOpening::openNext20() {
+    trapStep(log_, "mnuOpenNext_Click()", [&] {
+        std::vector<std::string> next;
+        for (const ClippingRow& row : browser_.rows())
+            if (!row.Opened && next.size() < openedAtOnce) next.push_back(row.path());
+        if (next.empty()) status_("All clippings of the list have been opened already.");
+        for (const std::string& path : next)
+            if (!open(path)) return;
+    });
+}
+
+void ClippingOpening::openDayFolder() {
+    trapStep(log_, "mnuOpenFolder_Click()", [&] { articles_.ShellExec(store_.folderOfDay(browser_.chosenDay()), ""); });
+}
+
+void ClippingOpening::openHelp() {
+    articles_.ShellExec("Vellhelp.htm", "");
+}
+
+bool ClippingOpening::open(const std::string& path) {
+    if (!articles_.ShellExec(path, "")) return false;
+    store_.MarkFileOpened(path);
+    browser_.refreshMarks(path);
+    return true;
+}
+
+}  // namespace vell

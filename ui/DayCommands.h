@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "log/EventLog.h"
+
+namespace vell {
+
+class ClippingsBrowser;
+class MessageBoxes;
+class modGlobal;
+
+// The commands for whole days of the date list.
+class DayCommands {
+  public:
+    DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log);
+
+    // Shows today when it is there, else the newest day.
+    void chooseFirst(const std::string& today);
+    void chooseNewer();
+    void chooseOlder();
+    // After a question. The newest of the days that are left is shown then.
+    void mnuDeleteDay_Click();
+
+  private:
+    void step(int places);
+
+    ClippingsBrowser& browser_;
+    modGlobal& store_;
+    MessageBoxes& boxes_;
+    EventLog& log_;
+};
+
+}  // namespace vell

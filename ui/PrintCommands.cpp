@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: MIT
+#include "ui/PrintCommands.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "base/text.h"
+#include "platform/EventLoop.h"
+#include "platform/MessageBoxes.h"
+#include "store/Articles.h"
+#include "store/modGlobal.h"
+#include "ui/ClippingsBrowser.h"
+#include "ui/ScopedFlag.h"
+
+namespace vell {
+
+PrintCommands::PrintCommands(const Parts& parts, StatusText status) : p_(parts), status_(std::move(status)) {}
+
+void PrintCommands::mnuPrintAll_Click() {
+    trapStep(p_.Log, "mnuPrintAll_Click()", [&] {
+        if (printing_) return;
+        const ScopedFlag printing(printing_);
+        if (p_.Boxes.Show("Do you want to print all documents for selected date?", "Print All", Buttons::YesNo,
+                          BoxIcon::Question) == Answer::Yes)
+            printAll();
+    });
+}
+
+void PrintCommands::printAll() {
+    // The list may change in the pauses: what was asked for is what stands in it now.
+    const std::vector<ClippingRow> rows = p_.Browser.rows();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (!p_.Opener.PrintArticle(rows[i].path())) continue;
+        p_.Loop.DoEvents();
+        status_("Printing " + std::to_string(i + 1) + "/" + std::to_string(rows.size()) + " " +
+                rows[i].File->Description);
+        p_.Store.MarkFilePrinted(rows[i].path());
+        p_.Browser.refreshMarks(rows[i].path());
+        printPause(p_.Loop, p_.Setup);
+    }
+    status_("");
+}
+
+void PrintCommands::mnuPrintSel_Click(std::size_t row) {
+    trapStep(p_.Log, "mnuPrintSel_Click()", [&] {
+        const std::string path = p_.Browser.rows().at(row).path();
+        if (!p_.Opener.PrintArticle(path)) return;
+        p_.Store.MarkFilePrinted(path);
+        p_.Browser.refreshMarks(path);
+    });
+}
+
+frmPrint PrintCommands::mnuPrintByCategory_Click() {
+    std::vector<std::string> categories;
+    for (const ClippingRow& row : p_.Browser.rows()) {
+        const std::string_view category = Trim(row.File->Category);
+        if (!category.empty() && std::ranges::find(categories, category) == categories.end())
+            categories.emplace_back(category);
+    }
+    return {{p_.Browser, p_.Opener, p_.Loop, p_.Boxes, p_.Log, p_.Setup, printing_}, std::move(categories)};
+}
+
+}  // namespace vell

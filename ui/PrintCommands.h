@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+
+#include "log/EventLog.h"
+#include "ui/StatusText.h"
+#include "ui/frmPrint.h"
+
+namespace vell {
+
+class Articles;
+class ClippingsBrowser;
+class EventLoop;
+class MessageBoxes;
+class modGlobal;
+struct Settings;
+
+// The commands that print clippings of the list through the PDF reader.
+class PrintCommands {
+  public:
+    struct Parts {
+        ClippingsBrowser& Browser;
+        modGlobal& Store;
+        Articles& Opener;
+        EventLoop& Loop;
+        MessageBoxes& Boxes;
+        EventLog& Log;
+        const Settings& Setup;
+    };
+    PrintCommands(const Parts& parts, StatusText status);
+
+    // All of the list, with a pause after each. Marks what was printed.
+    void mnuPrintAll_Click();
+    // One row. Marks it.
+    void mnuPrintSel_Click(std::size_t row);
+    // The rules of the dialog that prints whole categories.
+    [[nodiscard]] frmPrint mnuPrintByCategory_Click();
+
+    // While a batch is under way no other one can begin.
+    [[nodiscard]] bool isPrinting() const { return printing_; }
+
+  private:
+    void printAll();
+
+    Parts p_;
+    StatusText status_;
+    bool printing_ = false;
+};
+
+}  // namespace vell

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "ui/frmPrint.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "base/text.h"
+#include "config/Settings.h"
+#include "platform/EventLoop.h"
+#include "platform/MessageBoxes.h"
+#include "store/Articles.h"
+#include "ui/ClippingsBrowser.h"
+#include "ui/ScopedFlag.h"
+
+namespace vell {
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+void moveOne(Names& from, std::size_t entry, Names& to) {
+    if (entry >= from.size()) return;
+    const auto at = from.begin() + static_cast<std::ptrdiff_t>(entry);
+    to.push_back(std::move(*at));
+    from.erase(at);
+}
+
+void moveAll(Names& from, Names& to) {
+    std::ranges::move(from, std::back_inserter(to));
+    from.clear();
+}
+
+}  // namespace
+
+frmPrint::frmPrint(const Parts& parts, Names categories) : p_(parts), all_(std::move(categories)) {
+    std::erase_if(all_, [](const std::string& category) { return Trim(category).empty(); });
+}
+
+void frmPrint::cmdAdd_Click(std::size_t entry) {
+    moveOne(all_, entry, chosen_);
+}
+void frmPrint::cmdAddAll_Click() {
+    moveAll(all_, chosen_);
+}
+void frmPrint::cmdRemove_Click(std::size_t entry) {
+    moveOne(chosen_, entry, all_);
+}
+void frmPrint::cmdRemoveAll_Click() {
+    moveAll(chosen_, all_);
+}
+
+void frmPrint::cmdPrint_Click(const StatusText& status) {
+    trapStep(p_.Log, "cmdPrint_Click()", [&] {
+        if (p_.Printing) return;
+        if (chosen_.empty()) {
+            p_.Boxes.Show("No categories selected. Please selected categories to print.", "Print", Buttons::Ok,
+                          BoxIcon::None);
+            return;
+        }
+        const ScopedFlag printing(p_.Printing);
+        print(documents(), status);
+    });
+}
+
+Names frmPrint::documents() const {
+    Names paths;
+    for (const ClippingRow& row : p_.Browser.rows())
+        if (isAmong(chosen_, row.File->Category)) paths.push_back(row.path());
+    return paths;
+}
+
+void frmPrint::print(const Names& documents, const StatusText& status) {
+    for (std::size_t k = 0; k < documents.size(); ++k) {
+        const std::string& path = documents[k];
+        if (InStr(Upper(path), ".PDF") == 0) continue;
+        p_.Opener.PrintArticle(path);
+        status("Printing " + std::to_string(k + 1) + "/" + std::to_string(documents.size()) + " " +
+               std::string(Mid(path, InStrRev(path, "\\") + 1)));
+        printPause(p_.Loop, p_.Setup);
+    }
+    status("");
+}
+
+void printPause(EventLoop& loop, const Settings& settings) {
+    constexpr int millisecondsPerSecond = 1000;
+    loop.DoEvents();
+    loop.Sleep(settings.PrintAllDelay * millisecondsPerSecond);
+    loop.DoEvents();
+}
+
+}  // namespace vell
