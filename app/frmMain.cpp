@@ -40,6 +40,11 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       gInet_(platform.Connection, platform.Boxes, log_),
       ras_(platform.Ras, log_),
       link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, gInet_, ras_}),
+      opening_(browser_, store_, articles_, log_, [this](std::string_view text) { progress_.StatusBar(text); }),
+      printing_({browser_, store_, articles_, platform.Loop, platform.Boxes, log_, session_.Setup},
+                [this](std::string_view text) { progress_.StatusBar(text); }),
+      autoView_(browser_, opening_, platform.Loop, session_.Setup),
+      days_(browser_, store_, platform.Boxes, log_),
       run_({session_, view, platform.Loop, platform.Time, platform.Disk, log_, store_, articles_, http_, ftp_, list_,
             browser_, progress_}),
       scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, link_, browser_) {
@@ -105,6 +110,18 @@ void frmMain::chooseRange(const Date& from, const Date& to) {
     session_.dtFromDate = from;
     session_.dtToDate = to;
     view_.showDateRange(from, to);
+}
+
+void frmMain::chooseOtherFrom() {
+    session_.DownloadToday = false;
+}
+
+void frmMain::dtFromDate_Change(const Date& from) {
+    scheduled_.dtFromDate_Change(from);
+}
+
+void frmMain::dtToDate_Change(const Date& to) {
+    scheduled_.dtToDate_Change(to);
 }
 
 void frmMain::mnuForceDownload_Click() {

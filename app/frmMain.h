@@ -23,7 +23,11 @@
 #include "service/modHTTP.h"
 #include "store/Articles.h"
 #include "store/modGlobal.h"
+#include "ui/ClippingOpening.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/DayCommands.h"
+#include "ui/PrintCommands.h"
+#include "ui/frmAutoView.h"
 
 namespace vell {
 
@@ -55,11 +59,20 @@ class frmMain {
     void startSchedule();
     [[nodiscard]] std::optional<LocalTime> nextDue() const { return scheduled_.nextDue(); }
     [[nodiscard]] bool isBusy() const { return session_.gIsBusy; }
+    // The user has changed one end of the range, or chosen between today and the range as it stands.
+    void chooseOtherFrom();
+    void dtFromDate_Change(const Date& from);
+    void dtToDate_Change(const Date& to);
     [[nodiscard]] const RunOutcome& outcome() const { return session_.Outcome; }
 
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] frmSchedule scheduleDialog();
     [[nodiscard]] ClippingsBrowser& browser() { return browser_; }
+    [[nodiscard]] ClippingOpening& opening() { return opening_; }
+    [[nodiscard]] PrintCommands& printing() { return printing_; }
+    [[nodiscard]] frmAutoView& autoView() { return autoView_; }
+    [[nodiscard]] DayCommands& dayCommands() { return days_; }
+    [[nodiscard]] const std::string& version() const { return session_.gVersion; }
     [[nodiscard]] const Settings& settings() const { return session_.Setup; }
     // False when the settings file is damaged and was read in part only.
     [[nodiscard]] bool areSettingsWhole() const { return loader_.isWhole(); }
@@ -84,6 +97,10 @@ class frmMain {
     CWinInetConnection gInet_;
     ModRAS ras_;
     InternetLink link_;
+    ClippingOpening opening_;
+    PrintCommands printing_;
+    frmAutoView autoView_;
+    DayCommands days_;
     DownloadRun run_;
     ScheduledRuns scheduled_;
     bool mIsSecondInstance_ = false;
