@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include <wx/image.h>
+#include <wx/panel.h>
+
+class wxPaintEvent;
+
+namespace vell {
+
+class Files;
+
+// The advertisement picture, as wide as there is room for it and never larger than it is. Without a picture, or with
+// one that cannot be trusted, there is nothing to see.
+class Advertisement : public wxPanel {
+  public:
+    Advertisement(wxWindow* parent, const Files& files);
+
+    void show(const std::string& path);
+
+  private:
+    [[nodiscard]] wxImage load(const std::string& path) const;
+    [[nodiscard]] wxSize fittedSize() const;
+    void paint(wxPaintEvent& event);
+    void fit();
+
+    const Files& files_;
+    wxImage picture_;
+};
+
+}  // namespace vell

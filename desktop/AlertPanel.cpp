@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/AlertPanel.h"
+
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+#include <wx/textctrl.h>
+
+#include "base/text.h"
+#include "desktop/accessibleName.h"
+#include "desktop/screenText.h"
+
+namespace vell {
+
+AlertPanel::AlertPanel(wxWindow* parent) : wxPanel(parent) {
+    auto* heading = new wxStaticText(this, wxID_ANY, "A&lert");
+    heading->SetFont(heading->GetFont().Bold());
+    text_ = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(120, 60)),
+                           wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP);
+    setAccessibleName(*text_, "Alert");
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(heading, wxSizerFlags().Border(wxBOTTOM, FromDIP(3)));
+    sizer->Add(text_, wxSizerFlags(1).Expand());
+    SetSizer(sizer);
+    Hide();
+}
+
+void AlertPanel::show(std::string_view text) {
+    const wxString shown = shownText(Trim(text));
+    if (shown != text_->GetValue()) text_->ChangeValue(shown);
+    if (IsShown() == !shown.empty()) return;
+    Show(!shown.empty());
+    GetParent()->Layout();
+}
+
+}  // namespace vell

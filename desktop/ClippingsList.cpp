@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/ClippingsList.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/dataview.h>
+#include <wx/sizer.h>
+
+#include "desktop/ClippingsModel.h"
+#include "desktop/screenText.h"
+#include "desktop/twips.h"
+
+namespace vell {
+
+namespace {
+
+constexpr int narrowestTitle = 150;  // DIP
+
+}  // namespace
+
+ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events)
+    : wxPanel(parent),
+      events_(std::move(events)),
+      model_(new ClippingsModel),
+      list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES,
+                               wxDefaultValidator, "Clippings")),
+      typeAhead_(clock) {
+    list_->AssociateModel(model_);
+    addColumns();
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(list_, wxSizerFlags(1).Expand());
+    SetSizer(sizer);
+
+    list_->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent& event) {
+        if (event.GetItem().IsOk()) events_.DoubleClicked(model_->order().rowAt(model_->GetRow(event.GetItem())));
+    });
+    list_->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU, [this](wxDataViewEvent& /*event*/) { events_.MenuWanted(); });
+    list_->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, [this](wxDataViewEvent& event) {
+        if (event.GetDataViewColumn()) sortBy(static_cast<GridColumn>(event.GetDataViewColumn()->GetModelColumn()));
+    });
+    list_->Bind(wxEVT_KEY_DOWN, &ClippingsList::onKey, this);
+    list_->Bind(wxEVT_CHAR, &ClippingsList::onCharacter, this);
+    list_->Bind(wxEVT_SIZE, &ClippingsList::onSize, this);
+}
+
+ClippingsList::~ClippingsList() {
+    model_->DecRef();
+}
+
+void ClippingsList::addColumns() {
+    for (const GridColumnLayout& layout : gridColumns) {
+        if (layout.Width == 0) continue;
+        const auto index = static_cast<unsigned int>(layout.Column);
+        const int width = pixelsFromTwips(*this, layout.Width);
+        if (layout.Column == GridColumn::Marks) {
+            auto* marks = new wxDataViewIconTextRenderer;
+            marks->DisableEllipsize();
+            list_->AppendColumn(new wxDataViewColumn("", marks, index, width, wxALIGN_LEFT, 0));
+            continue;
+        }
+        auto* text = new wxDataViewTextRenderer;
+        text->EnableEllipsize(wxELLIPSIZE_END);
+        list_->AppendColumn(
+            new wxDataViewColumn(shownLine(layout.Header), text, index, width, wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE));
+    }
+}
+
+void ClippingsList::show(const std::vector<ClippingRow>& rows) {
+    const auto current = currentRow();
+    const std::string path = current ? model_->at(*current).path() : std::string();
+    if (!model_->setRows(rows)) restoreSelection(path);
+    list_->Refresh();  // marks may have changed where the rows have not
+}
+
+void ClippingsList::restoreSelection(const std::string& path) {
+    if (model_->size() > 0) selectRow(model_->rowOf(path).value_or(model_->order().rowAt(0)));
+}
+
+void ClippingsList::showMarks(std::size_t row, const ClippingRow& marked) {
+    model_->setMarks(row, marked);
+}
+
+std::optional<std::size_t> ClippingsList::currentRow() const {
+    const wxDataViewItem item = list_->GetSelection();
+    if (item.IsOk()) return model_->order().rowAt(model_->GetRow(item));
+    if (model_->size() == 0) return std::nullopt;
+    return model_->order().rowAt(0);
+}
+
+void ClippingsList::selectRow(std::size_t row) {
+    const wxDataViewItem item = model_->GetItem(static_cast<unsigned int>(model_->order().placeOf(row)));
+    list_->SetCurrentItem(item);
+    list_->Select(item);
+    list_->EnsureVisible(item);
+}
+
+void ClippingsList::sortBy(GridColumn column) {
+    const auto current = currentRow();
+    model_->sortBy(column);
+    showSortArrow();
+    if (current) selectRow(*current);
+}
+
+void ClippingsList::showSortArrow() {
+    const auto sorted = model_->order().column();
+    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i) {
+        wxDataViewColumn* column = list_->GetColumn(i);
+        if (sorted == static_cast<GridColumn>(column->GetModelColumn()))
+            column->SetSortOrder(model_->order().isAscending());
+        else if (column->IsSortKey())
+            column->UnsetAsSortKey();
+    }
+}
+
+void ClippingsList::focusList() {
+    list_->SetFocus();
+}
+
+void ClippingsList::setColumnWidths(const std::vector<int>& twips) {
+    const std::size_t count = std::min<std::size_t>(twips.size(), list_->GetColumnCount());
+    for (std::size_t i = 0; i < count; ++i)
+        if (twips[i] > 0) list_->GetColumn(static_cast<unsigned int>(i))->SetWidth(pixelsFromTwips(*this, twips[i]));
+}
+
+std::vector<int> ClippingsList::columnWidths() const {
+    std::vector<int> twips;
+    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i)
+        twips.push_back(twipsFromPixels(*this, list_->GetColumn(i)->GetWidth()));
+    return twips;
+}
+
+wxDataViewColumn* ClippingsList::columnOf(GridColumn column) const {
+    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i)
+        if (static_cast<GridColumn>(list_->GetColumn(i)->GetModelColumn()) == column) return list_->GetColumn(i);
+    return nullptr;
+}
+
+// The titles get what the window gains in width, and give back what it loses.
+void ClippingsList::onSize(wxSizeEvent& event) {
+    event.Skip();
+    const int width = list_->GetClientSize().GetWidth();
+    wxDataViewColumn* title = columnOf(GridColumn::Title);
+    if (lastWidth_ > 0 && width != lastWidth_)
+        title->SetWidth(std::max(title->GetWidth() + width - lastWidth_, FromDIP(narrowestTitle)));
+    lastWidth_ = width;
+}
+
+void ClippingsList::onKey(wxKeyEvent& event) {
+    const auto row = currentRow();
+    const bool isEnter = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
+    if (isEnter && !event.HasAnyModifiers() && row)
+        events_.Entered(*row);
+    else
+        event.Skip();
+}
+
+void ClippingsList::onCharacter(wxKeyEvent& event) {
+    const wxChar letter = event.GetUnicodeKey();
+    const std::string typed = letter < WXK_SPACE || event.HasModifiers() ? std::string() : typedText(wxString(letter));
+    if (typed.empty()) {
+        event.Skip();
+        return;
+    }
+    const auto current = currentRow();
+    const GridColumn column = model_->order().column().value_or(GridColumn::Title);
+    const GridColumn searched = column == GridColumn::Marks ? GridColumn::Title : column;
+    const auto place = typeAhead_.type(typed.front(), model_->size(),
+                                       current ? std::optional(model_->order().placeOf(*current)) : std::nullopt,
+                                       [&](std::size_t at) { return model_->textAt(at, searched); });
+    if (place) selectRow(model_->order().rowAt(*place));
+}
+
+}  // namespace vell

@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <wx/panel.h>
+
+#include "ui/BrowserView.h"
+#include "ui/GridColumns.h"
+#include "ui/TypeAhead.h"
+
+class wxDataViewColumn;
+class wxDataViewCtrl;
+class wxDataViewEvent;
+class wxKeyEvent;
+class wxSizeEvent;
+
+namespace vell {
+
+class ClippingsModel;
+
+// The list of the chosen day's clippings. Rows are meant by their number in the browser's list throughout, whatever
+// the list is sorted by.
+class ClippingsList : public wxPanel {
+  public:
+    struct Events {
+        std::function<void(std::size_t row)> DoubleClicked;
+        std::function<void(std::size_t row)> Entered;
+        std::function<void()> MenuWanted;
+    };
+    ClippingsList(wxWindow* parent, const Clock& clock, Events events);
+    ~ClippingsList() override;
+
+    void show(const std::vector<ClippingRow>& rows);
+    void showMarks(std::size_t row, const ClippingRow& marked);
+    // The user's own widths, in twips; those that are 0 stay.
+    void setColumnWidths(const std::vector<int>& twips);
+    [[nodiscard]] std::vector<int> columnWidths() const;
+
+    // The row that commands for one clipping mean; nothing when the list is empty.
+    [[nodiscard]] std::optional<std::size_t> currentRow() const;
+    void selectRow(std::size_t row);
+    void sortBy(GridColumn column);
+    void focusList();
+
+  private:
+    void addColumns();
+    void onKey(wxKeyEvent& event);
+    void onCharacter(wxKeyEvent& event);
+    void onSize(wxSizeEvent& event);
+    void restoreSelection(const std::string& path);
+    void showSortArrow();
+    [[nodiscard]] wxDataViewColumn* columnOf(GridColumn column) const;
+
+    Events events_;
+    ClippingsModel* model_;  // the control and this list share it
+    wxDataViewCtrl* list_;
+    TypeAhead typeAhead_;
+    int lastWidth_ = 0;
+};
+
+}  // namespace vell

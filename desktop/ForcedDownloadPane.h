@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+#include <wx/panel.h>
+
+#include "base/Date.h"
+
+class wxBoxSizer;
+class wxButton;
+class wxDatePickerCtrl;
+class wxDateEvent;
+class wxRadioButton;
+
+namespace vell {
+
+// The frame in which the user starts a download, of today or of a range of days, and stops it. Its edge shows how it
+// stands: red while a download runs, green after it.
+class ForcedDownloadPane : public wxPanel {
+  public:
+    struct Events {
+        std::function<void(bool onlyToday)> RangeChosen;
+        std::function<void(const Date& from)> FromChanged;
+        std::function<void(const Date& to)> ToChanged;
+    };
+    ForcedDownloadPane(wxWindow* parent, Events events);
+
+    void showRunning(bool running);
+    [[nodiscard]] bool isRunning() const { return running_; }
+    void showRange(const Date& from, const Date& to);
+
+  private:
+    void layOut(wxPanel& inner);
+    void choose(bool onlyToday);
+    void report(wxDatePickerCtrl& picker, const std::function<void(const Date&)>& changed);
+
+    Events events_;
+    wxRadioButton* today_ = nullptr;
+    wxRadioButton* otherFrom_ = nullptr;
+    wxDatePickerCtrl* dtFromDate_ = nullptr;
+    wxDatePickerCtrl* dtToDate_ = nullptr;
+    wxButton* cmdStartDownload_ = nullptr;
+    wxButton* cmdStopDownload_ = nullptr;
+    bool running_ = false;
+};
+
+}  // namespace vell

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+
+class wxFrame;
+class wxMenu;
+
+namespace vell {
+
+// The menu bar and the toolbar, from one table of commands. Every command stands in the menu, with its keys.
+void addMenuBar(wxFrame& frame);
+void addToolBar(wxFrame& frame);
+// What can be done with one clipping.
+void addClippingItems(wxMenu& menu);
+
+void forEachCommand(const std::function<void(int id)>& action);
+
+}  // namespace vell

@@ -1,0 +1,167 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/MainWindow.h"
+
+#include <utility>
+
+#include <wx/infobar.h>
+#include <wx/menu.h>
+#include <wx/panel.h>
+#include <wx/sizer.h>
+
+#include "desktop/Advertisement.h"
+#include "desktop/AlertPanel.h"
+#include "desktop/ClippingsList.h"
+#include "desktop/DatePane.h"
+#include "desktop/ForcedDownloadPane.h"
+#include "desktop/MainMenu.h"
+#include "desktop/ProgressPane.h"
+#include "desktop/StatusLine.h"
+#include "desktop/WindowEvents.h"
+#include "desktop/pictures.h"
+#include "desktop/screenText.h"
+
+namespace vell {
+
+namespace {
+const wxSize smallest(640, 440);  // DIP
+constexpr int sideBarWidth = 250;
+}  // namespace
+
+MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr, wxID_ANY, "Vell") {
+    SetIcons(programIcons());
+    addMenuBar(*this);
+    addToolBar(*this);
+    StatusBar1_ = new StatusLine(this);
+    SetStatusBar(StatusBar1_);
+    SetStatusBarPane(-1);  // the words for menu entries must not overwrite the status of a run
+    addParts(clock, files);
+    SetMinSize(FromDIP(smallest));
+    bindCommands();
+}
+
+void MainWindow::addParts(const Clock& clock, const Files& files) {
+    auto* all = new wxPanel(this);
+    message_ = new wxInfoBar(all);
+    auto* columns = new wxBoxSizer(wxHORIZONTAL);
+    columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
+    list_ = new ClippingsList(all, clock,
+                              {[this](std::size_t row) { tell([=](auto& events) { events.rowDoubleClicked(row); }); },
+                               [this](std::size_t row) { tell([=](auto& events) { events.rowEntered(row); }); },
+                               [this] { showContextMenu(); }});
+    list_->MoveAfterInTabOrder(dates_);
+    columns->Add(list_, wxSizerFlags(1).Expand().Border(wxTOP | wxRIGHT | wxBOTTOM));
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(message_, wxSizerFlags().Expand());
+    sizer->Add(columns, wxSizerFlags(1).Expand());
+    all->SetSizer(sizer);
+}
+
+wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
+    dates_ = new DatePane(&parent, [this](const std::string& day) { tell([&](auto& e) { e.dayChosen(day); }); });
+    download_ = new ForcedDownloadPane(
+        &parent, {[this](bool onlyToday) { tell([&](auto& events) { events.rangeChosen(onlyToday); }); },
+                  [this](const Date& from) { tell([&](auto& events) { events.fromDateChanged(from); }); },
+                  [this](const Date& to) { tell([&](auto& events) { events.toDateChanged(to); }); }});
+    progress_ = new ProgressPane(&parent);
+    alert_ = new AlertPanel(&parent);
+    advertisement_ = new Advertisement(&parent, files);
+
+    auto* bar = new wxBoxSizer(wxVERTICAL);
+    bar->SetMinSize(FromDIP(wxSize(sideBarWidth, -1)));
+    bar->Add(dates_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
+    bar->Add(download_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
+    bar->Add(progress_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
+    bar->Add(alert_, wxSizerFlags(1).Expand().Border(wxBOTTOM));
+    bar->Add(advertisement_, wxSizerFlags().Expand());
+    return bar;
+}
+
+void MainWindow::bindCommands() {
+    forEachCommand([this](int id) {
+        Bind(
+            wxEVT_MENU, [this, id](wxCommandEvent& /*event*/) { tell([=](auto& e) { e.commandChosen(id); }); }, id);
+        Bind(
+            wxEVT_BUTTON, [this, id](wxCommandEvent& /*event*/) { tell([=](auto& e) { e.commandChosen(id); }); }, id);
+        Bind(
+            wxEVT_UPDATE_UI, [this, id](wxUpdateUIEvent& event) { event.Enable(events_ && events_->isEnabled(id)); },
+            id);
+    });
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
+        tell([](auto& events) { events.closing(); });
+        event.Skip();
+    });
+}
+
+template <class Action>
+void MainWindow::tell(Action&& action) {
+    if (events_) action(*events_);
+}
+
+void MainWindow::showContextMenu() {
+    wxMenu menu;
+    addClippingItems(menu);
+    PopupMenu(&menu);
+}
+
+void MainWindow::showDays(const std::vector<std::string>& dayNames, const std::string& chosen) {
+    dates_->show(dayNames, chosen);
+}
+
+void MainWindow::showClippings(const std::vector<ClippingRow>& rows) {
+    rows_ = &rows;
+    list_->show(rows);
+}
+
+void MainWindow::showMarks(std::size_t row) {
+    list_->showMarks(row, rows_->at(row));
+}
+
+void MainWindow::showCount(std::string_view text) {
+    StatusBar1_->showCount(text);
+}
+
+void MainWindow::showAlert(std::string_view text) {
+    alert_->show(text);
+}
+
+void MainWindow::showAdvertisement(const std::string& path) {
+    advertisement_->show(path);
+}
+
+void MainWindow::showBusy(bool busy) {
+    // A run refreshes the list several times a second: the pointer would flicker.
+    if (busy && !download_->isRunning())
+        busy_.emplace();
+    else
+        busy_.reset();
+}
+
+void MainWindow::showStatus(std::string_view text) {
+    StatusBar1_->showStatus(text);
+}
+
+void MainWindow::showProgress(int currentFile, int wholeRun) {
+    progress_->show(currentFile, wholeRun);
+}
+
+void MainWindow::showForcedRun(bool running) {
+    download_->showRunning(running);
+}
+
+void MainWindow::showDateRange(const Date& from, const Date& to) {
+    download_->showRange(from, to);
+}
+
+void MainWindow::displayInfoMessageBox(std::string_view text) {
+    message_->ShowMessage(shownText(text), wxICON_INFORMATION);
+}
+
+void MainWindow::openSetup() {
+    if (openSetup_) openSetup_();
+}
+
+bool MainWindow::followsRun() const {
+    return download_->isRunning();  // whoever starts a download wants to see it come
+}
+
+}  // namespace vell

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <wx/frame.h>
+#include <wx/utils.h>
+
+#include "app/MainView.h"
+
+class wxBoxSizer;
+class wxInfoBar;
+
+namespace vell {
+
+class AlertPanel;
+class Advertisement;
+class ClippingsList;
+class Clock;
+class DatePane;
+class Files;
+class ForcedDownloadPane;
+class ProgressPane;
+class StatusLine;
+class WindowEvents;
+
+// The main window: shows what it is told and passes on what the user does.
+class MainWindow : public wxFrame, public MainView {
+  public:
+    MainWindow(const Clock& clock, const Files& files);
+
+    // Whoever gets the user's doings; before that the window is deaf. What opening the setup dialog means.
+    void listenTo(WindowEvents& events) { events_ = &events; }
+    void onOpenSetup(std::function<void()> open) { openSetup_ = std::move(open); }
+
+    [[nodiscard]] ClippingsList& list() { return *list_; }
+
+    void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) override;
+    void showClippings(const std::vector<ClippingRow>& rows) override;
+    void showMarks(std::size_t row) override;
+    void showCount(std::string_view text) override;
+    void showAlert(std::string_view text) override;
+    void showAdvertisement(const std::string& path) override;
+    void showBusy(bool busy) override;
+    void showStatus(std::string_view text) override;
+    void showProgress(int currentFile, int wholeRun) override;
+    void showForcedRun(bool running) override;
+    void showDateRange(const Date& from, const Date& to) override;
+    void displayInfoMessageBox(std::string_view text) override;
+    void openSetup() override;
+    [[nodiscard]] bool followsRun() const override;
+
+  private:
+    void addParts(const Clock& clock, const Files& files);
+    [[nodiscard]] wxBoxSizer* sideBar(wxWindow& parent, const Files& files);
+    void bindCommands();
+    void showContextMenu();
+    template <class Action>
+    void tell(Action&& action);
+
+    WindowEvents* events_ = nullptr;
+    std::function<void()> openSetup_;
+    const std::vector<ClippingRow>* rows_ = nullptr;
+    std::optional<wxBusyCursor> busy_;
+
+    wxInfoBar* message_ = nullptr;
+    DatePane* dates_ = nullptr;
+    ClippingsList* list_ = nullptr;
+    ForcedDownloadPane* download_ = nullptr;
+    ProgressPane* progress_ = nullptr;
+    AlertPanel* alert_ = nullptr;
+    Advertisement* advertisement_ = nullptr;
+    StatusLine* StatusBar1_ = nullptr;
+};
+
+}  // namespace vell

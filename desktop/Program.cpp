@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/Program.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <utility>
+
+#include <wx/image.h>
+#include <wx/log.h>
+#include <wx/uilocale.h>
+
+#include "app/frmMain.h"
+#include "desktop/MainWindow.h"
+#include "desktop/WindowCommands.h"
+#include "desktop/WindowLoop.h"
+#include "desktop/WxMessageBoxes.h"
+#include "platform/asio/AsioEventLoop.h"
+#include "platform/posix/CurlInternet.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixIniFile.h"
+#include "platform/posix/PosixProcess.h"
+#include "platform/posix/PosixShell.h"
+#include "platform/posix/SystemClock.h"
+
+namespace vell {
+
+namespace {
+constexpr int failed = 1;
+constexpr int alreadyRunning = 5;  // as in the console
+}  // namespace
+
+struct Program::Parts {
+    explicit Parts(const std::optional<std::string>& folder)
+        : Place(ProgramPlace::ofThisProcess(folder)),
+          Window(*new MainWindow(Time, Disk)),  // the toolkit deletes its windows
+          Main({Time, Loop, Disk, Ini, Internet, Boxes, Place, Opener}, Window, VELL_VERSION),
+          Events(Main, Window, [] { std::quick_exit(0); }) {}
+
+    SystemClock Time;
+    AsioEventLoop Loop{Time};
+    PosixFiles Disk;
+    PosixIniFile Ini{Disk};
+    CurlInternet Internet{Loop, Time};
+    PosixProcess Place;
+    PosixShell Opener;
+    WxMessageBoxes Boxes;
+    MainWindow& Window;
+    frmMain Main;
+    WindowCommands Events;
+    WindowLoop Marriage{Loop};
+};
+
+Program::Program(std::optional<std::string> folder) : folder_(std::move(folder)) {}
+
+Program::~Program() = default;
+
+bool Program::OnInit() {
+    SetAppName("vell");
+    SetAppDisplayName("Vell");
+    wxUILocale::UseDefault();
+    delete wxLog::SetActiveTarget(new wxLogStderr);  // what the toolkit has to say is no matter for message boxes
+    wxInitAllImageHandlers();
+    if (!start()) return true;
+    for (const int signal : {SIGINT, SIGTERM})
+        SetSignalHandler(signal, [](int) { wxTheApp->GetTopWindow()->Close(); });
+    return true;
+}
+
+bool Program::start() {
+    try {
+        parts_ = std::make_unique<Parts>(folder_);
+        if (parts_->Main.Form_Load(frmMain::Start::Alone)) {
+            parts_->Window.Show();
+            return true;
+        }
+        exitCode_ = alreadyRunning;
+    } catch (const std::exception& error) {
+        wxLogError("%s", error.what());
+        exitCode_ = failed;
+    }
+    return false;
+}
+
+int Program::OnRun() {
+    return exitCode_ == 0 ? wxApp::OnRun() : exitCode_;
+}
+
+int Program::OnExit() {
+    parts_.reset();
+    return wxApp::OnExit();
+}
+
+}  // namespace vell

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include <wx/app.h>
+
+namespace vell {
+
+// The toolkit's side of the program: brings everything up, and hands the thread to the window.
+class Program : public wxApp {
+  public:
+    // `folder` is the program folder that was named on the command line.
+    explicit Program(std::optional<std::string> folder);
+    ~Program() override;
+
+    bool OnInit() override;
+    int OnRun() override;
+    int OnExit() override;
+
+  private:
+    // Everything that lives as long as the session.
+    struct Parts;
+    [[nodiscard]] bool start();
+
+    std::optional<std::string> folder_;
+    std::unique_ptr<Parts> parts_;
+    int exitCode_ = 0;
+};
+
+}  // namespace vell

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include "desktop/WindowEvents.h"
+
+namespace vell {
+
+class MainWindow;
+class frmMain;
+
+// Leads what the user does in the window to the program.
+class WindowCommands : public WindowEvents {
+  public:
+    // `end` ends the process.
+    WindowCommands(frmMain& program, MainWindow& window, std::function<void()> end);
+
+    void commandChosen(int id) override;
+    [[nodiscard]] bool isEnabled(int id) const override;
+    void dayChosen(const std::string& dayName) override;
+    void rowDoubleClicked(std::size_t row) override;
+    void rowEntered(std::size_t row) override;
+    void rangeChosen(bool onlyToday) override;
+    void fromDateChanged(const Date& from) override;
+    void toDateChanged(const Date& to) override;
+    void closing() override;
+
+  private:
+    struct Entry {
+        std::function<void()> Run;
+        std::function<bool()> CanRun;
+    };
+    void fillTable();
+    void download();
+
+    frmMain& program_;
+    MainWindow& window_;
+    std::function<void()> end_;
+    std::map<int, Entry> table_;
+    bool downloading_ = false;  // from the user's start to its end; between two days no run is under way
+};
+
+}  // namespace vell

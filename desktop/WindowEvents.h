@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+#include "base/Date.h"
+
+namespace vell {
+
+// What the user does with the main window. Rows are counted from 0 in the list as the browser holds it.
+class WindowEvents {
+  public:
+    virtual ~WindowEvents() = default;
+
+    // Of the menu, the toolbar and the buttons.
+    virtual void commandChosen(int id) = 0;
+    [[nodiscard]] virtual bool isEnabled(int id) const = 0;
+
+    virtual void dayChosen(const std::string& dayName) = 0;
+    virtual void rowDoubleClicked(std::size_t row) = 0;
+    virtual void rowEntered(std::size_t row) = 0;
+
+    virtual void rangeChosen(bool onlyToday) = 0;
+    virtual void fromDateChanged(const Date& from) = 0;
+    virtual void toDateChanged(const Date& to) = 0;
+
+    // The window is about to go.
+    virtual void closing() = 0;
+};
+
+}  // namespace vell

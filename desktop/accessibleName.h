@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+class wxString;
+class wxWindow;
+
+namespace vell {
+
+// What a screen reader calls a control that has no label of its own or none that the system connects with it.
+void setAccessibleName(wxWindow& window, const wxString& name);
+
+}  // namespace vell

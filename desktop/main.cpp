@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include <optional>
+#include <string>
+
+#include <CLI/CLI.hpp>
+#include <wx/init.h>
+
+#include "desktop/Program.h"
+
+int main(int argc, char** argv) {
+    CLI::App line("The desktop client of a press-clipping service.", "vell");
+    std::string folder;
+    line.add_option("--folder", folder, "The folder for settings and log; the usual one without it")->type_name("DIR");
+    line.set_version_flag("--version", "vell " VELL_VERSION);
+    try {
+        line.parse(argc, argv);
+    } catch (const CLI::ParseError& error) {
+        constexpr int usage = 2;
+        return line.exit(error) == 0 ? 0 : usage;
+    }
+    wxApp::SetInstance(new vell::Program(folder.empty() ? std::nullopt : std::optional(folder)));  // the toolkit's now
+    int nameOnly = 1;
+    return wxEntry(nameOnly, argv);
+}
