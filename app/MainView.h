@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string_view>
 
+#include "app/WindowPlace.h"
 #include "base/Date.h"
 #include "ui/BrowserView.h"
 
@@ -24,6 +26,11 @@ class MainView : public BrowserView {
     virtual void openSetup() = 0;
     // A front-end that shows no other day than the one it downloads.
     [[nodiscard]] virtual bool followsRun() const = 0;
+
+    // Of a front-end that has a window.
+    virtual void placeWindow(const WindowPlace& /*place*/) {}
+    // Nothing when the window has no place worth keeping: it is minimised, or fills the screen.
+    [[nodiscard]] virtual std::optional<WindowPlace> windowPlace() const { return std::nullopt; }
 };
 
 }  // namespace vell

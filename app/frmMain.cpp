@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "app/MainView.h"
+#include "app/UpdateInstallation.h"
+#include "app/WindowPlace.h"
 #include "base/text.h"
 #include "config/Schedule.h"
 #include "platform/Clock.h"
@@ -58,18 +60,43 @@ std::string frmMain::programFolder(const Process& process) {
 }
 
 bool frmMain::Form_Load(Start start) {
+    showToday();
+    onlyLooks_ = start == Start::Beside;
+    if (!onlyLooks_ && isRefused()) return false;
+    findProgramFolder();
+    session_.Setup.UseHTTP = true;
+    if (start == Start::Window) {
+        mUpdatePending_ = takePendingUpdate(ini_, platform_.Boxes);
+        if (mUpdatePending_) return false;
+        tellFinishedUpdate(ini_, platform_.Boxes, session_.gVersion);
+        view_.placeWindow(loadWindowPlace(ini_));
+    }
+    loader_.setAppVersion(session_.gVersion);
+    loader_.GetSetup();
+    if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
+    GetSchedule(session_.Setup, ini_, log_);
+    browser_.PopulateDateCombo();
+    if (start == Start::Window) showFirstDay();
+    return true;
+}
+
+void frmMain::showToday() {
     const Date today = platform_.Time.Now().Day;
     session_.Day.gCurrentDate = today.folderName();
     session_.dtFromDate = today;
     session_.dtToDate = today;
     session_.DownloadToday = true;
     view_.showDateRange(today, today);
-    onlyLooks_ = start == Start::Beside;
-    if (!onlyLooks_ && platform_.Program.IsPreviousInstance()) {
-        mIsSecondInstance_ = true;
+}
+
+bool frmMain::isRefused() {
+    mIsSecondInstance_ = platform_.Program.IsPreviousInstance();
+    if (mIsSecondInstance_)
         platform_.Boxes.Show("Program is already running", programCaption, Buttons::Ok, BoxIcon::None);
-        return false;
-    }
+    return mIsSecondInstance_;
+}
+
+void frmMain::findProgramFolder() {
     session_.gAppPath = programFolder(platform_.Program);
     ini_.setAppDir(session_.gAppPath);
     if (!platform_.Disk.PathExists(ini_.settingsFile()))
@@ -77,18 +104,17 @@ bool frmMain::Form_Load(Start start) {
             "Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE parameters must be set "
             "again.",
             programCaption, Buttons::Ok, BoxIcon::None);
-    session_.Setup.UseHTTP = true;
-    loader_.setAppVersion(session_.gVersion);
-    loader_.GetSetup();
-    if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
-    GetSchedule(session_.Setup, ini_, log_);
-    browser_.PopulateDateCombo();
-    return true;
+}
+
+void frmMain::showFirstDay() {
+    days_.chooseFirst(platform_.Time.Now().Day.dayName());
+    view_.showAdvertisement(session_.gAppPath + advertisementFile);
 }
 
 void frmMain::Form_Unload() {
-    if (mIsSecondInstance_) return;
+    if (mIsSecondInstance_ || mUpdatePending_) return;
     platform_.Loop.KillTimer(tmrSchedule_);
+    if (const auto place = view_.windowPlace()) saveWindowPlace(ini_, *place);
     if (!onlyLooks_) closeConnections();
     log_.Stop();
 }

@@ -40,12 +40,16 @@ class frmMain {
     frmMain(const Platform& platform, MainView& view, std::string version);
 
     enum class Start {
+        Window,  // of the main window: alone, with the day shown, and the place for updates
         Alone,   // refused when another instance works in the same program folder
         Beside,  // for commands that only look
     };
-    // Brings the session up. False when it was refused; nothing but Form_Unload may then be called.
+    // Brings the session up. False when it was refused, or when this start is for installing an update; nothing but
+    // Form_Unload may then be called.
     [[nodiscard]] bool Form_Load(Start start);
+    // Ends the session. A front-end ends the process right after it, whatever is still under way.
     void Form_Unload();
+    [[nodiscard]] bool isSecondInstance() const { return mIsSecondInstance_; }
 
     // The user's download and its end. The outcome tells how it went.
     void chooseToday();
@@ -78,6 +82,10 @@ class frmMain {
     [[nodiscard]] bool areSettingsWhole() const { return loader_.isWhole(); }
 
   private:
+    void showToday();
+    [[nodiscard]] bool isRefused();
+    void findProgramFolder();
+    void showFirstDay();
     void closeConnections();
     [[nodiscard]] static std::string programFolder(const Process& process);
 
@@ -104,6 +112,7 @@ class frmMain {
     DownloadRun run_;
     ScheduledRuns scheduled_;
     bool mIsSecondInstance_ = false;
+    bool mUpdatePending_ = false;
     bool onlyLooks_ = false;  // shares the program folder with one that works
     EventLoop::TimerId tmrSchedule_ = 0;
 };

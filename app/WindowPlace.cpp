@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: MIT
+#include "app/WindowPlace.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "base/text.h"
+#include "config/modIni.h"
+#include "ui/GridColumns.h"
+
+namespace vell {
+
+namespace {
+
+constexpr int designWidth = 14400;
+constexpr int designHeight = 9600;
+constexpr int leastCorner = -50;  // a window that touches the edge may stand a little beyond it
+
+struct PlaceKey {
+    const char* Section;
+    const char* Key;
+    int WindowPlace::*Value;
+    int WhenEmpty;
+    int Least;
+    int WhenLess;
+};
+
+constexpr int widthOf(GridColumn column) {
+    return gridColumns[static_cast<std::size_t>(column)].Width;
+}
+
+constexpr std::array<PlaceKey, 6> placeKeys{{
+    {"Position", "posTop", &WindowPlace::Top, 1000, leastCorner, 0},
+    {"Position", "posLeft", &WindowPlace::Left, 1500, leastCorner, 0},
+    {"Position", "posWidth", &WindowPlace::Width, designWidth, 0, designWidth},
+    {"Position", "posHeight", &WindowPlace::Height, designHeight, 0, designHeight},
+    {"Columns", "Newspaper", &WindowPlace::NewspaperWidth, widthOf(GridColumn::Newspaper), 1,
+     widthOf(GridColumn::Newspaper)},
+    {"Columns", "Type", &WindowPlace::TypeWidth, widthOf(GridColumn::Type), 1, widthOf(GridColumn::Type)},
+}};
+
+int numberOf(const std::string& text) {
+    constexpr double most = 1'000'000;  // wider than any row of displays
+    return CInt32(std::clamp(Val(text), -most, most));
+}
+
+}  // namespace
+
+WindowPlace loadWindowPlace(const modIni& ini) {
+    WindowPlace place;
+    for (const PlaceKey& key : placeKeys) {
+        std::string text;
+        ini.VellIniReadString(key.Section, key.Key, text);
+        const int value = text.empty() ? key.WhenEmpty : numberOf(text);
+        place.*key.Value = value < key.Least ? key.WhenLess : value;
+    }
+    return place;
+}
+
+void saveWindowPlace(modIni& ini, const WindowPlace& place) {
+    for (const PlaceKey& key : placeKeys)
+        if (place.*key.Value >= key.Least)
+            ini.VellIniWriteString(key.Section, key.Key, std::to_string(place.*key.Value));
+}
+
+}  // namespace vell
