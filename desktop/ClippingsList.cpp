@@ -2,12 +2,15 @@
 #include "desktop/ClippingsList.h"
 
 #include <algorithm>
+#include <stdexcept>
 #include <utility>
 
 #include <wx/dataview.h>
 #include <wx/sizer.h>
 
 #include "desktop/ClippingsModel.h"
+#include "desktop/columnTricks.h"
+#include "desktop/pictures.h"
 #include "desktop/screenText.h"
 #include "desktop/twips.h"
 
@@ -41,7 +44,6 @@ ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events
     });
     list_->Bind(wxEVT_KEY_DOWN, &ClippingsList::onKey, this);
     list_->Bind(wxEVT_CHAR, &ClippingsList::onCharacter, this);
-    list_->Bind(wxEVT_SIZE, &ClippingsList::onSize, this);
 }
 
 ClippingsList::~ClippingsList() {
@@ -64,12 +66,16 @@ void ClippingsList::addColumns() {
         list_->AppendColumn(
             new wxDataViewColumn(shownLine(layout.Header), text, index, width, wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE));
     }
+    wxDataViewColumn& title = columnOf(GridColumn::Title);
+    title.SetMinWidth(FromDIP(narrowestTitle));
+    stretchColumn(title);
+    showPictureOnly(columnOf(GridColumn::Marks), rowPictureSize);
 }
 
 void ClippingsList::show(const std::vector<ClippingRow>& rows) {
     const auto current = currentRow();
     const std::string path = current ? model_->at(*current).path() : std::string();
-    if (!model_->setRows(rows)) restoreSelection(path);
+    if (!model_->setRows(rows) || !list_->GetSelection().IsOk()) restoreSelection(path);
     list_->Refresh();  // marks may have changed where the rows have not
 }
 
@@ -117,33 +123,18 @@ void ClippingsList::focusList() {
     list_->SetFocus();
 }
 
-void ClippingsList::setColumnWidths(const std::vector<int>& twips) {
-    const std::size_t count = std::min<std::size_t>(twips.size(), list_->GetColumnCount());
-    for (std::size_t i = 0; i < count; ++i)
-        if (twips[i] > 0) list_->GetColumn(static_cast<unsigned int>(i))->SetWidth(pixelsFromTwips(*this, twips[i]));
+void ClippingsList::setColumnWidth(GridColumn column, int width) {
+    columnOf(column).SetWidth(width);
 }
 
-std::vector<int> ClippingsList::columnWidths() const {
-    std::vector<int> twips;
+int ClippingsList::columnWidth(GridColumn column) const {
+    return columnOf(column).GetWidth();
+}
+
+wxDataViewColumn& ClippingsList::columnOf(GridColumn column) const {
     for (unsigned int i = 0; i < list_->GetColumnCount(); ++i)
-        twips.push_back(twipsFromPixels(*this, list_->GetColumn(i)->GetWidth()));
-    return twips;
-}
-
-wxDataViewColumn* ClippingsList::columnOf(GridColumn column) const {
-    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i)
-        if (static_cast<GridColumn>(list_->GetColumn(i)->GetModelColumn()) == column) return list_->GetColumn(i);
-    return nullptr;
-}
-
-// The titles get what the window gains in width, and give back what it loses.
-void ClippingsList::onSize(wxSizeEvent& event) {
-    event.Skip();
-    const int width = list_->GetClientSize().GetWidth();
-    wxDataViewColumn* title = columnOf(GridColumn::Title);
-    if (lastWidth_ > 0 && width != lastWidth_)
-        title->SetWidth(std::max(title->GetWidth() + width - lastWidth_, FromDIP(narrowestTitle)));
-    lastWidth_ = width;
+        if (static_cast<GridColumn>(list_->GetColumn(i)->GetModelColumn()) == column) return *list_->GetColumn(i);
+    throw std::out_of_range("a column that is not shown");
 }
 
 void ClippingsList::onKey(wxKeyEvent& event) {

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -18,7 +17,6 @@ class wxDataViewColumn;
 class wxDataViewCtrl;
 class wxDataViewEvent;
 class wxKeyEvent;
-class wxSizeEvent;
 
 namespace vell {
 
@@ -38,9 +36,9 @@ class ClippingsList : public wxPanel {
 
     void show(const std::vector<ClippingRow>& rows);
     void showMarks(std::size_t row, const ClippingRow& marked);
-    // The user's own widths, in twips; those that are 0 stay.
-    void setColumnWidths(const std::vector<int>& twips);
-    [[nodiscard]] std::vector<int> columnWidths() const;
+    // In pixels.
+    void setColumnWidth(GridColumn column, int width);
+    [[nodiscard]] int columnWidth(GridColumn column) const;
 
     // The row that commands for one clipping mean; nothing when the list is empty.
     [[nodiscard]] std::optional<std::size_t> currentRow() const;
@@ -52,16 +50,14 @@ class ClippingsList : public wxPanel {
     void addColumns();
     void onKey(wxKeyEvent& event);
     void onCharacter(wxKeyEvent& event);
-    void onSize(wxSizeEvent& event);
     void restoreSelection(const std::string& path);
     void showSortArrow();
-    [[nodiscard]] wxDataViewColumn* columnOf(GridColumn column) const;
+    [[nodiscard]] wxDataViewColumn& columnOf(GridColumn column) const;
 
     Events events_;
     ClippingsModel* model_;  // the control and this list share it
     wxDataViewCtrl* list_;
     TypeAhead typeAhead_;
-    int lastWidth_ = 0;
 };
 
 }  // namespace vell

@@ -4,16 +4,13 @@
 #include <utility>
 
 #include <wx/button.h>
-#include <wx/datectrl.h>
-#include <wx/dateevt.h>
 #include <wx/radiobut.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "desktop/accessibleName.h"
+#include "desktop/DayPicker.h"
 #include "desktop/commandIds.h"
-#include "desktop/screenText.h"
 
 namespace vell {
 
@@ -21,13 +18,6 @@ namespace {
 
 constexpr unsigned long red = 255;
 constexpr unsigned long green = 65280;
-
-wxDatePickerCtrl* datePicker(wxWindow* parent, const wxString& name) {
-    auto* picker = new wxDatePickerCtrl(parent, wxID_ANY, wxDefaultDateTime, wxDefaultPosition, wxDefaultSize,
-                                        wxDP_DROPDOWN | wxDP_SHOWCENTURY);
-    setAccessibleName(*picker, name);
-    return picker;
-}
 
 }  // namespace
 
@@ -39,19 +29,22 @@ ForcedDownloadPane::ForcedDownloadPane(wxWindow* parent, Events events) : wxPane
     frame2->Add(inner, wxSizerFlags(1).Expand().Border(wxALL, FromDIP(3)));
     SetSizer(frame2);
 
-    today_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { choose(true); });
-    otherFrom_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { choose(false); });
-    dtFromDate_->Bind(wxEVT_DATE_CHANGED,
-                      [this](wxDateEvent& /*event*/) { report(*dtFromDate_, events_.FromChanged); });
-    dtToDate_->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent& /*event*/) { report(*dtToDate_, events_.ToChanged); });
+    today_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { events_.RangeChosen(true); });
+    otherFrom_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { events_.RangeChosen(false); });
 }
 
 void ForcedDownloadPane::layOut(wxPanel& inner) {
     today_ = new wxRadioButton(&inner, wxID_ANY, "&Today", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
     otherFrom_ = new wxRadioButton(&inner, wxID_ANY, "Other f&rom");
-    dtFromDate_ = datePicker(&inner, "From");
-    auto* to = new wxStaticText(&inner, wxID_ANY, "to");
-    dtToDate_ = datePicker(&inner, "To");
+    dtFromDate_ = new DayPicker(&inner, "From", [this](const Date& from) {
+        chooseRange();
+        events_.FromChanged(from);
+    });
+    auto* toLabel = new wxStaticText(&inner, wxID_ANY, "to");
+    dtToDate_ = new DayPicker(&inner, "To", [this](const Date& to) {
+        chooseRange();
+        events_.ToChanged(to);
+    });
     cmdStartDownload_ = new wxButton(&inner, command::Start, "Start do&wnload");
     cmdStopDownload_ = new wxButton(&inner, command::Stop, "&Stop download");
     cmdStopDownload_->Hide();
@@ -60,7 +53,7 @@ void ForcedDownloadPane::layOut(wxPanel& inner) {
     range->AddGrowableCol(1);
     range->Add(otherFrom_, wxSizerFlags().CentreVertical());
     range->Add(dtFromDate_, wxSizerFlags().Expand());
-    range->Add(to, wxSizerFlags().CentreVertical().Right());
+    range->Add(toLabel, wxSizerFlags().CentreVertical().Right());
     range->Add(dtToDate_, wxSizerFlags().Expand());
 
     auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -73,14 +66,10 @@ void ForcedDownloadPane::layOut(wxPanel& inner) {
     inner.SetSizer(margin);
 }
 
-void ForcedDownloadPane::choose(bool onlyToday) {
-    events_.RangeChosen(onlyToday);
-}
-
-void ForcedDownloadPane::report(wxDatePickerCtrl& picker, const std::function<void(const Date&)>& changed) {
-    otherFrom_->SetValue(true);  // whoever picks a day means it
+// Whoever picks a day means it.
+void ForcedDownloadPane::chooseRange() {
+    otherFrom_->SetValue(true);
     events_.RangeChosen(false);
-    if (picker.GetValue().IsValid()) changed(programDate(picker.GetValue()));
 }
 
 void ForcedDownloadPane::showRunning(bool running) {
@@ -95,8 +84,8 @@ void ForcedDownloadPane::showRunning(bool running) {
 }
 
 void ForcedDownloadPane::showRange(const Date& from, const Date& to) {
-    dtFromDate_->SetValue(pickerDate(from));
-    dtToDate_->SetValue(pickerDate(to));
+    dtFromDate_->show(from);
+    dtToDate_->show(to);
 }
 
 }  // namespace vell

@@ -7,13 +7,12 @@
 
 #include "base/Date.h"
 
-class wxBoxSizer;
 class wxButton;
-class wxDatePickerCtrl;
-class wxDateEvent;
 class wxRadioButton;
 
 namespace vell {
+
+class DayPicker;
 
 // The frame in which the user starts a download, of today or of a range of days, and stops it. Its edge shows how it
 // stands: red while a download runs, green after it.
@@ -32,14 +31,13 @@ class ForcedDownloadPane : public wxPanel {
 
   private:
     void layOut(wxPanel& inner);
-    void choose(bool onlyToday);
-    void report(wxDatePickerCtrl& picker, const std::function<void(const Date&)>& changed);
+    void chooseRange();
 
     Events events_;
     wxRadioButton* today_ = nullptr;
     wxRadioButton* otherFrom_ = nullptr;
-    wxDatePickerCtrl* dtFromDate_ = nullptr;
-    wxDatePickerCtrl* dtToDate_ = nullptr;
+    DayPicker* dtFromDate_ = nullptr;
+    DayPicker* dtToDate_ = nullptr;
     wxButton* cmdStartDownload_ = nullptr;
     wxButton* cmdStopDownload_ = nullptr;
     bool running_ = false;

@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/MainWindow.h"
 
+#include <algorithm>
 #include <utility>
 
+#include <wx/display.h>
 #include <wx/infobar.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
@@ -19,12 +21,21 @@
 #include "desktop/WindowEvents.h"
 #include "desktop/pictures.h"
 #include "desktop/screenText.h"
+#include "desktop/twips.h"
 
 namespace vell {
 
 namespace {
 const wxSize smallest(640, 440);  // DIP
 constexpr int sideBarWidth = 250;
+
+// A window that was left on a display which is gone would never be found again.
+wxRect reachable(wxRect window) {
+    constexpr int seizable = 40;  // enough of the title bar for the mouse
+    const wxPoint title(window.GetLeft() + window.GetWidth() / 2, window.GetTop() + seizable / 2);
+    if (wxDisplay::GetFromPoint(title) == wxNOT_FOUND) window.SetPosition(wxDisplay(0u).GetClientArea().GetPosition());
+    return window;
+}
 }  // namespace
 
 MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr, wxID_ANY, "Vell") {
@@ -162,6 +173,27 @@ void MainWindow::openSetup() {
 
 bool MainWindow::followsRun() const {
     return download_->isRunning();  // whoever starts a download wants to see it come
+}
+
+void MainWindow::placeWindow(const WindowPlace& place) {
+    const auto pixels = [this](int twips) { return pixelsFromTwips(*this, twips); };
+    wxRect window(pixels(place.Left), pixels(place.Top), pixels(place.Width), pixels(place.Height));
+    window.SetSize({std::max(window.GetWidth(), GetMinWidth()), std::max(window.GetHeight(), GetMinHeight())});
+    SetSize(reachable(window));
+    list_->setColumnWidth(GridColumn::Newspaper, pixels(place.NewspaperWidth));
+    list_->setColumnWidth(GridColumn::Type, pixels(place.TypeWidth));
+}
+
+std::optional<WindowPlace> MainWindow::windowPlace() const {
+    if (IsIconized() || IsMaximized() || IsFullScreen()) return std::nullopt;
+    const auto twips = [this](int pixels) { return twipsFromPixels(*this, pixels); };
+    const wxRect window = GetRect();
+    return WindowPlace{twips(window.GetTop()),
+                       twips(window.GetLeft()),
+                       twips(window.GetWidth()),
+                       twips(window.GetHeight()),
+                       twips(list_->columnWidth(GridColumn::Newspaper)),
+                       twips(list_->columnWidth(GridColumn::Type))};
 }
 
 }  // namespace vell

@@ -53,6 +53,8 @@ class MainWindow : public wxFrame, public MainView {
     void displayInfoMessageBox(std::string_view text) override;
     void openSetup() override;
     [[nodiscard]] bool followsRun() const override;
+    void placeWindow(const WindowPlace& place) override;
+    [[nodiscard]] std::optional<WindowPlace> windowPlace() const override;
 
   private:
     void addParts(const Clock& clock, const Files& files);

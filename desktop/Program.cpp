@@ -25,6 +25,7 @@
 namespace vell {
 
 namespace {
+constexpr int good = 0;
 constexpr int failed = 1;
 constexpr int alreadyRunning = 5;  // as in the console
 }  // namespace
@@ -60,7 +61,8 @@ bool Program::OnInit() {
     wxUILocale::UseDefault();
     delete wxLog::SetActiveTarget(new wxLogStderr);  // what the toolkit has to say is no matter for message boxes
     wxInitAllImageHandlers();
-    if (!start()) return true;
+    started_ = start();
+    if (!started_) return true;
     for (const int signal : {SIGINT, SIGTERM})
         SetSignalHandler(signal, [](int) { wxTheApp->GetTopWindow()->Close(); });
     return true;
@@ -69,11 +71,11 @@ bool Program::OnInit() {
 bool Program::start() {
     try {
         parts_ = std::make_unique<Parts>(folder_);
-        if (parts_->Main.Form_Load(frmMain::Start::Alone)) {
+        if (parts_->Main.Form_Load(frmMain::Start::Window)) {
             parts_->Window.Show();
             return true;
         }
-        exitCode_ = alreadyRunning;
+        exitCode_ = parts_->Main.isSecondInstance() ? alreadyRunning : good;
     } catch (const std::exception& error) {
         wxLogError("%s", error.what());
         exitCode_ = failed;
@@ -82,7 +84,7 @@ bool Program::start() {
 }
 
 int Program::OnRun() {
-    return exitCode_ == 0 ? wxApp::OnRun() : exitCode_;
+    return started_ ? wxApp::OnRun() : exitCode_;
 }
 
 int Program::OnExit() {

@@ -27,7 +27,8 @@ class Program : public wxApp {
 
     std::optional<std::string> folder_;
     std::unique_ptr<Parts> parts_;
-    int exitCode_ = 0;
+    bool started_ = false;
+    int exitCode_ = 0;  // when it did not start
 };
 
 }  // namespace vell

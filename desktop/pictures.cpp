@@ -7,7 +7,6 @@ namespace vell {
 
 namespace {
 
-const wxSize rowSize(34, 16);
 const wxSize toolSize(24, 24);
 const wxSize programSize(64, 64);
 
@@ -44,7 +43,7 @@ const char* textOf(Picture picture) {
 }  // namespace
 
 wxBitmapBundle rowPicture(Picture picture) {
-    return wxBitmapBundle::FromSVG(textOf(picture), rowSize);
+    return wxBitmapBundle::FromSVG(textOf(picture), rowPictureSize);
 }
 
 wxBitmapBundle toolPicture(Picture picture) {

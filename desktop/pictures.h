@@ -9,6 +9,7 @@ namespace vell {
 // The pictures that were drawn for this program. They are part of the executable and sharp at every scale.
 enum class Picture { Opened, Printed, Both, Start, Stop, Open, OpenNext, Print, Filter, AutoView, Setup, Schedule };
 
+inline const wxSize rowPictureSize(34, 16);
 // For a row's first cell.
 [[nodiscard]] wxBitmapBundle rowPicture(Picture picture);
 // For the toolbar.

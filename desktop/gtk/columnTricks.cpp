@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/columnTricks.h"
+
+#include <gtk/gtk.h>
+#include <wx/dataview.h>
+
+namespace vell {
+
+void stretchColumn(wxDataViewColumn& column) {
+    gtk_tree_view_column_set_expand(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()), TRUE);
+}
+
+// Rows with a picture and rows without share one measure, which GTK takes from any of them.
+void showPictureOnly(wxDataViewColumn& column, const wxSize& picture) {
+    GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column.GetGtkHandle()));
+    for (GList* cell = cells; cell; cell = cell->next) {
+        const bool isText = GTK_IS_CELL_RENDERER_TEXT(cell->data);
+        gtk_cell_renderer_set_fixed_size(GTK_CELL_RENDERER(cell->data), isText ? 1 : picture.GetWidth(),
+                                         isText ? -1 : picture.GetHeight());
+    }
+    g_list_free(cells);
+}
+
+}  // namespace vell
