@@ -105,6 +105,11 @@ std::optional<SetupField> frmSetup::fieldOf(std::string_view key) {
     return std::nullopt;
 }
 
+std::span<const std::string_view> frmSetup::hosts() {
+    static constexpr std::array<std::string_view, 2> hosts{"clippings.example", "192.0.2.80"};
+    return hosts;
+}
+
 void frmSetup::Form_Load() {
     loader_.GetSetup();
     const Settings& s = settings_;
@@ -145,6 +150,11 @@ bool frmSetup::isEnabled(SetupField field) const {
 void frmSetup::setEntry(SetupField field, std::string_view text) {
     entries_[index(field)] = text;
     if (field == SetupField::Protocol) settings_.UseHTTP = text != "FTP";
+}
+
+void frmSetup::cmdSelDirectory_Click(std::string_view chosen) {
+    settings_.LocalDir = chosen;
+    if (!chosen.empty()) setEntry(SetupField::LocalDir, chosen);
 }
 
 void frmSetup::normalise(SetupField field) {

@@ -69,6 +69,9 @@ class frmSetup {
     // Keys are compared without regard to case.
     [[nodiscard]] static std::optional<SetupField> fieldOf(std::string_view key);
 
+    // The hosts that are offered: the service's default name, and the same server's address.
+    [[nodiscard]] static std::span<const std::string_view> hosts();
+
     // Reads the settings anew into the entries.
     void Form_Load();
     // False when a password in the file cannot be read: what stands behind it is then left out.
@@ -79,6 +82,9 @@ class frmSetup {
     [[nodiscard]] const std::string& entry(SetupField field) const { return entries_[index(field)]; }
     // Choosing a protocol takes effect in the settings at once; unloading undoes it.
     void setEntry(SetupField field, std::string_view text);
+    // The user has chosen a download folder, or none (empty), which leaves the entry as it is. Either takes effect in
+    // the settings at once; unloading undoes it.
+    void cmdSelDirectory_Click(std::string_view chosen);
     // Makes a number's entry the plain form of the number that it begins with.
     void normalise(SetupField field);
 
