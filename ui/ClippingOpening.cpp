@@ -51,6 +51,10 @@ void ClippingOpening::openHelp() {
     articles_.ShellExec("Vellhelp.htm", "");
 }
 
+void ClippingOpening::openAddress(const std::string& address) {
+    articles_.ShellExec(address, "");
+}
+
 bool ClippingOpening::open(const std::string& path) {
     if (!articles_.ShellExec(path, "")) return false;
     store_.MarkFileOpened(path);

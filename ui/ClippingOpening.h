@@ -25,8 +25,9 @@ class ClippingOpening {
     // The first 20 of the list that have not been opened. Stops at one that cannot be.
     void openNext20();
     void openDayFolder();
-    // Shows the help page.
     void openHelp();
+    // A page of the web.
+    void openAddress(const std::string& address);
 
     // True when the system took it; it is then marked.
     bool open(const std::string& path);

@@ -20,6 +20,11 @@ void DayCommands::chooseFirst(const std::string& today) {
     browser_.loadAlert();
 }
 
+void DayCommands::reload() {
+    browser_.PopulateDateCombo();
+    chooseFirst(browser_.chosenDay());
+}
+
 void DayCommands::chooseNewer() {
     step(-1);
 }
@@ -45,8 +50,7 @@ void DayCommands::mnuDeleteDay_Click() {
                         BoxIcon::Question) != Answer::Yes)
             return;
         store_.DeleteContent(day);
-        browser_.PopulateDateCombo();
-        chooseFirst(day);
+        reload();
     });
 }
 

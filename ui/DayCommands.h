@@ -18,6 +18,8 @@ class DayCommands {
 
     // Shows today when it is there, else the newest day.
     void chooseFirst(const std::string& today);
+    // Reads days and clippings anew; the folder of all may have become another.
+    void reload();
     void chooseNewer();
     void chooseOlder();
     // After a question. The newest of the days that are left is shown then.
