@@ -17,7 +17,7 @@
 namespace vell {
 
 namespace {
-constexpr int highest = 200;  // DIP
+constexpr int highest = 140;  // DIP; the alert needs its room, too
 }
 
 Advertisement::Advertisement(wxWindow* parent, const Files& files) : wxPanel(parent), files_(files) {

@@ -14,12 +14,13 @@ namespace vell {
 AlertPanel::AlertPanel(wxWindow* parent) : wxPanel(parent) {
     auto* heading = new wxStaticText(this, wxID_ANY, "A&lert");
     heading->SetFont(heading->GetFont().Bold());
-    text_ = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(120, 60)),
+    text_ = new wxTextCtrl(this, wxID_ANY, "", wxDefaultPosition, FromDIP(wxSize(120, -1)),
                            wxTE_MULTILINE | wxTE_READONLY | wxTE_BESTWRAP);
     setAccessibleName(*text_, "Alert");
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(heading, wxSizerFlags().Border(wxBOTTOM, FromDIP(3)));
     sizer->Add(text_, wxSizerFlags(1).Expand());
+    SetMinSize(FromDIP(wxSize(-1, 96)));
     SetSizer(sizer);
     Hide();
 }

@@ -38,6 +38,7 @@ constexpr std::array items{
     Item{Menu::File, command::Exit, "E&xit\tCtrl+Q", "End the program", true},
 
     Item{Menu::View, command::Filter, "&Filter...\tCtrl+F", "Show only some categories and types"},
+    Item{Menu::View, command::ShowAll, "Show a&ll\tCtrl+Shift+F", "Show every clipping of the day"},
     Item{Menu::View, command::AutoView, "&Auto view...\tF6", "Open clippings one after another"},
     Item{Menu::View, command::NewerDay, "&Newer day\tAlt+Up", "Show the next newer day", true},
     Item{Menu::View, command::OlderDay, "&Older day\tAlt+Down", "Show the next older day"},

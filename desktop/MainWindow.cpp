@@ -14,6 +14,7 @@
 #include "desktop/AlertPanel.h"
 #include "desktop/ClippingsList.h"
 #include "desktop/DatePane.h"
+#include "desktop/FilterBar.h"
 #include "desktop/ForcedDownloadPane.h"
 #include "desktop/MainMenu.h"
 #include "desktop/ProgressPane.h"
@@ -26,7 +27,7 @@
 namespace vell {
 
 namespace {
-const wxSize smallest(640, 440);  // DIP
+const wxSize smallest(640, 480);  // DIP
 constexpr int sideBarWidth = 250;
 
 // A window that was left on a display which is gone would never be found again.
@@ -55,12 +56,17 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
     message_ = new wxInfoBar(all);
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
+    filter_ = new FilterBar(all);
     list_ = new ClippingsList(all, clock,
                               {[this](std::size_t row) { tell([=](auto& events) { events.rowDoubleClicked(row); }); },
                                [this](std::size_t row) { tell([=](auto& events) { events.rowEntered(row); }); },
                                [this] { showContextMenu(); }});
-    list_->MoveAfterInTabOrder(dates_);
-    columns->Add(list_, wxSizerFlags(1).Expand().Border(wxTOP | wxRIGHT | wxBOTTOM));
+    filter_->MoveAfterInTabOrder(dates_);
+    list_->MoveAfterInTabOrder(filter_);
+    auto* main = new wxBoxSizer(wxVERTICAL);
+    main->Add(filter_, wxSizerFlags().Expand().Border(wxBOTTOM));
+    main->Add(list_, wxSizerFlags(1).Expand());
+    columns->Add(main, wxSizerFlags(1).Expand().Border(wxTOP | wxRIGHT | wxBOTTOM));
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(message_, wxSizerFlags().Expand());
     sizer->Add(columns, wxSizerFlags(1).Expand());
@@ -145,6 +151,10 @@ void MainWindow::showBusy(bool busy) {
         busy_.emplace();
     else
         busy_.reset();
+}
+
+void MainWindow::showFilter(std::string_view text) {
+    filter_->show(text);
 }
 
 void MainWindow::showStatus(std::string_view text) {

@@ -23,6 +23,7 @@ class ClippingsList;
 class Clock;
 class DatePane;
 class Files;
+class FilterBar;
 class ForcedDownloadPane;
 class ProgressPane;
 class StatusLine;
@@ -46,6 +47,7 @@ class MainWindow : public wxFrame, public MainView {
     void showAlert(std::string_view text) override;
     void showAdvertisement(const std::string& path) override;
     void showBusy(bool busy) override;
+    void showFilter(std::string_view text) override;
     void showStatus(std::string_view text) override;
     void showProgress(int currentFile, int wholeRun) override;
     void showForcedRun(bool running) override;
@@ -71,6 +73,7 @@ class MainWindow : public wxFrame, public MainView {
 
     wxInfoBar* message_ = nullptr;
     DatePane* dates_ = nullptr;
+    FilterBar* filter_ = nullptr;
     ClippingsList* list_ = nullptr;
     ForcedDownloadPane* download_ = nullptr;
     ProgressPane* progress_ = nullptr;

@@ -10,6 +10,7 @@
 #include <wx/uilocale.h>
 
 #include "app/frmMain.h"
+#include "desktop/ClippingsList.h"
 #include "desktop/MainWindow.h"
 #include "desktop/WindowCommands.h"
 #include "desktop/WindowLoop.h"
@@ -35,7 +36,7 @@ struct Program::Parts {
         : Place(ProgramPlace::ofThisProcess(folder)),
           Window(*new MainWindow(Time, Disk)),  // the toolkit deletes its windows
           Main({Time, Loop, Disk, Ini, Internet, Boxes, Place, Opener}, Window, VELL_VERSION),
-          Events(Main, Window, [] { std::quick_exit(0); }) {}
+          Events(Main, Window, Boxes, [] { std::quick_exit(0); }) {}
 
     SystemClock Time;
     AsioEventLoop Loop{Time};
@@ -73,6 +74,7 @@ bool Program::start() {
         parts_ = std::make_unique<Parts>(folder_);
         if (parts_->Main.Form_Load(frmMain::Start::Window)) {
             parts_->Window.Show();
+            parts_->Window.list().focusList();
             return true;
         }
         exitCode_ = parts_->Main.isSecondInstance() ? alreadyRunning : good;

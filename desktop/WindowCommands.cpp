@@ -4,53 +4,98 @@
 #include <utility>
 
 #include "app/frmMain.h"
+#include "desktop/AboutDialog.h"
 #include "desktop/ClippingsList.h"
+#include "desktop/FilterDialog.h"
 #include "desktop/MainWindow.h"
+#include "desktop/PrintDialog.h"
+#include "desktop/SetupDialog.h"
 #include "desktop/commandIds.h"
 #include "ui/ScopedFlag.h"
 
 namespace vell {
 
-WindowCommands::WindowCommands(frmMain& program, MainWindow& window, std::function<void()> end)
-    : program_(program), window_(window), end_(std::move(end)) {
-    fillTable();
+WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end)
+    : program_(program), window_(window), boxes_(boxes), end_(std::move(end)) {
+    addClippingCommands();
+    addDayCommands();
+    addProgramCommands();
     window_.listenTo(*this);
+    window_.onOpenSetup([this] { setUp(); });
 }
 
-void WindowCommands::fillTable() {
-    const auto always = [] { return true; };
+void WindowCommands::addClippingCommands() {
     const auto hasRows = [this] { return !program_.browser().rows().empty(); };
-    const auto hasDay = [this] { return !program_.browser().chosenDay().empty(); };
     const auto canPrint = [this, hasRows] { return hasRows() && !program_.printing().isPrinting(); };
     const auto onRow = [this](auto action) {
         return [this, action] {
             if (const auto row = window_.list().currentRow()) action(*row);
         };
     };
-    table_ = {
-        {command::Open, {onRow([this](std::size_t row) { program_.opening().openRow(row); }), hasRows}},
-        {command::OpenNext20, {[this] { program_.opening().openNext20(); }, hasRows}},
-        {command::OpenDayFolder, {[this] { program_.opening().openDayFolder(); }, hasDay}},
-        {command::PrintSelected,
-         {onRow([this](std::size_t row) { program_.printing().mnuPrintSel_Click(row); }), hasRows}},
-        {command::PrintAll, {[this] { program_.printing().mnuPrintAll_Click(); }, canPrint}},
-        {command::DeleteDay,
-         {[this] { program_.dayCommands().mnuDeleteDay_Click(); },
-          [this, hasDay] { return hasDay() && !program_.isBusy(); }}},
-        {command::Exit, {[this] { window_.Close(); }, always}},
-        {command::NewerDay, {[this] { program_.dayCommands().chooseNewer(); }, hasDay}},
-        {command::OlderDay, {[this] { program_.dayCommands().chooseOlder(); }, hasDay}},
-        {command::GoToList, {[this] { window_.list().focusList(); }, always}},
-        {command::Refresh, {[this] { program_.browser().refresh(); }, always}},
-        {command::SortByMarks, {[this] { window_.list().sortBy(GridColumn::Marks); }, always}},
-        {command::SortByNewspaper, {[this] { window_.list().sortBy(GridColumn::Newspaper); }, always}},
-        {command::SortByTitle, {[this] { window_.list().sortBy(GridColumn::Title); }, always}},
-        {command::SortByType, {[this] { window_.list().sortBy(GridColumn::Type); }, always}},
-        {command::Start, {[this] { download(); }, [this] { return !downloading_ && !program_.isBusy(); }}},
-        {command::Stop,
-         {[this] { program_.cmdStopDownload_Click(); }, [this] { return program_.isBusy() || window_.followsRun(); }}},
-        {command::Help, {[this] { program_.opening().openHelp(); }, always}},
-    };
+    const auto sortBy = [this](GridColumn column) { return [this, column] { window_.list().sortBy(column); }; };
+    table_[command::Open] = {onRow([this](std::size_t row) { program_.opening().openRow(row); }), hasRows};
+    table_[command::OpenNext20] = {[this] { program_.opening().openNext20(); }, hasRows};
+    table_[command::PrintSelected] = {onRow([this](std::size_t row) { program_.printing().mnuPrintSel_Click(row); }),
+                                      hasRows};
+    table_[command::PrintAll] = {[this] { program_.printing().mnuPrintAll_Click(); }, canPrint};
+    table_[command::PrintByCategory] = {[this] { printByCategory(); }, canPrint};
+    table_[command::AutoView] = {[this] { showAutoView(); }, hasRows};
+    table_[command::SortByMarks] = {sortBy(GridColumn::Marks), hasRows};
+    table_[command::SortByNewspaper] = {sortBy(GridColumn::Newspaper), hasRows};
+    table_[command::SortByTitle] = {sortBy(GridColumn::Title), hasRows};
+    table_[command::SortByType] = {sortBy(GridColumn::Type), hasRows};
+}
+
+void WindowCommands::addDayCommands() {
+    const auto hasDay = [this] { return !program_.browser().chosenDay().empty(); };
+    table_[command::OpenDayFolder] = {[this] { program_.opening().openDayFolder(); }, hasDay};
+    table_[command::DeleteDay] = {[this] { program_.dayCommands().mnuDeleteDay_Click(); },
+                                  [this, hasDay] { return hasDay() && !program_.isBusy(); }};
+    table_[command::NewerDay] = {[this] { program_.dayCommands().chooseNewer(); }, hasDay};
+    table_[command::OlderDay] = {[this] { program_.dayCommands().chooseOlder(); }, hasDay};
+    table_[command::Filter] = {[this] { chooseFilter(); }, hasDay};
+    table_[command::ShowAll] = {[this] { program_.browser().setFilter({}); },
+                                [this] { return program_.browser().filter().isSet(); }};
+}
+
+void WindowCommands::addProgramCommands() {
+    const auto always = [] { return true; };
+    table_[command::Start] = {[this] { download(); }, [this] { return !downloading_ && !program_.isBusy(); }};
+    table_[command::Stop] = {[this] { program_.cmdStopDownload_Click(); },
+                             [this] { return program_.isBusy() || window_.followsRun(); }};
+    table_[command::Setup] = {[this] { setUp(); }, always};
+    table_[command::Refresh] = {[this] { program_.dayCommands().reload(); }, always};
+    table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
+    table_[command::Help] = {[this] { program_.opening().openHelp(); }, always};
+    table_[command::About] = {[this] { showAbout(); }, always};
+    table_[command::Exit] = {[this] { window_.Close(); }, always};
+}
+
+void WindowCommands::printByCategory() {
+    PrintDialog(&window_, program_.printing().mnuPrintByCategory_Click()).ShowModal();
+}
+
+void WindowCommands::chooseFilter() {
+    FilterDialog(&window_, frmFilter(program_.browser())).ShowModal();
+}
+
+void WindowCommands::showAutoView() {
+    if (!autoView_)
+        autoView_ = new AutoViewWindow(&window_, program_.autoView(), [this] {
+            if (const auto row = window_.list().currentRow()) program_.autoView().start(*row);
+        });
+    autoView_->Show();
+    autoView_->Raise();
+}
+
+void WindowCommands::setUp() {
+    if (SetupDialog(&window_, program_.setupDialog(), boxes_, {}).ShowModal() == wxID_OK)
+        program_.dayCommands().reload();
+}
+
+void WindowCommands::showAbout() {
+    const std::string address = program_.settings().Host.empty() ? "" : "http://" + program_.settings().Host + "/";
+    AboutDialog(&window_, program_.version(), address, [&] { program_.opening().openAddress(address); }).ShowModal();
 }
 
 void WindowCommands::download() {

@@ -4,18 +4,22 @@
 #include <functional>
 #include <map>
 
+#include <wx/weakref.h>
+
+#include "desktop/AutoViewWindow.h"
 #include "desktop/WindowEvents.h"
 
 namespace vell {
 
 class MainWindow;
+class MessageBoxes;
 class frmMain;
 
 // Leads what the user does in the window to the program.
 class WindowCommands : public WindowEvents {
   public:
     // `end` ends the process.
-    WindowCommands(frmMain& program, MainWindow& window, std::function<void()> end);
+    WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end);
 
     void commandChosen(int id) override;
     [[nodiscard]] bool isEnabled(int id) const override;
@@ -32,13 +36,22 @@ class WindowCommands : public WindowEvents {
         std::function<void()> Run;
         std::function<bool()> CanRun;
     };
-    void fillTable();
+    void addClippingCommands();
+    void addDayCommands();
+    void addProgramCommands();
     void download();
+    void printByCategory();
+    void chooseFilter();
+    void showAutoView();
+    void setUp();
+    void showAbout();
 
     frmMain& program_;
     MainWindow& window_;
+    MessageBoxes& boxes_;
     std::function<void()> end_;
     std::map<int, Entry> table_;
+    wxWeakRef<AutoViewWindow> autoView_;
     bool downloading_ = false;  // from the user's start to its end; between two days no run is under way
 };
 

@@ -3,6 +3,7 @@
 
 #include <wx/msgdlg.h>
 
+#include "desktop/LongMessage.h"
 #include "desktop/screenText.h"
 
 namespace vell {
@@ -61,6 +62,10 @@ Answer answerOf(Buttons buttons, int result) {
 }  // namespace
 
 Answer WxMessageBoxes::Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon icon) {
+    if (buttons == Buttons::Ok && LongMessage::isNeededFor(shownText(text))) {
+        LongMessage(shownText(text), shownLine(caption)).ShowModal();
+        return Answer::Ok;
+    }
     wxMessageDialog box(nullptr, shownText(text), shownLine(caption), styleOf(buttons, icon));
     if (buttons == Buttons::RetryCancel) box.SetOKCancelLabels("&Retry", "&Cancel");
     if (buttons == Buttons::AbortRetryIgnore) box.SetYesNoCancelLabels("&Abort", "&Retry", "&Ignore");

@@ -24,6 +24,7 @@ enum : int {
     PrintAll,
     PrintByCategory,
     Filter,
+    ShowAll,
     AutoView,
     SortByMarks,
     SortByNewspaper,

@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include <wx/dialog.h>
+
+namespace vell {
+
+// What this program is, its version, and the way to the service.
+class AboutDialog : public wxDialog {
+  public:
+    // `address` is the service's page; empty for none. `open` opens it.
+    AboutDialog(wxWindow* parent, const std::string& version, const std::string& address,
+                const std::function<void()>& open);
+};
+
+}  // namespace vell
