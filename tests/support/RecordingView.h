@@ -2,7 +2,9 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/MainView.h"
 
@@ -22,7 +24,8 @@ class RecordingView : public MainView {
             Rows += row.File->FileName + "," + row.File->Description + (row.Opened ? ",O" : ",") +
                     (row.Printed ? "P;" : ";");
     }
-    void showMarks(std::size_t /*row*/) override {}
+    void showMarks(std::size_t row) override { Marked.push_back(row); }
+    void showFilter(std::string_view text) override { Filter = text; }
     void showCount(std::string_view text) override { Count = text; }
     void showAlert(std::string_view text) override { Alert = text; }
     void showAdvertisement(const std::string& path) override { Advertisement = path; }
@@ -40,9 +43,14 @@ class RecordingView : public MainView {
     void displayInfoMessageBox(std::string_view text) override { Message = text; }
     void openSetup() override {}
     [[nodiscard]] bool followsRun() const override { return Follows; }
+    void placeWindow(const WindowPlace& place) override { Place = place; }
+    [[nodiscard]] std::optional<WindowPlace> windowPlace() const override { return Place; }
 
     std::string Days, Rows, Count, Alert, Advertisement, Progress, Range, Message;
     std::string Status, Statuses;  // the last one, and all, each on a line
+    std::string Filter;
+    std::vector<std::size_t> Marked;
+    std::optional<WindowPlace> Place;
     int Busy = 0;
     bool Running = false;
     bool Follows = true;

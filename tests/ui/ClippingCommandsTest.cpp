@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
+
+#include "store/Articles.h"
+#include "tests/support/RecordingShell.h"
+#include "tests/support/RecordingView.h"
+#include "tests/support/StoreRig.h"
+#include "ui/ClippingOpening.h"
+#include "ui/ClippingsBrowser.h"
+#include "ui/DayCommands.h"
+#include "ui/PrintCommands.h"
+#include "ui/frmAutoView.h"
+#include "ui/frmFilter.h"
+
+namespace vell::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Texts = std::vector<std::string>;
+
+// A day of four clippings: their names are A to D.
+class ClippingCommandsTest : public testing::Test, protected StoreRig {
+  protected:
+    ClippingCommandsTest() {
+        for (const char* name : {"A.PDF", "B.PDF", "C.PDF", "D.PDF"})
+            putIntoDay(name, "x");
+        putIntoDay("ALLFILES.DIR",
+                   "A.PDF||N||first|| Politics ||News\r\nB.PDF||N||second||POLITICS||News|Comment\r\n"
+                   "C.PDF||N||third||Politics|Economy||Report\r\nD.PDF||N||fourth||||\r\n\r\n");
+        browser.PopulateDateCombo();
+        browser.chooseDay("07/03/2004");
+        setup.PrintAllDelay = 3;
+        setup.AutoPlayDelay = 5;
+        logged();
+    }
+    [[nodiscard]] std::string marks() const {
+        std::string text;
+        for (const ClippingRow& row : browser.rows())
+            text += row.Opened && row.Printed ? 'B' : row.Opened ? 'O' : row.Printed ? 'P' : '-';
+        return text;
+    }
+    // The files that the shell was asked for since the last call.
+    Texts asked() {
+        Texts names;
+        for (const std::string& call : std::exchange(shell.Opened, {}))
+            names.push_back(call.substr(call.rfind('\\') + 1));
+        return names;
+    }
+    void wait(int seconds) {
+        clock.advance(std::chrono::seconds{seconds});
+        loop.DoEvents();
+    }
+
+    RecordingView view;
+    RecordingShell shell;
+    Texts statuses;
+    StatusText status = [this](std::string_view text) { statuses.emplace_back(text); };
+    Articles articles{shell, boxes, loop, log};
+    ClippingsBrowser browser{store, files, view, clock, log, setup, day};
+    ClippingOpening opening{browser, store, articles, log, status};
+    PrintCommands printing{{browser, store, articles, loop, boxes, log, setup}, status};
+    frmAutoView autoView{browser, opening, loop, setup};
+    DayCommands days{browser, store, boxes, log};
+};
+
+TEST_F(ClippingCommandsTest, aDoubleClickOpensOnceAndEnterAlways) {
+    opening.grdLocalFiles_DblClick(1);
+    EXPECT_EQ(marks(), "-O--");
+    EXPECT_THAT(view.Marked, ElementsAre(1U));
+    opening.grdLocalFiles_DblClick(1);
+    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    opening.openRow(1);
+    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    shell.Result = 31;
+    opening.grdLocalFiles_DblClick(2);
+    EXPECT_EQ(marks(), "-O--") << "what could not be opened is not marked";
+    opening.grdLocalFiles_DblClick(9);
+    EXPECT_NE(logged().find("in grdLocalFiles_DblClick()"), std::string::npos);
+}
+
+TEST_F(ClippingCommandsTest, opensTheNextTwentyThatWereNotOpenedAndStopsAtAFailure) {
+    for (int i = 10; i < 40; ++i)
+        putIntoDay("E" + std::to_string(i) + ".PDF", "x");
+    opening.openRow(0);
+    browser.PopulateLocalFilesGrid();
+    asked();
+    opening.openNext20();
+    EXPECT_EQ(asked().size(), 20U);
+    opening.openNext20();
+    EXPECT_EQ(asked().back(), "E39.PDF|");
+    opening.openNext20();
+    EXPECT_THAT(asked(), IsEmpty());
+    days.mnuDeleteDay_Click();
+    putIntoDay("F.PDF", "x");
+    putIntoDay("G.PDF", "x");
+    browser.PopulateLocalFilesGrid();
+    shell.Result = 2;
+    opening.openNext20();
+    EXPECT_THAT(asked(), ElementsAre("F.PDF|"));
+    opening.openDayFolder();
+    EXPECT_EQ(shell.Opened.back(), day.gDayFolder + "|");
+}
+
+TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
+    printing.mnuPrintAll_Click();
+    EXPECT_THAT(asked(), IsEmpty());
+    EXPECT_THAT(boxes.Shown, ElementsAre("Print All: Do you want to print all documents for selected date?"));
+    boxes.Answers = {Answer::Yes, Answer::Yes};
+    boxes.OnQuestion = [&] { printing.mnuPrintAll_Click(); };
+    const SteadyTime begun = clock.Steady();
+    printing.mnuPrintAll_Click();
+    EXPECT_EQ(asked().size(), 4U) << "a second batch cannot begin while one is under way";
+    EXPECT_EQ(clock.Steady() - begun, std::chrono::seconds{12});
+    EXPECT_EQ(marks(), "PPPP");
+    EXPECT_THAT(statuses, ElementsAre("Printing 1/4 first", "Printing 2/4 second", "Printing 3/4 third",
+                                      "Printing 4/4 fourth", ""));
+    statuses.clear();
+    shell.Result = 2;
+    boxes.Answers = {Answer::Yes};
+    printing.mnuPrintAll_Click();
+    EXPECT_EQ(clock.Steady() - begun, std::chrono::seconds{12}) << "what did not print is passed without a pause";
+    EXPECT_THAT(statuses, ElementsAre(""));
+}
+
+TEST_F(ClippingCommandsTest, printsTheSelectedRowAlone) {
+    printing.mnuPrintSel_Click(2);
+    EXPECT_THAT(asked(), ElementsAre("C.PDF\""));
+    EXPECT_EQ(marks(), "--P-");
+}
+
+TEST_F(ClippingCommandsTest, printsWholeCategoriesWithoutMarkingThem) {
+    frmPrint dialog = printing.mnuPrintByCategory_Click();
+    EXPECT_THAT(dialog.lstAllCategories(), ElementsAre("Politics", "POLITICS", "Politics,Economy"));
+    dialog.cmdPrint_Click(status);
+    EXPECT_THAT(boxes.Shown, ElementsAre("Print: No categories selected. Please selected categories to print."));
+    dialog.cmdAddAll_Click();
+    dialog.cmdRemove_Click(1);
+    dialog.cmdAdd_Click(7);
+    EXPECT_THAT(dialog.lstPrintCategories(), ElementsAre("Politics", "Politics,Economy"));
+    dialog.cmdRemoveAll_Click();
+    dialog.cmdAdd_Click(1);
+    EXPECT_THAT(dialog.lstAllCategories(), ElementsAre("POLITICS", "Politics,Economy"));
+    EXPECT_THAT(dialog.lstPrintCategories(), ElementsAre("Politics"));
+    dialog.cmdPrint_Click(status);
+    EXPECT_THAT(asked(), ElementsAre("B.PDF\"")) << "categories are compared whole, without regard to case";
+    EXPECT_THAT(statuses, ElementsAre("Printing 1/1 B.PDF", ""));
+    EXPECT_EQ(marks(), "----");
+    EXPECT_FALSE(printing.isPrinting());
+}
+
+TEST_F(ClippingCommandsTest, filtersByCategoryAndTypeAndOffersWhatTheDayHas) {
+    EXPECT_THAT(frmFilter(browser).lstCategories(), ElementsAre("Economy", "Politics"));
+    EXPECT_THAT(frmFilter(browser).lstTypes(), ElementsAre("Comment", "News", "Report"));
+    const std::vector<std::pair<ClippingFilter, std::string>> cases{
+        {{{"politics"}, {}}, "ABC"}, {{{"Economy"}, {}}, "C"},
+        {{{}, {"COMMENT"}}, "B"},    {{{"Politics"}, {"Report", "x"}}, "C"},
+        {{{"Sport"}, {}}, ""},       {{}, "ABCD"}};
+    for (const auto& [chosen, expected] : cases) {
+        frmFilter(browser).cmdOk_Click(chosen);
+        std::string listed;
+        for (const ClippingRow& row : browser.rows())
+            listed += row.File->FileName.front();
+        EXPECT_EQ(listed, expected) << chosen.text();
+        EXPECT_EQ(view.Filter, chosen.text());
+        EXPECT_EQ(view.Count, std::to_string(expected.size()) + " Clippings");
+    }
+    browser.setFilter({{"Sport"}, {}});
+    EXPECT_THAT(frmFilter(browser).lstCategories(), ElementsAre("Economy", "Politics", "Sport"));
+    EXPECT_TRUE(frmFilter(browser).isCategoryChosen("SPORT"));
+}
+
+TEST_F(ClippingCommandsTest, autoViewOpensOneAfterAnotherUntilTheEndOrAFailure) {
+    autoView.start(1);
+    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    EXPECT_EQ(autoView.position(), "2/4 second");
+    wait(4);
+    EXPECT_THAT(asked(), IsEmpty());
+    autoView.setDelay(2);
+    wait(2);
+    EXPECT_THAT(asked(), ElementsAre("C.PDF|"));
+    wait(2);
+    EXPECT_EQ(marks(), "-OOO");
+    EXPECT_FALSE(autoView.isRunning());
+    autoView.start(0);
+    autoView.stop();
+    asked();
+    wait(60);
+    EXPECT_THAT(asked(), IsEmpty());
+    shell.Result = 31;
+    autoView.start(0);
+    EXPECT_FALSE(autoView.isRunning());
+    EXPECT_FALSE(loop.untilNextTimer());
+    setup.AutoPlayDelay = 0;
+    EXPECT_EQ(frmAutoView(browser, opening, loop, setup).delay(), 1);
+}
+
+TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
+    for (const char* name : {"08032004", "06032004"})
+        std::filesystem::create_directories(folder.path() / "clips" / name);
+    browser.PopulateDateCombo();
+    days.chooseNewer();
+    EXPECT_EQ(view.Chosen, "08/03/2004");
+    days.chooseNewer();
+    EXPECT_EQ(view.Chosen, "08/03/2004");
+    days.chooseOlder();
+    days.mnuDeleteDay_Click();
+    EXPECT_TRUE(dayHas("A.PDF"));
+    boxes.Answers = {Answer::Yes};
+    days.mnuDeleteDay_Click();
+    EXPECT_FALSE(folder.has("clips/07032004"));
+    EXPECT_EQ(view.Chosen, "08/03/2004");
+    days.chooseFirst("06/03/2004");
+    EXPECT_EQ(view.Chosen, "06/03/2004");
+    std::filesystem::remove_all(folder.path() / "clips");
+    days.reload();
+    EXPECT_EQ(view.Chosen + view.Rows, "");
+}
+
+}  // namespace
+}  // namespace vell::test

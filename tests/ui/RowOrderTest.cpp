@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: MIT
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "tests/support/DrivenClock.h"
+#include "ui/PictureSize.h"
+#include "ui/RowOrder.h"
+#include "ui/TypeAhead.h"
+
+namespace vell::test {
+namespace {
+
+using Names = std::vector<std::string>;
+
+std::vector<ClippingRow> rowsOf(const Names& titles) {
+    std::vector<ClippingRow> rows;
+    for (const std::string& title : titles) {
+        rows.push_back({std::make_shared<CFtpFile>()});
+        rows.back().File->Description = title;
+    }
+    return rows;
+}
+
+TEST(RowOrderTest, sortsWithoutRegardToCaseAndAccentsAndComesBackToTheOrderOfTheRows) {
+    // Beta, alpha with an accent, gamma, plain capital alpha: Greek letters of the code page.
+    const auto rows = rowsOf({"\xC2", "\xDC\xE2", "\xE3", "\xC1\xC1"});
+    const auto shown = [&](const RowOrder& order) {
+        std::string places;
+        for (std::size_t place = 0; place < order.size(); ++place) {
+            places += static_cast<char>('0' + order.rowAt(place));
+            EXPECT_EQ(order.placeOf(order.rowAt(place)), place);
+        }
+        return places;
+    };
+    RowOrder order;
+    order.rebuild(rows);
+    EXPECT_EQ(shown(order), "0123");
+    order.sortBy(GridColumn::Title, rows);
+    EXPECT_EQ(shown(order), "3102");
+    order.sortBy(GridColumn::Title, rows);
+    EXPECT_EQ(shown(order), "2013");
+    order.rebuild(rowsOf({"A", "B"}));
+    EXPECT_EQ(shown(order), "10") << "others are sorted the same way";
+    order.sortBy(GridColumn::Title, rows);
+    EXPECT_EQ(shown(order), "0123");
+    EXPECT_FALSE(order.column());
+}
+
+TEST(RowOrderTest, findsWhatCameInBetweenOrSaysThatTheListIsAnother) {
+    using Places = std::vector<std::size_t>;
+    const Names before{"A", "C"};
+    EXPECT_EQ(insertedPlaces(before, {"A", "B", "C", "D"}), (Places{1, 3}));
+    EXPECT_EQ(insertedPlaces(before, before), Places{});
+    EXPECT_EQ(insertedPlaces({}, before), (Places{0, 1}));
+    EXPECT_FALSE(insertedPlaces(before, {"C", "A"}));
+    EXPECT_FALSE(insertedPlaces(before, {"A", "B"}));
+}
+
+TEST(TypeAheadTest, joinsLettersTypedSoonAndWalksThroughMatchesOfOneLetter) {
+    const Names titles{"Beach", "apple", "\xDC\xF1\xE1", "avocado", "banana"};
+    DrivenClock clock;
+    TypeAhead ahead(clock);
+    std::optional<std::size_t> at;
+    const auto type = [&](char letter, int afterMilliseconds) {
+        clock.advance(std::chrono::milliseconds{afterMilliseconds});
+        return at = ahead.type(letter, titles.size(), at, [&](std::size_t place) { return titles[place]; });
+    };
+    EXPECT_EQ(type('A', 0), 1U);
+    EXPECT_EQ(type('v', 900), 3U);
+    EXPECT_EQ(type('b', 1100), 4U);
+    EXPECT_EQ(type('b', 100), 0U) << "the same letter goes on, around the end";
+    EXPECT_EQ(type('\xC1', 1100), 2U) << "Greek letters match without their accents";
+    EXPECT_EQ(type('x', 1100), std::nullopt);
+    EXPECT_EQ(TypeAhead(clock).type('a', 0, std::nullopt, {}), std::nullopt);
+}
+
+TEST(PictureSizeTest, readsTheHeadsOfPicturesAndDistrustsTheRest) {
+    using namespace std::string_literals;
+    const std::string jpeg = "\xFF\xD8\xFF\xE0\x00\x04..\xFF\xC4\x00\x03.\xFF\xFF\xC2\x00\x0B\x08\x00\x10\x01\x00"s;
+    const std::string png = "\x89PNG\r\n\x1A\n\x00\x00\x00\x0DIHDR\x00\x00\x01\x00\x00\x00\x00\x10\x08"s;
+    const std::string gif = "GIF89a\x00\x01\x10\x00"s;
+    const PictureSize size{256, 16};
+    for (const std::string& picture : {jpeg, png, gif}) {
+        EXPECT_EQ(pictureSize(picture), size);
+        EXPECT_TRUE(isDecentPicture(picture));
+        for (std::size_t length = 0; length + 1 < std::min<std::size_t>(picture.size(), 22); ++length)
+            EXPECT_NE(pictureSize(picture.substr(0, length)), PictureSize(0, 0));
+        EXPECT_FALSE(isDecentPicture(picture + std::string(longestPicture, ' ')));
+    }
+    std::string bomb = png;
+    bomb.replace(16, 8, "\x00\x01\x00\x00\x00\x01\x00\x00"s);
+    const Names wrong{bomb, "", "\xFF\xD8\xFF", "<svg/>", "\xFF\xD8\xFF\xE0\xFF\xFFx", "GIF89a\x00\x00\x10\x00"s};
+    for (const std::string& bytes : wrong)
+        EXPECT_FALSE(isDecentPicture(bytes));
+}
+
+}  // namespace
+}  // namespace vell::test
