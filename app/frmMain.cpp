@@ -183,4 +183,8 @@ frmSetup frmMain::setupDialog() {
     return {session_.Setup, loader_, ini_, log_};
 }
 
+frmSchedule frmMain::scheduleDialog() {
+    return {session_.Setup, ini_, platform_.Boxes, log_};
+}
+
 }  // namespace vell
