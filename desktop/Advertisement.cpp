@@ -17,8 +17,9 @@
 namespace vell {
 
 namespace {
-constexpr int highest = 140;  // DIP; the alert needs its room, too
-}
+constexpr int highest = 140;       // DIP; the alert needs its room, too
+constexpr int lowestWindow = 520;  // in a lower one the picture gives way to the rest
+}  // namespace
 
 Advertisement::Advertisement(wxWindow* parent, const Files& files) : wxPanel(parent), files_(files) {
     setAccessibleName(*this, "Advertisement");
@@ -32,7 +33,6 @@ Advertisement::Advertisement(wxWindow* parent, const Files& files) : wxPanel(par
 
 void Advertisement::show(const std::string& path) {
     picture_ = load(path);
-    Show(picture_.IsOk());
     fit();
     GetParent()->Layout();
     Refresh();
@@ -62,6 +62,7 @@ wxSize Advertisement::fittedSize() const {
 }
 
 void Advertisement::fit() {
+    Show(picture_.IsOk() && GetParent()->GetClientSize().GetHeight() >= FromDIP(lowestWindow));
     const wxSize size = fittedSize();
     if (size != GetMinSize()) SetMinSize(size);
 }

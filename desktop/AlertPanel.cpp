@@ -20,7 +20,7 @@ AlertPanel::AlertPanel(wxWindow* parent) : wxPanel(parent) {
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(heading, wxSizerFlags().Border(wxBOTTOM, FromDIP(3)));
     sizer->Add(text_, wxSizerFlags(1).Expand());
-    SetMinSize(FromDIP(wxSize(-1, 96)));
+    SetMinSize(FromDIP(wxSize(-1, 80)));
     SetSizer(sizer);
     Hide();
 }

@@ -9,6 +9,7 @@
 #include <wx/sizer.h>
 
 #include "desktop/ClippingsModel.h"
+#include "desktop/accessibleName.h"
 #include "desktop/columnTricks.h"
 #include "desktop/pictures.h"
 #include "desktop/screenText.h"
@@ -26,10 +27,10 @@ ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events
     : wxPanel(parent),
       events_(std::move(events)),
       model_(new ClippingsModel),
-      list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES,
-                               wxDefaultValidator, "Clippings")),
+      list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES)),
       typeAhead_(clock) {
     list_->AssociateModel(model_);
+    setAccessibleName(*list_, "Clippings");
     addColumns();
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(list_, wxSizerFlags(1).Expand());

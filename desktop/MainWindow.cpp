@@ -27,7 +27,7 @@
 namespace vell {
 
 namespace {
-const wxSize smallest(640, 480);  // DIP
+const wxSize smallest(640, 500);  // DIP
 constexpr int sideBarWidth = 250;
 
 // A window that was left on a display which is gone would never be found again.
@@ -54,6 +54,7 @@ MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr
 void MainWindow::addParts(const Clock& clock, const Files& files) {
     auto* all = new wxPanel(this);
     message_ = new wxInfoBar(all);
+    message_->AddButton(wxID_OK);
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
     filter_ = new FilterBar(all);

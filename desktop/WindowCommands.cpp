@@ -9,6 +9,7 @@
 #include "desktop/FilterDialog.h"
 #include "desktop/MainWindow.h"
 #include "desktop/PrintDialog.h"
+#include "desktop/ScheduleDialog.h"
 #include "desktop/SetupDialog.h"
 #include "desktop/commandIds.h"
 #include "ui/ScopedFlag.h"
@@ -64,6 +65,7 @@ void WindowCommands::addProgramCommands() {
     table_[command::Stop] = {[this] { program_.cmdStopDownload_Click(); },
                              [this] { return program_.isBusy() || window_.followsRun(); }};
     table_[command::Setup] = {[this] { setUp(); }, always};
+    table_[command::Schedule] = {[this] { ScheduleDialog(&window_, program_.scheduleDialog()).ShowModal(); }, always};
     table_[command::Refresh] = {[this] { program_.dayCommands().reload(); }, always};
     table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
     table_[command::Help] = {[this] { program_.opening().openHelp(); }, always};

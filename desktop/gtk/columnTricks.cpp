@@ -7,7 +7,9 @@
 namespace vell {
 
 void stretchColumn(wxDataViewColumn& column) {
-    gtk_tree_view_column_set_expand(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()), TRUE);
+    auto* native = GTK_TREE_VIEW_COLUMN(column.GetGtkHandle());
+    gtk_tree_view_column_set_fixed_width(native, column.GetMinWidth());  // the rest is added to it
+    gtk_tree_view_column_set_expand(native, TRUE);
 }
 
 // Rows with a picture and rows without share one measure, which GTK takes from any of them.

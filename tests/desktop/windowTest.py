@@ -1,0 +1,195 @@
+# SPDX-License-Identifier: MIT
+"""The real program on a display of its own: windowTest.py VELL DEMO_SERVICE CONSOLE SCREENSHOTS"""
+import datetime
+import os
+import pathlib
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+from window import Window, is_shown, text_of, wait
+
+VELL, SERVICE, CONSOLE, SHOTS = sys.argv[1:5]
+TODAY = datetime.date.today()
+SETTINGS = """[General]\r\nAutoPlayDelay=5\r\nPrintAllDelay=1\r\n[Host]\r\nProtocol=HTTP\r\nHost=clippings.example\r
+Uid=demo\r\nPort=21\r\nRetryOnFailure=3\r\nRetryDelay=1\r\nTimeOut=20\r\n[Download]\r\nLocalDir={}\r\n"""
+RECORDER = """[Desktop Entry]\nType=Application\nName=Recorder\nExec=sh -c 'echo "$1" >>"{}"' sh %f\nMimeType=application/pdf;\n"""
+
+
+class WindowTest(unittest.TestCase):
+    def setUp(self):
+        self.temporary = tempfile.TemporaryDirectory()
+        self.addCleanup(self.temporary.cleanup)
+        self.home = pathlib.Path(self.temporary.name)
+        self.folder, self.clips, self.opened = self.home / "program", self.home / "clips", self.home / "opened"
+        for folder in (self.folder, self.clips, self.home / "applications"):
+            folder.mkdir()
+        (self.folder / "vell.ini").write_text(SETTINGS.format(self.clips), newline="")
+        (self.home / "applications/recorder.desktop").write_text(RECORDER.format(self.opened))
+        (self.home / "applications/mimeapps.list").write_text("[Default Applications]\napplication/pdf=recorder.desktop\n")
+        self.environment = {"XDG_DATA_HOME": str(self.home), "XDG_CONFIG_HOME": str(self.home / "config"),
+                            "ASAN_OPTIONS": "detect_leaks=0", "LC_ALL": "C.UTF-8"}
+
+    def tearDown(self):
+        lines = (self.home / "complaints").read_text().splitlines()
+        # GTK's own pages complain when a screen reader looks on while they go.
+        self.assertEqual([line for line in lines if line and "gtk_notebook_get_tab_label" not in line], [])
+
+    def put_day(self, day, titles):
+        folder = self.clips / day
+        folder.mkdir()
+        lines = []
+        for number, title in enumerate(titles):
+            (folder / f"C{number:05}.PDF").write_bytes(b"%PDF-1.4\n%%EOF\n")
+            lines.append(f"C{number:05}.PDF||Εφημερίδα||{title}||Πολιτική||Άρθρο\r\n")
+        (folder / "ALLFILES.DIR").write_bytes("".join(lines + ["\r\n"]).encode("cp1253"))
+
+    def start(self, **environment):
+        window = Window(VELL, self.folder, {**self.environment, **environment}, self.home / "complaints")
+        self.addCleanup(window.kill)
+        return window
+
+    def serve(self, *options):
+        ready = self.home / "ready"
+        service = subprocess.Popen([SERVICE, "--root", self.home / "service", "--ready-file", ready, *options],
+                                   stdout=subprocess.DEVNULL)
+        self.addCleanup(lambda: (service.terminate(), service.wait()))
+        wait(lambda: ready.exists() and ready.read_text().count("\n") == 2)
+        subprocess.run([CONSOLE, "--folder", self.folder, "setup", "Pwd", "-"], input="demo\n", text=True, check=True,
+                       stdout=subprocess.DEVNULL, env={**os.environ, **self.environment})
+        return {"http_proxy": "http://" + ready.read_text().split()[1]}
+
+    def shoot(self, window, name):
+        window.shoot(pathlib.Path(SHOTS) / f"{name}.png")
+
+    def test_a_screen_reader_finds_a_name_or_value_for_everything(self):
+        self.put_day("07032004", ["Τα <b>νέα</b> & άλλα", "Second"])
+        window = self.start()
+        self.assertEqual(text_of(window.cell(0, 2)), "Τα <b>νέα</b> & άλλα")
+        self.assertEqual(text_of(window.cell(0, 1)), "Εφημερίδα")
+        speechless = {"panel", "filler", "scroll pane", "scroll bar", "separator", "tool bar", "menu bar", "table cell",
+                      "label"}
+        for node in window.nodes():
+            in_menu = node.get_role_name() == "menu item"
+            if node.get_role_name() in speechless or node.get_parent() is None or not (in_menu or is_shown(node)):
+                continue
+            if node.get_role_name() == "table column header" and node.get_index_in_parent() == 0:
+                continue  # over the pictures
+            self.assertTrue(node.get_name() or text_of(node), f"{node.get_role_name()} in {node.get_parent().get_name()}")
+        self.assertIn("2 Clippings", window.texts())
+        for keys, role, name in (("ctrl+comma", "page tab", "Connection"), ("ctrl+shift+s", "table", "Schedule"),
+                                 ("ctrl+f", "label", "Types"), ("ctrl+alt+p", "push button", "Add >"),
+                                 ("F6", "slider", "Seconds per clipping")):
+            window.press(keys)
+            window.find(role, name)
+            self.shoot(window, f"dialog-{keys}")
+            window.press("Escape")
+            wait(lambda: len(window.window_ids()) == 1)
+        self.assertEqual(window.close(), 0)
+
+    def test_days_are_chosen_by_keyboard_and_by_mouse(self):
+        self.put_day("07032004", ["older"])
+        self.put_day("08032004", ["newer", "another"])
+        window = self.start()
+        window.find("combo box", "08/03/2004")
+        window.press("alt+Down")
+        wait(lambda: window.row_count() == 1)
+        window.find("combo box", "07/03/2004")
+        window.click(window.find("combo box"))
+        time.sleep(0.5)
+        window.press("Up", "Return")
+        wait(lambda: window.row_count() == 2)
+        self.assertEqual(window.close(), 0)
+
+    def test_a_range_that_ends_before_it_begins_is_corrected_with_a_message(self):
+        window = self.start()
+        window.find("text", "From").get_component_iface().grab_focus()
+        window.press("ctrl+a")
+        window.type((TODAY + datetime.timedelta(days=1)).strftime("%d/%m/%Y"))
+        window.press("Return")
+        wait(lambda: "To date can not be less that From date. Please correct it." in window.texts())
+        self.assertEqual(text_of(window.find("text", "From")), TODAY.strftime("%d/%m/%Y"))
+        self.shoot(window, "message")
+        window.push("OK")
+        window.press("Up")
+        wait(lambda: text_of(window.find("text", "From")) == TODAY.strftime("%d/%m/%Y"))
+        self.assertEqual(window.close(), 0)
+
+    def test_a_double_click_opens_marks_and_keeps_its_row_when_sorted(self):
+        self.put_day("07032004", ["Β", "Α", "Γ"])
+        window = self.start()
+        window.press("ctrl+3")
+        wait(lambda: text_of(window.cell(0, 2)) == "Α")
+        window.click(window.cell(0, 2), times=2)
+        wait(lambda: self.opened.exists() and self.opened.read_text().endswith("C00001.PDF\n"))
+        wait(lambda: window.marks(0) == "Opened")
+        window.press("Down", "Return")
+        wait(lambda: self.opened.read_text().endswith("C00000.PDF\n"))
+        self.assertIn(b"C00001.PDF=1", (self.clips / "07032004/OPENED.DIR").read_bytes())
+        self.shoot(window, "opened")
+        self.assertEqual(window.close(), 0)
+
+    def test_a_run_is_seen_and_stopped(self):
+        window = self.start(**self.serve("--rate", "150", "--latency", "20"))
+        window.press("F9")
+        window.find("push button", "Stop download")
+        wait(lambda: window.row_count() >= 2)
+        wait(lambda: 0 < window.value("Progress of the whole download") < 100)
+        self.shoot(window, "running")
+        window.push("Stop download")
+        wait(lambda: "Download STOPED by user." in window.texts())
+        window.find("push button", "Start download")
+        self.assertTrue(window.find("combo box", TODAY.strftime("%d/%m/%Y")))
+        self.assertEqual(window.close(), 0)
+
+    def test_closing_during_a_run_ends_at_once_and_the_place_is_kept(self):
+        proxy = self.serve("--rate", "40")
+        window = self.start(**proxy)
+        frame = window.window_ids()[-1]
+        subprocess.run(["xdotool", "windowmove", "--sync", frame, "30", "45", "windowsize", frame, "900", "600"], check=True)
+        wait(lambda: self.geometry(window) == ["X=30", "Y=45", "WIDTH=900", "HEIGHT=600"])
+        window.press("F9")
+        wait(lambda: window.row_count() >= 1)
+        self.assertEqual(window.close(), 0)
+        again = self.start(**proxy)
+        wait(lambda: self.geometry(again) == ["X=30", "Y=45", "WIDTH=900", "HEIGHT=600"])
+        subprocess.run(["xdotool", "windowsize", "--sync", again.window_ids()[-1], "640", "500"],
+                       check=True)
+        wait(lambda: self.geometry(again)[3] == "HEIGHT=500")
+        time.sleep(0.5)
+        self.shoot(again, "small")
+        self.assertEqual(again.close(), 0)
+
+    @staticmethod
+    def geometry(window):
+        told = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window.window_ids()[-1]], capture_output=True,
+                              text=True, check=True)
+        return told.stdout.split()[1:5]
+
+    def test_a_second_one_is_refused_and_an_idle_one_rests(self):
+        window = self.start()
+        window.find("table")
+        second = self.start()
+        second.find("label", "Program is already running")
+        second.press("Return")
+        self.assertEqual(second.process.wait(30), 5)
+        refused = subprocess.run([CONSOLE, "--folder", self.folder, "download"], capture_output=True, text=True,
+                                 env={**os.environ, **self.environment}, check=False)
+        self.assertEqual((refused.returncode, refused.stderr), (5, "Program is already running\n"))
+        before = self.used_seconds(window)
+        time.sleep(3)
+        self.assertLess(self.used_seconds(window) - before, 0.06)
+        window.process.terminate()
+        self.assertEqual(window.process.wait(30), 0)
+
+    @staticmethod
+    def used_seconds(window):
+        fields = pathlib.Path(f"/proc/{window.process.pid}/stat").read_text().rsplit(")", 1)[1].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+
+
+if __name__ == "__main__":
+    pathlib.Path(SHOTS).mkdir(parents=True, exist_ok=True)
+    unittest.main(argv=[sys.argv[0], *sys.argv[5:]], verbosity=2, warnings="ignore")
