@@ -27,7 +27,11 @@ bool CalendarPopup::Create(wxWindow* parent) {
 
 void CalendarPopup::showDay(const Date& day) {
     day_ = day;
-    SetDate(pickerDate(day));
+    if (IsCreated()) SetDate(pickerDate(day));
+}
+
+void CalendarPopup::OnPopup() {
+    SetDate(pickerDate(day_));
 }
 
 wxString CalendarPopup::GetStringValue() const {

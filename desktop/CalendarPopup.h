@@ -17,7 +17,9 @@ class CalendarPopup : public wxCalendarCtrl, public wxComboPopup {
 
     void showDay(const Date& day);
 
+    bool LazyCreate() override { return true; }  // most starts of the program never need it
     bool Create(wxWindow* parent) override;
+    void OnPopup() override;
     wxWindow* GetControl() override { return this; }
     [[nodiscard]] wxString GetStringValue() const override;
     wxSize GetAdjustedSize(int minWidth, int preferredHeight, int maxHeight) override;

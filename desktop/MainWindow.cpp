@@ -148,7 +148,7 @@ void MainWindow::showAdvertisement(const std::string& path) {
 
 void MainWindow::showBusy(bool busy) {
     // A run refreshes the list several times a second: the pointer would flicker.
-    if (busy && !download_->isRunning())
+    if (busy && IsShown() && !download_->isRunning())
         busy_.emplace();
     else
         busy_.reset();

@@ -6,8 +6,9 @@
 #include <utility>
 
 #include <wx/image.h>
+#include <wx/imagjpeg.h>
 #include <wx/log.h>
-#include <wx/uilocale.h>
+#include <wx/utils.h>
 
 #include "app/frmMain.h"
 #include "desktop/ClippingsList.h"
@@ -56,12 +57,21 @@ Program::Program(std::optional<std::string> folder) : folder_(std::move(folder))
 
 Program::~Program() = default;
 
+// Nothing here is drawn with OpenGL, and that GTK asks for it is a fifth of the start. What the program starts later
+// may well want it.
+bool Program::Initialize(int& count, wxChar** arguments) {
+    const wxString variable = "GDK_GL";
+    const bool isOurs = !wxGetEnv(variable, nullptr) && wxSetEnv(variable, "disable");
+    const bool initialized = wxApp::Initialize(count, arguments);
+    if (isOurs) wxUnsetEnv(variable);
+    return initialized;
+}
+
 bool Program::OnInit() {
     SetAppName("vell");
     SetAppDisplayName("Vell");
-    wxUILocale::UseDefault();
     delete wxLog::SetActiveTarget(new wxLogStderr);  // what the toolkit has to say is no matter for message boxes
-    wxInitAllImageHandlers();
+    wxImage::AddHandler(new wxJPEGHandler);          // for the advertisement; the toolkit deletes it
     started_ = start();
     if (!started_) return true;
     for (const int signal : {SIGINT, SIGTERM})

@@ -16,6 +16,7 @@ class Program : public wxApp {
     explicit Program(std::optional<std::string> folder);
     ~Program() override;
 
+    bool Initialize(int& count, wxChar** arguments) override;
     bool OnInit() override;
     int OnRun() override;
     int OnExit() override;

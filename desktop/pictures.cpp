@@ -52,7 +52,7 @@ wxBitmapBundle toolPicture(Picture picture) {
 
 wxIconBundle programIcons() {
     wxIconBundle icons;
-    for (const int side : {16, 24, 32, 48, 64, 128, 256})
+    for (const int side : {16, 32, 64})
         icons.AddIcon(wxBitmapBundle::FromSVG(svg::vell, {side, side}).GetIcon({side, side}));
     return icons;
 }
