@@ -109,6 +109,7 @@ void frmMain::findProgramFolder() {
 void frmMain::showFirstDay() {
     days_.chooseFirst(platform_.Time.Now().Day.dayName());
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
+    startSchedule();
 }
 
 void frmMain::Form_Unload() {
@@ -175,8 +176,10 @@ void frmMain::startSchedule() {
     tmrSchedule_ = platform_.Loop.SetTimer(ScheduledRuns::tickMilliseconds, [this] { scheduled_.tmrSchedule_Timer(); });
 }
 
-frmSchedule frmMain::scheduleDialog() {
-    return {session_.Setup, ini_, platform_.Boxes, log_};
+std::vector<std::string> frmMain::dialUpNames() {
+    std::vector<std::string> names;
+    (void)ras_.VBRasGetAllEntries("", names);
+    return names;
 }
 
 frmSetup frmMain::setupDialog() {

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "app/DownloadRun.h"
 #include "app/FtpSession.h"
@@ -71,6 +72,8 @@ class frmMain {
 
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] frmSchedule scheduleDialog();
+    // The dial-up connections that the setup dialog offers.
+    [[nodiscard]] std::vector<std::string> dialUpNames();
     [[nodiscard]] ClippingsBrowser& browser() { return browser_; }
     [[nodiscard]] ClippingOpening& opening() { return opening_; }
     [[nodiscard]] PrintCommands& printing() { return printing_; }

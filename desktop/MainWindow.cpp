@@ -105,8 +105,10 @@ void MainWindow::bindCommands() {
             id);
     });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-        tell([](auto& events) { events.closing(); });
-        event.Skip();
+        if (events_)
+            events_->closing();  // ends the process, in its own time
+        else
+            event.Skip();
     });
 }
 

@@ -17,10 +17,15 @@
 #include "desktop/WindowLoop.h"
 #include "desktop/WxMessageBoxes.h"
 #include "platform/asio/AsioEventLoop.h"
+#include "platform/asio/AsioSockets.h"
 #include "platform/posix/CurlInternet.h"
+#include "platform/posix/NetworkInterfaces.h"
+#include "platform/posix/NetworkManagerClient.h"
+#include "platform/posix/PosixConnection.h"
 #include "platform/posix/PosixFiles.h"
 #include "platform/posix/PosixIniFile.h"
 #include "platform/posix/PosixProcess.h"
+#include "platform/posix/PosixRas.h"
 #include "platform/posix/PosixShell.h"
 #include "platform/posix/SystemClock.h"
 
@@ -36,7 +41,7 @@ struct Program::Parts {
     explicit Parts(const std::optional<std::string>& folder)
         : Place(ProgramPlace::ofThisProcess(folder)),
           Window(*new MainWindow(Time, Disk)),  // the toolkit deletes its windows
-          Main({Time, Loop, Disk, Ini, Internet, Boxes, Place, Opener}, Window, VELL_VERSION),
+          Main({Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Place, Opener}, Window, VELL_VERSION),
           Events(Main, Window, Boxes, [] { std::quick_exit(0); }) {}
 
     SystemClock Time;
@@ -44,6 +49,10 @@ struct Program::Parts {
     PosixFiles Disk;
     PosixIniFile Ini{Disk};
     CurlInternet Internet{Loop, Time};
+    AsioSockets Net{Loop};
+    NetworkManagerClient Manager{Loop, Time, ""};
+    PosixConnection Connection{Manager, configuredProxy()};
+    PosixRas Ras{Manager};
     PosixProcess Place;
     PosixShell Opener;
     WxMessageBoxes Boxes;

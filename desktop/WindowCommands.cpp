@@ -91,7 +91,7 @@ void WindowCommands::showAutoView() {
 }
 
 void WindowCommands::setUp() {
-    if (SetupDialog(&window_, program_.setupDialog(), boxes_, {}).ShowModal() == wxID_OK)
+    if (SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()).ShowModal() == wxID_OK)
         program_.dayCommands().reload();
 }
 
@@ -143,6 +143,7 @@ void WindowCommands::toDateChanged(const Date& to) {
 }
 
 void WindowCommands::closing() {
+    if (std::exchange(closing_, true)) return;  // the end may ask the user something, who may close once more
     program_.Form_Unload();
     end_();
 }

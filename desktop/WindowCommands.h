@@ -52,6 +52,7 @@ class WindowCommands : public WindowEvents {
     std::function<void()> end_;
     std::map<int, Entry> table_;
     wxWeakRef<AutoViewWindow> autoView_;
+    bool closing_ = false;
     bool downloading_ = false;  // from the user's start to its end; between two days no run is under way
 };
 

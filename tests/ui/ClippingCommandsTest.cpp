@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
+#include "base/text.h"
 #include "store/Articles.h"
 #include "tests/support/RecordingShell.h"
 #include "tests/support/RecordingView.h"
@@ -24,10 +25,10 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
   protected:
     ClippingCommandsTest() {
         for (const char* name : {"A.PDF", "B.PDF", "C.PDF", "D.PDF"})
-            putIntoDay(name, "x");
-        putIntoDay("ALLFILES.DIR",
-                   "A.PDF||N||first|| Politics ||News\r\nB.PDF||N||second||POLITICS||News|Comment\r\n"
-                   "C.PDF||N||third||Politics|Economy||Report\r\nD.PDF||N||fourth||||\r\n\r\n");
+            put(name, "x");
+        put("ALLFILES.DIR",
+            "A.PDF||N||first|| Politics ||News\r\nB.PDF||N||second||POLITICS||News|Comment\r\n"
+            "C.PDF||N||third||Politics|Economy||Report\r\nD.PDF||N||fourth||||\r\n\r\n");
         browser.PopulateDateCombo();
         browser.chooseDay("07/03/2004");
         setup.PrintAllDelay = 3;
@@ -40,11 +41,15 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
             text += row.Opened && row.Printed ? 'B' : row.Opened ? 'O' : row.Printed ? 'P' : '-';
         return text;
     }
-    // The files that the shell was asked for since the last call.
+    // The names of the files that the shell was asked for since the last call.
     Texts asked() {
         Texts names;
-        for (const std::string& call : std::exchange(shell.Opened, {}))
-            names.push_back(call.substr(call.rfind('\\') + 1));
+        for (const std::string_view call : Split(shell.Opened, "\n")) {
+            if (call.empty()) continue;
+            const std::string_view name = Mid(call, InStrRev(call, "\\") + 1);
+            names.emplace_back(name.substr(0, name.find_first_of(" \"")));
+        }
+        shell.Opened.clear();
         return names;
     }
     void wait(int seconds) {
@@ -69,9 +74,9 @@ TEST_F(ClippingCommandsTest, aDoubleClickOpensOnceAndEnterAlways) {
     EXPECT_EQ(marks(), "-O--");
     EXPECT_THAT(view.Marked, ElementsAre(1U));
     opening.grdLocalFiles_DblClick(1);
-    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    EXPECT_THAT(asked(), ElementsAre("B.PDF"));
     opening.openRow(1);
-    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    EXPECT_THAT(asked(), ElementsAre("B.PDF"));
     shell.Result = 31;
     opening.grdLocalFiles_DblClick(2);
     EXPECT_EQ(marks(), "-O--") << "what could not be opened is not marked";
@@ -81,25 +86,25 @@ TEST_F(ClippingCommandsTest, aDoubleClickOpensOnceAndEnterAlways) {
 
 TEST_F(ClippingCommandsTest, opensTheNextTwentyThatWereNotOpenedAndStopsAtAFailure) {
     for (int i = 10; i < 40; ++i)
-        putIntoDay("E" + std::to_string(i) + ".PDF", "x");
+        put("E" + std::to_string(i) + ".PDF", "x");
     opening.openRow(0);
     browser.PopulateLocalFilesGrid();
     asked();
     opening.openNext20();
     EXPECT_EQ(asked().size(), 20U);
     opening.openNext20();
-    EXPECT_EQ(asked().back(), "E39.PDF|");
+    EXPECT_EQ(asked().back(), "E39.PDF");
     opening.openNext20();
     EXPECT_THAT(asked(), IsEmpty());
     days.mnuDeleteDay_Click();
-    putIntoDay("F.PDF", "x");
-    putIntoDay("G.PDF", "x");
+    put("F.PDF", "x");
+    put("G.PDF", "x");
     browser.PopulateLocalFilesGrid();
     shell.Result = 2;
     opening.openNext20();
-    EXPECT_THAT(asked(), ElementsAre("F.PDF|"));
+    EXPECT_THAT(asked(), ElementsAre("F.PDF"));
     opening.openDayFolder();
-    EXPECT_EQ(shell.Opened.back(), day.gDayFolder + "|");
+    EXPECT_EQ(shell.Opened, day.gDayFolder + " <>\n");
 }
 
 TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
@@ -125,7 +130,7 @@ TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
 
 TEST_F(ClippingCommandsTest, printsTheSelectedRowAlone) {
     printing.mnuPrintSel_Click(2);
-    EXPECT_THAT(asked(), ElementsAre("C.PDF\""));
+    EXPECT_THAT(asked(), ElementsAre("C.PDF"));
     EXPECT_EQ(marks(), "--P-");
 }
 
@@ -143,7 +148,7 @@ TEST_F(ClippingCommandsTest, printsWholeCategoriesWithoutMarkingThem) {
     EXPECT_THAT(dialog.lstAllCategories(), ElementsAre("POLITICS", "Politics,Economy"));
     EXPECT_THAT(dialog.lstPrintCategories(), ElementsAre("Politics"));
     dialog.cmdPrint_Click(status);
-    EXPECT_THAT(asked(), ElementsAre("B.PDF\"")) << "categories are compared whole, without regard to case";
+    EXPECT_THAT(asked(), ElementsAre("B.PDF")) << "categories are compared whole, without regard to case";
     EXPECT_THAT(statuses, ElementsAre("Printing 1/1 B.PDF", ""));
     EXPECT_EQ(marks(), "----");
     EXPECT_FALSE(printing.isPrinting());
@@ -172,13 +177,13 @@ TEST_F(ClippingCommandsTest, filtersByCategoryAndTypeAndOffersWhatTheDayHas) {
 
 TEST_F(ClippingCommandsTest, autoViewOpensOneAfterAnotherUntilTheEndOrAFailure) {
     autoView.start(1);
-    EXPECT_THAT(asked(), ElementsAre("B.PDF|"));
+    EXPECT_THAT(asked(), ElementsAre("B.PDF"));
     EXPECT_EQ(autoView.position(), "2/4 second");
     wait(4);
     EXPECT_THAT(asked(), IsEmpty());
     autoView.setDelay(2);
     wait(2);
-    EXPECT_THAT(asked(), ElementsAre("C.PDF|"));
+    EXPECT_THAT(asked(), ElementsAre("C.PDF"));
     wait(2);
     EXPECT_EQ(marks(), "-OOO");
     EXPECT_FALSE(autoView.isRunning());
@@ -200,21 +205,21 @@ TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
         std::filesystem::create_directories(folder.path() / "clips" / name);
     browser.PopulateDateCombo();
     days.chooseNewer();
-    EXPECT_EQ(view.Chosen, "08/03/2004");
+    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
     days.chooseNewer();
-    EXPECT_EQ(view.Chosen, "08/03/2004");
+    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
     days.chooseOlder();
     days.mnuDeleteDay_Click();
-    EXPECT_TRUE(dayHas("A.PDF"));
+    EXPECT_TRUE(has("A.PDF"));
     boxes.Answers = {Answer::Yes};
     days.mnuDeleteDay_Click();
     EXPECT_FALSE(folder.has("clips/07032004"));
-    EXPECT_EQ(view.Chosen, "08/03/2004");
+    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
     days.chooseFirst("06/03/2004");
-    EXPECT_EQ(view.Chosen, "06/03/2004");
+    EXPECT_EQ(view.Days, "08/03/2004 *06/03/2004 ");
     std::filesystem::remove_all(folder.path() / "clips");
     days.reload();
-    EXPECT_EQ(view.Chosen + view.Rows, "");
+    EXPECT_EQ(view.Days + view.Rows, "");
 }
 
 }  // namespace
