@@ -126,7 +126,8 @@ void DownloadRun::fetchOne(std::int32_t index) {
         ok = retry(turn);
     }
     lastOk_ = ok;
-    if (!ok && !state.gStopRequested) ++state.Outcome.FilesFailed;
+    // A day without its advertisement is a whole day.
+    if (!ok && !state.gStopRequested && !turn.IsAdvertisement) ++state.Outcome.FilesFailed;
     keepBooks(name, ok);
     p_.Log.WriteLog(statusLine(ok));
     p_.Browser.refreshDuringRun();

@@ -40,7 +40,7 @@ git grep -n -E '#include <(asio|curl|gio|glib|wx|windows|unistd|sys/|poll)' -- '
   ':!demo/' ':!tests/' ':!bench/' && fail "system headers outside platform/"
 
 echo "== documents"
-for folder in "${floors[@]}" console demo tests bench; do
+for folder in "${floors[@]}" console desktop demo tests bench fuzz packaging; do
   [ ! -d "$folder" ] || grep -q "\`$folder/\`" docs/architecture.md || fail "docs/architecture.md does not name $folder/"
 done
 if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh .ci/run || fail "shellcheck"; fi
@@ -48,13 +48,13 @@ if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh 
 echo "== headers compile alone"
 cmake --preset debug >/dev/null
 flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED -DVELL_CONSOLE=__FILE__ $(pkg-config --cflags gio-2.0)"
-headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|desktop)/')
+headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|desktop|bench)/')
 # shellcheck disable=SC2086
 echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ -include {} /dev/null || fail "a header does not compile alone"
 
 if [ "$fast" -eq 0 ]; then
   echo "== clang-tidy"
-  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop|fuzz|bench)/')
+  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop|tests/desktop|fuzz|bench)/')
   echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --extra-arg=-Wno-unknown-warning-option 2>/dev/null || fail "clang-tidy"
 
   echo "== MinGW-w64"

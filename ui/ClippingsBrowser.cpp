@@ -33,7 +33,9 @@ ClippingsBrowser::ClippingsBrowser(modGlobal& store, Files& files, BrowserView& 
 void ClippingsBrowser::PopulateDateCombo() {
     trapStep(log_, "PopulateDateCombo()", [&] {
         std::vector<std::string> names;
-        for (const std::string& folder : store_.GetLocalDirectories(settings_.LocalDir, false))
+        std::vector<std::string> folders;
+        if (!settings_.LocalDir.empty()) folders = store_.GetLocalDirectories(settings_.LocalDir, false);
+        for (const std::string& folder : folders)
             if (const auto date = Date::fromFolderName(folder)) names.push_back(date->dayName());
         days_ = store_.DateSort(std::move(names));
         if (std::find(days_.begin(), days_.end(), day_.cmbDate) == days_.end()) day_.cmbDate.clear();

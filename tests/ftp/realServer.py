@@ -35,7 +35,7 @@ if not os.access(program, os.X_OK):
 me = os.stat(folder)
 with open(os.open(config + '.users', os.O_WRONLY | os.O_CREAT, 0o600), 'w') as file:
     file.write(f'vell:{crypt.crypt("ruxo")}:{me.st_uid}:{me.st_gid}::{folder}:/bin/sh\n')
-settings = ('ServerType inetd\nRequireValidShell off\nRootLogin on\nUseIPv6 off\nWtmpLog off\nTransferLog none\n'
+settings = ('ServerType inetd\nDefaultAddress 127.0.0.1\nRequireValidShell off\nRootLogin on\nUseIPv6 off\nWtmpLog off\nTransferLog none\n'
             f'SystemLog none\nScoreboardFile {config}.board\nAuthOrder mod_auth_file.c\nDefaultRoot ~\n'
             f'AuthUserFile {config}.users\nAllowOverwrite on\nAllowStoreRestart on\n')
 with open(config, 'w') as file:
