@@ -20,6 +20,6 @@ struct PictureSize {
 // True when decoding the file cannot take much memory: a small file may claim to be a huge picture.
 [[nodiscard]] bool isDecentPicture(std::string_view bytes);
 // Longer files are not even looked at.
-inline constexpr std::int64_t longestPicture = 4 * 1024 * 1024;
+inline constexpr std::int64_t longestPicture = std::int64_t{4} << 20;
 
 }  // namespace vell

@@ -85,7 +85,7 @@ TEST(PictureSizeTest, readsTheHeadsOfPicturesAndDistrustsTheRest) {
         EXPECT_EQ(pictureSize(picture), size);
         EXPECT_TRUE(isDecentPicture(picture));
         for (std::size_t length = 0; length + 1 < std::min<std::size_t>(picture.size(), 22); ++length)
-            EXPECT_NE(pictureSize(picture.substr(0, length)), PictureSize(0, 0));
+            EXPECT_NE(pictureSize(picture.substr(0, length)), (PictureSize{0, 0}));
         EXPECT_FALSE(isDecentPicture(picture + std::string(longestPicture, ' ')));
     }
     std::string bomb = png;
