@@ -9,6 +9,7 @@
 #include <wx/image.h>
 #include <wx/log.h>
 #include <wx/mstream.h>
+#include <wx/sizer.h>
 
 #include "desktop/accessibleName.h"
 #include "platform/Files.h"
@@ -17,8 +18,10 @@
 namespace vell {
 
 namespace {
-constexpr int highest = 140;       // DIP; the alert needs its room, too
-constexpr int lowestWindow = 520;  // in a lower one the picture gives way to the rest
+// Heights in DIP.
+constexpr int highest = 140;
+constexpr int lowest = 60;   // below that the picture gives way
+constexpr int others = 380;  // what stands above it needs at least
 }  // namespace
 
 Advertisement::Advertisement(wxWindow* parent, const Files& files) : wxPanel(parent), files_(files) {
@@ -53,17 +56,17 @@ wxImage Advertisement::load(const std::string& path) const {
 }
 
 wxSize Advertisement::fittedSize() const {
-    if (!picture_.IsOk()) return {};
+    const int height = std::min(GetParent()->GetClientSize().GetHeight() - FromDIP(others), FromDIP(highest));
+    if (!picture_.IsOk() || height < FromDIP(lowest)) return {};
     const wxSize natural = FromDIP(picture_.GetSize());
-    const double room = GetParent()->GetClientSize().GetWidth();
-    const double scale =
-        std::min({1.0, room / natural.GetWidth(), static_cast<double>(FromDIP(highest)) / natural.GetHeight()});
+    const double width = GetContainingSizer()->GetMinSize().GetWidth();
+    const double scale = std::min({1.0, width / natural.GetWidth(), static_cast<double>(height) / natural.GetHeight()});
     return {static_cast<int>(natural.GetWidth() * scale), static_cast<int>(natural.GetHeight() * scale)};
 }
 
 void Advertisement::fit() {
-    Show(picture_.IsOk() && GetParent()->GetClientSize().GetHeight() >= FromDIP(lowestWindow));
     const wxSize size = fittedSize();
+    Show(size != wxSize());
     if (size != GetMinSize()) SetMinSize(size);
 }
 

@@ -45,6 +45,7 @@ ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events
     });
     list_->Bind(wxEVT_KEY_DOWN, &ClippingsList::onKey, this);
     list_->Bind(wxEVT_CHAR, &ClippingsList::onCharacter, this);
+    list_->Bind(wxEVT_MOTION, &ClippingsList::onMotion, this);
 }
 
 ClippingsList::~ClippingsList() {
@@ -77,7 +78,6 @@ void ClippingsList::show(const std::vector<ClippingRow>& rows) {
     const auto current = currentRow();
     const std::string path = current ? model_->at(*current).path() : std::string();
     if (!model_->setRows(rows) || !list_->GetSelection().IsOk()) restoreSelection(path);
-    list_->Refresh();  // marks may have changed where the rows have not
 }
 
 void ClippingsList::restoreSelection(const std::string& path) {
@@ -145,6 +145,22 @@ void ClippingsList::onKey(wxKeyEvent& event) {
         events_.Entered(*row);
     else
         event.Skip();
+}
+
+// Columns cut long titles: the tip shows all of the row under the mouse. The event's own place would not do: on GTK it
+// is counted from below the header, where HitTest counts from above it.
+void ClippingsList::onMotion(wxMouseEvent& event) {
+    event.Skip();
+    wxDataViewItem item;
+    wxDataViewColumn* column = nullptr;
+    list_->HitTest(list_->ScreenToClient(wxGetMousePosition()), item, column);
+    wxString tip;
+    if (item.IsOk()) {
+        const CFtpFile& clipping = *model_->at(model_->order().rowAt(model_->GetRow(item))).File;
+        for (const std::string& text : {clipping.Description, clipping.NewspaperName, clipping.Category})
+            if (!text.empty()) tip += (tip.empty() ? "" : "\n") + shownLine(text);
+    }
+    if (list_->GetToolTipText() != tip) list_->SetToolTip(tip);
 }
 
 void ClippingsList::onCharacter(wxKeyEvent& event) {

@@ -17,6 +17,7 @@ class wxDataViewColumn;
 class wxDataViewCtrl;
 class wxDataViewEvent;
 class wxKeyEvent;
+class wxMouseEvent;
 
 namespace vell {
 
@@ -50,6 +51,7 @@ class ClippingsList : public wxPanel {
     void addColumns();
     void onKey(wxKeyEvent& event);
     void onCharacter(wxKeyEvent& event);
+    void onMotion(wxMouseEvent& event);
     void restoreSelection(const std::string& path);
     void showSortArrow();
     [[nodiscard]] wxDataViewColumn& columnOf(GridColumn column) const;

@@ -15,6 +15,20 @@ namespace {
 // More rows than that are shown faster all at once than one by one.
 constexpr std::size_t mostInsertedOneByOne = 64;
 
+std::vector<std::string> pathsOf(const std::vector<ClippingRow>& rows) {
+    std::vector<std::string> paths;
+    paths.reserve(rows.size());
+    for (const ClippingRow& row : rows)
+        paths.push_back(row.path());
+    return paths;
+}
+
+bool looksSame(const ClippingRow& a, const ClippingRow& b) {
+    const bool sameTexts = std::ranges::all_of(
+        gridColumns, [&](const auto& layout) { return cellText(a, layout.Column) == cellText(b, layout.Column); });
+    return sameTexts && a.Opened == b.Opened && a.Printed == b.Printed;
+}
+
 // The marks as a screen reader says them. The blanks in front push the words out of sight behind the picture, which
 // fills the column.
 wxString spokenMarks(const ClippingRow& row) {
@@ -29,17 +43,29 @@ ClippingsModel::ClippingsModel()
     : imgOpenPrinter_{rowPicture(Picture::Opened), rowPicture(Picture::Printed), rowPicture(Picture::Both)} {}
 
 bool ClippingsModel::setRows(const std::vector<ClippingRow>& rows) {
-    const std::vector<std::string> before = shownPaths();
+    const std::vector<ClippingRow> before = shownRows();
     rows_ = rows;
     order_.rebuild(rows_);
-    const auto inserted = insertedPlaces(before, shownPaths());
+    const auto inserted = insertedPlaces(pathsOf(before), pathsOf(shownRows()));
     if (!inserted || inserted->size() > mostInsertedOneByOne) {
         Reset(static_cast<unsigned int>(rows_.size()));
         return false;
     }
-    for (const std::size_t place : *inserted)
-        RowInserted(static_cast<unsigned int>(place));
+    tellChanges(before, *inserted);
     return true;
+}
+
+void ClippingsModel::tellChanges(const std::vector<ClippingRow>& before, const std::vector<std::size_t>& inserted) {
+    auto next = inserted.begin();
+    auto old = before.begin();
+    for (std::size_t place = 0; place < rows_.size(); ++place) {
+        if (next != inserted.end() && *next == place) {
+            RowInserted(static_cast<unsigned int>(place));
+            ++next;
+        } else if (!looksSame(*old++, rows_[order_.rowAt(place)])) {
+            RowChanged(static_cast<unsigned int>(place));
+        }
+    }
 }
 
 void ClippingsModel::setMarks(std::size_t row, const ClippingRow& marked) {
@@ -87,12 +113,12 @@ bool ClippingsModel::SetValueByRow(const wxVariant& /*value*/, unsigned int /*pl
     return false;
 }
 
-std::vector<std::string> ClippingsModel::shownPaths() const {
-    std::vector<std::string> paths;
-    paths.reserve(rows_.size());
+std::vector<ClippingRow> ClippingsModel::shownRows() const {
+    std::vector<ClippingRow> shown;
+    shown.reserve(rows_.size());
     for (std::size_t place = 0; place < order_.size(); ++place)
-        paths.push_back(rows_[order_.rowAt(place)].path());
-    return paths;
+        shown.push_back(rows_[order_.rowAt(place)]);
+    return shown;
 }
 
 }  // namespace vell

@@ -21,8 +21,8 @@ class ClippingsModel : public wxDataViewVirtualListModel {
   public:
     ClippingsModel();
 
-    // Others now. The control is told as little as is needed: new rows in between move nothing. False when everything
-    // had to be shown anew, which loses the control's selection and place.
+    // Others now. The control is told as little as is needed: new rows in between, and those that look different, move
+    // nothing. False when everything had to be shown anew, which loses the control's selection and place.
     bool setRows(const std::vector<ClippingRow>& rows);
     void setMarks(std::size_t row, const ClippingRow& marked);
     void sortBy(GridColumn column);
@@ -39,7 +39,8 @@ class ClippingsModel : public wxDataViewVirtualListModel {
     bool SetValueByRow(const wxVariant& value, unsigned int place, unsigned int column) override;
 
   private:
-    [[nodiscard]] std::vector<std::string> shownPaths() const;
+    [[nodiscard]] std::vector<ClippingRow> shownRows() const;
+    void tellChanges(const std::vector<ClippingRow>& before, const std::vector<std::size_t>& inserted);
 
     std::vector<ClippingRow> rows_;
     RowOrder order_;

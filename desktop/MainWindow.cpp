@@ -20,6 +20,7 @@
 #include "desktop/ProgressPane.h"
 #include "desktop/StatusLine.h"
 #include "desktop/WindowEvents.h"
+#include "desktop/insistOnPlace.h"
 #include "desktop/pictures.h"
 #include "desktop/screenText.h"
 #include "desktop/twips.h"
@@ -94,12 +95,15 @@ wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
     return bar;
 }
 
+// Commands begin after the event that asked for them: one may last as long as a download, and a screen reader that
+// pushed the button would be held up by it.
 void MainWindow::bindCommands() {
     forEachCommand([this](int id) {
-        Bind(
-            wxEVT_MENU, [this, id](wxCommandEvent& /*event*/) { tell([=](auto& e) { e.commandChosen(id); }); }, id);
-        Bind(
-            wxEVT_BUTTON, [this, id](wxCommandEvent& /*event*/) { tell([=](auto& e) { e.commandChosen(id); }); }, id);
+        const auto begin = [this, id](wxCommandEvent& /*event*/) {
+            CallAfter([this, id] { tell([=](auto& events) { events.commandChosen(id); }); });
+        };
+        Bind(wxEVT_MENU, begin, id);
+        Bind(wxEVT_BUTTON, begin, id);
         Bind(
             wxEVT_UPDATE_UI, [this, id](wxUpdateUIEvent& event) { event.Enable(events_ && events_->isEnabled(id)); },
             id);
@@ -192,7 +196,9 @@ void MainWindow::placeWindow(const WindowPlace& place) {
     const auto pixels = [this](int twips) { return pixelsFromTwips(*this, twips); };
     wxRect window(pixels(place.Left), pixels(place.Top), pixels(place.Width), pixels(place.Height));
     window.SetSize({std::max(window.GetWidth(), GetMinWidth()), std::max(window.GetHeight(), GetMinHeight())});
-    SetSize(reachable(window));
+    window = reachable(window);
+    SetSize(window);
+    insistOnPlace(*this, window.GetPosition());
     list_->setColumnWidth(GridColumn::Newspaper, pixels(place.NewspaperWidth));
     list_->setColumnWidth(GridColumn::Type, pixels(place.TypeWidth));
 }

@@ -52,7 +52,7 @@ PrintDialog::PrintDialog(wxWindow* parent, frmPrint rules)
     cmdPrint->SetDefault();
     SetEscapeId(wxID_CLOSE);
     Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { print(); }, wxID_PRINT);
+        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { print(); }); }, wxID_PRINT);
     lstAllCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { addOne(); });
     lstPrintCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { removeOne(); });
     show();

@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <iostream>
 #include <utility>
 
 #include <wx/image.h>
@@ -69,18 +70,19 @@ Program::~Program() = default;
 // Nothing here is drawn with OpenGL, and that GTK asks for it is a fifth of the start. What the program starts later
 // may well want it.
 bool Program::Initialize(int& count, wxChar** arguments) {
+    delete wxLog::SetActiveTarget(new wxLogStderr);  // what the toolkit has to say is no matter for message boxes
     const wxString variable = "GDK_GL";
     const bool isOurs = !wxGetEnv(variable, nullptr) && wxSetEnv(variable, "disable");
     const bool initialized = wxApp::Initialize(count, arguments);
     if (isOurs) wxUnsetEnv(variable);
+    if (!initialized) std::cerr << "vell: There is no display to show the window on. vell-console needs none.\n";
     return initialized;
 }
 
 bool Program::OnInit() {
     SetAppName("vell");
     SetAppDisplayName("Vell");
-    delete wxLog::SetActiveTarget(new wxLogStderr);  // what the toolkit has to say is no matter for message boxes
-    wxImage::AddHandler(new wxJPEGHandler);          // for the advertisement; the toolkit deletes it
+    wxImage::AddHandler(new wxJPEGHandler);  // for the advertisement; the toolkit deletes it
     started_ = start();
     if (!started_) return true;
     for (const int signal : {SIGINT, SIGTERM})

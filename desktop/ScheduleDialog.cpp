@@ -31,7 +31,9 @@ ScheduleDialog::ScheduleDialog(wxWindow* parent, frmSchedule rules)
     Bind(
         wxEVT_BUTTON,
         [this](wxCommandEvent& /*event*/) {
-            if (rules_.cmdOk_Click()) EndModal(wxID_OK);
+            CallAfter([this] {
+                if (rules_.cmdOk_Click()) EndModal(wxID_OK);
+            });
         },
         wxID_OK);
     show(0);
@@ -52,7 +54,7 @@ wxSizer* ScheduleDialog::buttons() {
     const auto add = [&](const wxString& label, auto action) {
         auto* button = new wxButton(this, wxID_ANY, label);
         column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM));
-        button->Bind(wxEVT_BUTTON, [action](wxCommandEvent& /*event*/) { action(); });
+        button->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent& /*event*/) { CallAfter(action); });
     };
     add("&Add...", [this] {
         const std::size_t before = rules_.rows().size();
@@ -96,12 +98,12 @@ void ScheduleDialog::onToggle(wxDataViewEvent& event) {
         rules_.grdSchedule_Click(*this, static_cast<std::size_t>(row), static_cast<std::size_t>(event.GetColumn()));
 }
 
-// A click on a time changes it.
+// A click on a time changes it. On GTK the event's own place is counted from below the header, HitTest from above it.
 void ScheduleDialog::onClick(wxMouseEvent& event) {
     event.Skip();
     wxDataViewItem item;
     wxDataViewColumn* column = nullptr;
-    grdSchedule_->HitTest(event.GetPosition(), item, column);
+    grdSchedule_->HitTest(grdSchedule_->ScreenToClient(wxGetMousePosition()), item, column);
     if (item.IsOk() && column && column->GetModelColumn() == frmSchedule::timeColumn) CallAfter([this] { edit(); });
 }
 

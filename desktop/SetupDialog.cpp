@@ -69,7 +69,7 @@ SetupDialog::SetupDialog(wxWindow* parent, frmSetup rules, MessageBoxes& boxes, 
     CentreOnParent();
     showEnabled();
     Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { ok(); }, wxID_OK);
+        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { ok(); }); }, wxID_OK);
 }
 
 SetupDialog::~SetupDialog() {
@@ -143,7 +143,7 @@ void SetupDialog::addFolder(wxWindow* page, wxFlexGridSizer& sizer) {
     sizer.Add(label, wxSizerFlags().CentreVertical());
     sizer.Add(row, wxSizerFlags().Expand());
     keepText(SetupField::LocalDir, label, text, text);
-    cmdSelDirectory->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { chooseFolder(); });
+    cmdSelDirectory->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { chooseFolder(); }); });
 }
 
 void SetupDialog::addText(wxWindow* page, wxFlexGridSizer& sizer, SetupField field, const wxString& label) {

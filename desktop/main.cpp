@@ -20,5 +20,7 @@ int main(int argc, char** argv) {
     }
     wxApp::SetInstance(new vell::Program(folder.empty() ? std::nullopt : std::optional(folder)));  // the toolkit's now
     int nameOnly = 1;
-    return wxEntry(nameOnly, argv);
+    constexpr int failed = 1;
+    const int exitCode = wxEntry(nameOnly, argv);
+    return exitCode < 0 ? failed : exitCode;  // the toolkit's way to say that it could not begin
 }

@@ -27,7 +27,7 @@ def wait(condition, seconds=30):
 
 
 def text_of(node):
-    interface = node.get_text_iface()
+    interface = node and node.get_text_iface()
     return Atspi.Text.get_text(interface, 0, -1).strip() if interface else ""
 
 
@@ -80,12 +80,12 @@ class Window:
     def value(self, name):
         return self.find("progress bar", name).get_value_iface().get_current_value()
 
-    def press(self, *keys):
+    def press(self, *keys, how="key"):
         window = self.window_ids()[-1]
-        subprocess.run(["xdotool", "windowfocus", "--sync", window, "key", *keys], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", window, how, *keys], check=True)
 
     def type(self, text):
-        subprocess.run(["xdotool", "type", text], check=True)
+        self.press(text, how="type")
 
     def push(self, name):
         self.find("push button", name).get_action_iface().do_action(0)
