@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/frmMain.h"
+#include "base/ScopedFlag.h"
 #include "desktop/AboutDialog.h"
 #include "desktop/ClippingsList.h"
 #include "desktop/FilterDialog.h"
@@ -12,7 +13,6 @@
 #include "desktop/ScheduleDialog.h"
 #include "desktop/SetupDialog.h"
 #include "desktop/commandIds.h"
-#include "ui/ScopedFlag.h"
 
 namespace vell {
 

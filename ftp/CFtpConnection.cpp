@@ -5,10 +5,10 @@
 #include <limits>
 #include <utility>
 
+#include "base/ScopedFlag.h"
 #include "base/errors.h"
 #include "ftp/FtpArguments.h"
 #include "ftp/FtpListing.h"
-#include "ftp/ScopedFlag.h"
 #include "platform/Clock.h"
 
 namespace vell {

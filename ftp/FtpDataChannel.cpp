@@ -5,10 +5,10 @@
 #include <limits>
 #include <utility>
 
+#include "base/ScopedFlag.h"
 #include "base/errors.h"
 #include "ftp/FtpContext.h"
 #include "ftp/FtpSocketLog.h"
-#include "ftp/ScopedFlag.h"
 
 namespace vell {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "ftp/ScopedFlag.h"
+#include "base/ScopedFlag.h"
 
 namespace vell {
 

@@ -5,13 +5,13 @@
 #include <utility>
 #include <vector>
 
+#include "base/ScopedFlag.h"
 #include "base/text.h"
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
 #include "store/Articles.h"
 #include "store/modGlobal.h"
 #include "ui/ClippingsBrowser.h"
-#include "ui/ScopedFlag.h"
 
 namespace vell {
 

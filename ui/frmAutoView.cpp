@@ -3,10 +3,10 @@
 
 #include <algorithm>
 
+#include "base/ScopedFlag.h"
 #include "config/Settings.h"
 #include "ui/ClippingOpening.h"
 #include "ui/ClippingsBrowser.h"
-#include "ui/ScopedFlag.h"
 
 namespace vell {
 

@@ -5,13 +5,13 @@
 #include <iterator>
 #include <utility>
 
+#include "base/ScopedFlag.h"
 #include "base/text.h"
 #include "config/Settings.h"
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
 #include "store/Articles.h"
 #include "ui/ClippingsBrowser.h"
-#include "ui/ScopedFlag.h"
 
 namespace vell {
 
