@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Downloads today's clippings from the bundled demo service and shows them. Installs what is missing and builds first.
+# Downloads today's clippings from the bundled demo service and shows them in the window; on a machine without a display
+# in the terminal. Installs what is missing and builds first.
 #   ./demo.sh           today's day
 #   ./demo.sh --range   three days, one of them without clippings
 #   ./demo.sh --ftp     over FTP instead of HTTP; may be combined with --range
@@ -20,7 +21,7 @@ done
 tools/packages.sh build
 echo "Building Vell ..."
 cmake --preset release >/dev/null
-cmake --build --preset release --target vell-console vell-demo-service
+cmake --build --preset release
 bin=$PWD/build/release/bin
 demo=$PWD/build/demo
 mkdir -p "$demo/program" "$demo/clippings"
@@ -69,14 +70,28 @@ else
   vell download || code=$?
 fi
 [ "$code" -eq 0 ] || { echo "demo.sh: the download ended with code $code" >&2; exit "$code"; }
-echo
-vell list
-cat <<END
+
+say_where() {
+  cat <<END
 
 The clippings lie in     ${demo#"$PWD"/}/clippings, a folder per day
 Settings and log         ${demo#"$PWD"/}/program (set Debug=1 in vell.ini to keep the log)
 Look further, for example
+  build/release/bin/vell --folder build/demo/program
   build/release/bin/vell-console --folder build/demo/program days
   build/release/bin/vell-console --folder build/demo/program list --tsv
   build/release/bin/vell-console --help
 END
+}
+
+# The service goes on as long as the window, whose Download button asks it again.
+if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+  say_where
+  printf '\nThe window shows the clippings of today. Close it to end the demo.\n'
+  "$bin/vell" --folder "$demo/program" && exit 0
+  printf '\nThe window could not be shown. The clippings of today:\n\n'
+else
+  printf '\nThere is no display to show the window on. The clippings of today:\n\n'
+fi
+vell list
+say_where

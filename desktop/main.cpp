@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <exception>
+#include <iostream>
 #include <optional>
 #include <string>
 
@@ -7,7 +9,11 @@
 
 #include "desktop/Program.h"
 
-int main(int argc, char** argv) {
+namespace {
+
+constexpr int failed = 1;
+
+int runWindow(int argc, char** argv) {
     CLI::App line("The desktop client of a press-clipping service.", "vell");
     std::string folder;
     line.add_option("--folder", folder, "The folder for settings and log; the usual one without it")->type_name("DIR");
@@ -20,7 +26,17 @@ int main(int argc, char** argv) {
     }
     wxApp::SetInstance(new vell::Program(folder.empty() ? std::nullopt : std::optional(folder)));  // the toolkit's now
     int nameOnly = 1;
-    constexpr int failed = 1;
     const int exitCode = wxEntry(nameOnly, argv);
     return exitCode < 0 ? failed : exitCode;  // the toolkit's way to say that it could not begin
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runWindow(argc, argv);
+    } catch (const std::exception& error) {
+        std::cerr << "vell: " << error.what() << '\n';
+        return failed;
+    }
 }

@@ -47,14 +47,14 @@ if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh 
 
 echo "== headers compile alone"
 cmake --preset debug >/dev/null
-flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED -DVELL_CONSOLE=__FILE__ $(pkg-config --cflags gio-2.0)"
-headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|desktop|bench)/')
+flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED -DVELL_CONSOLE=__FILE__ $(pkg-config --cflags gio-2.0) $(wx-config --cxxflags)"
+headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|bench)/')
 # shellcheck disable=SC2086
 echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ -include {} /dev/null || fail "a header does not compile alone"
 
 if [ "$fast" -eq 0 ]; then
   echo "== clang-tidy"
-  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop|tests/desktop|fuzz|bench)/')
+  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop/generic|fuzz|bench)/')
   echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --extra-arg=-Wno-unknown-warning-option 2>/dev/null || fail "clang-tidy"
 
   echo "== MinGW-w64"

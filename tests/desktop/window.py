@@ -81,8 +81,7 @@ class Window:
         return self.find("progress bar", name).get_value_iface().get_current_value()
 
     def press(self, *keys, how="key"):
-        window = self.window_ids()[-1]
-        subprocess.run(["xdotool", "windowfocus", "--sync", window, how, *keys], check=True)
+        subprocess.run(["xdotool", "windowfocus", "--sync", self.uppermost(), how, *keys], check=True)
 
     def type(self, text):
         self.press(text, how="type")
@@ -94,6 +93,10 @@ class Window:
         found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid", str(self.process.pid)],
                                capture_output=True, text=True, check=False)
         return found.stdout.split()
+
+    def uppermost(self):
+        """The id of the window or dialog in front, once there is one."""
+        return wait(self.window_ids)[-1]
 
     def click(self, node, times=1, offset=(8, 8)):
         place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)

@@ -86,6 +86,7 @@ class WindowTest(unittest.TestCase):
                                  ("F6", "slider", "Seconds per clipping")):
             window.press(keys)
             window.find(role, name)
+            wait(lambda: len(window.window_ids()) == 2)
             self.shoot(window, f"dialog-{keys}")
             window.press("Escape")
             wait(lambda: len(window.window_ids()) == 1)
@@ -193,7 +194,8 @@ class WindowTest(unittest.TestCase):
         index.write_bytes(index.read_bytes().replace(b"two||\xd0", b"two||Sport|\xd0"))
         window = self.start()
         window.press("ctrl+f")
-        window.click(wait(lambda: next(node for node in window.nodes() if text_of(node) == "Sport")), offset=(-10, 8))
+        sport = wait(lambda: next((node for node in window.nodes() if text_of(node) == "Sport"), None))
+        window.click(sport, offset=(-10, 8))
         self.shoot(window, "filter")
         window.push("OK")
         wait(lambda: "Only: Sport" in window.texts() and "1 Clippings" in window.texts())
@@ -222,7 +224,7 @@ class WindowTest(unittest.TestCase):
             self.assertEqual(window.close(), 0)
 
     def test_a_run_is_seen_and_stopped(self):
-        window = self.start(**self.serve("--rate", "150", "--latency", "20"))
+        window = self.start(**self.serve("--rate", "60", "--latency", "20"))
         window.press("F9")
         window.find("push button", "Stop download")
         wait(lambda: window.row_count() >= 2)
@@ -237,7 +239,7 @@ class WindowTest(unittest.TestCase):
     def test_closing_during_a_run_ends_at_once_and_the_place_is_kept(self):
         proxy = self.serve("--rate", "40")
         window = self.start(**proxy)
-        frame = window.window_ids()[-1]
+        frame = window.uppermost()
         subprocess.run(["xdotool", "windowmove", "--sync", frame, "30", "45", "windowsize", frame, "900", "600"], check=True)
         wait(lambda: self.geometry(window) == ["X=30", "Y=45", "WIDTH=900", "HEIGHT=600"])
         window.press("F9")
@@ -245,7 +247,7 @@ class WindowTest(unittest.TestCase):
         self.assertEqual(window.close(), 0)
         again = self.start(**proxy)
         wait(lambda: self.geometry(again) == ["X=30", "Y=45", "WIDTH=900", "HEIGHT=600"])
-        subprocess.run(["xdotool", "windowsize", "--sync", again.window_ids()[-1], "640", "500"],
+        subprocess.run(["xdotool", "windowsize", "--sync", again.uppermost(), "640", "500"],
                        check=True)
         wait(lambda: self.geometry(again)[3] == "HEIGHT=500")
         time.sleep(0.5)
@@ -254,7 +256,7 @@ class WindowTest(unittest.TestCase):
 
     @staticmethod
     def geometry(window):
-        told = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window.window_ids()[-1]], capture_output=True,
+        told = subprocess.run(["xdotool", "getwindowgeometry", "--shell", window.uppermost()], capture_output=True,
                               text=True, check=True)
         return told.stdout.split()[1:5]
 
