@@ -7,14 +7,13 @@
 
 #include "base/text.h"
 #include "config/modIni.h"
-#include "ui/GridColumns.h"
 
 namespace vell {
 
 namespace {
 
-constexpr int designWidth = 14400;
-constexpr int designHeight = 9600;
+constexpr int designWidth = 15600;
+constexpr int designHeight = 10350;
 constexpr int leastCorner = -50;  // a window that touches the edge may stand a little beyond it
 
 struct PlaceKey {
@@ -26,18 +25,13 @@ struct PlaceKey {
     int WhenLess;
 };
 
-constexpr int widthOf(GridColumn column) {
-    return gridColumns[static_cast<std::size_t>(column)].Width;
-}
-
 constexpr std::array<PlaceKey, 6> placeKeys{{
     {"Position", "posTop", &WindowPlace::Top, 1000, leastCorner, 0},
     {"Position", "posLeft", &WindowPlace::Left, 1500, leastCorner, 0},
     {"Position", "posWidth", &WindowPlace::Width, designWidth, 0, designWidth},
     {"Position", "posHeight", &WindowPlace::Height, designHeight, 0, designHeight},
-    {"Columns", "Newspaper", &WindowPlace::NewspaperWidth, widthOf(GridColumn::Newspaper), 1,
-     widthOf(GridColumn::Newspaper)},
-    {"Columns", "Type", &WindowPlace::TypeWidth, widthOf(GridColumn::Type), 1, widthOf(GridColumn::Type)},
+    {"Columns", "Newspaper", &WindowPlace::NewspaperWidth, 0, 1, 0},
+    {"Columns", "Type", &WindowPlace::TypeWidth, 0, 1, 0},
 }};
 
 int numberOf(const std::string& text) {

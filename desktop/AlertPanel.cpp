@@ -26,7 +26,7 @@ AlertPanel::AlertPanel(wxWindow* parent) : wxPanel(parent) {
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(heading, wxSizerFlags().Border(wxBOTTOM, FromDIP(3)));
     sizer->Add(paper, wxSizerFlags(1).Expand());
-    SetMinSize(FromDIP(wxSize(-1, 80)));
+    SetMinSize(FromDIP(wxSize(-1, 110)));
     SetSizer(sizer);
     Hide();
 }

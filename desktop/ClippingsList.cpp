@@ -19,7 +19,9 @@ namespace vell {
 
 namespace {
 
-constexpr int narrowestTitle = 150;  // DIP
+// DIP
+constexpr int narrowestTitle = 150;
+constexpr int cellMargins = 12;
 
 }  // namespace
 
@@ -46,6 +48,10 @@ ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events
     list_->Bind(wxEVT_KEY_DOWN, &ClippingsList::onKey, this);
     list_->Bind(wxEVT_CHAR, &ClippingsList::onCharacter, this);
     list_->Bind(wxEVT_MOTION, &ClippingsList::onMotion, this);
+    list_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
+        event.Skip();
+        CallAfter(&ClippingsList::fitColumns);  // GTK forgets what is asked for while it lays out
+    });
 }
 
 ClippingsList::~ClippingsList() {
@@ -57,6 +63,7 @@ void ClippingsList::addColumns() {
         if (layout.Width == 0) continue;
         const auto index = static_cast<unsigned int>(layout.Column);
         const int width = pixelsFromTwips(*this, layout.Width);
+        givenWidths_[layout.Column] = width;
         if (layout.Column == GridColumn::Marks) {
             auto* marks = new wxDataViewIconTextRenderer;
             marks->DisableEllipsize();
@@ -78,6 +85,7 @@ void ClippingsList::show(const std::vector<ClippingRow>& rows) {
     const auto current = currentRow();
     const std::string path = current ? model_->at(*current).path() : std::string();
     if (!model_->setRows(rows) || !list_->GetSelection().IsOk()) restoreSelection(path);
+    fitColumns();
 }
 
 void ClippingsList::restoreSelection(const std::string& path) {
@@ -128,8 +136,35 @@ void ClippingsList::setColumnWidth(GridColumn column, int width) {
     columnOf(column).SetWidth(width);
 }
 
-int ClippingsList::columnWidth(GridColumn column) const {
-    return columnOf(column).GetWidth();
+std::optional<int> ClippingsList::chosenWidth(GridColumn column) const {
+    const int width = givenWidth(columnOf(column));
+    return width == givenWidths_.at(column) ? std::nullopt : std::optional(width);
+}
+
+void ClippingsList::fitColumns() {
+    const auto tableWidth = [this](GridColumn column) { return pixelsFromTwips(*this, gridColumnWidth(column)); };
+    const auto least = [&](GridColumn column) { return chosenWidth(column).value_or(tableWidth(column)); };
+    const auto wanted = [&](GridColumn column) { return chosenWidth(column).value_or(wantedWidth(column)); };
+    const int all = list_->GetClientSize().GetWidth();
+    const int room = std::min(all / 2, all - tableWidth(GridColumn::Marks) - tableWidth(GridColumn::Title));
+    const auto widths = fittedWidths({least(GridColumn::Newspaper), least(GridColumn::Type)},
+                                     {wanted(GridColumn::Newspaper), wanted(GridColumn::Type)}, room);
+    giveWidth(GridColumn::Newspaper, widths.Newspaper);
+    giveWidth(GridColumn::Type, widths.Type);
+}
+
+int ClippingsList::wantedWidth(GridColumn column) const {
+    constexpr std::size_t mostMeasured = 200;  // each takes its time
+    int widest = 0;
+    for (const std::string& text : model_->texts(column, mostMeasured))
+        widest = std::max(widest, list_->GetTextExtent(shownLine(text)).GetWidth());
+    return widest + FromDIP(cellMargins);
+}
+
+void ClippingsList::giveWidth(GridColumn column, int width) {
+    if (chosenWidth(column) || width == givenWidths_.at(column)) return;
+    columnOf(column).SetWidth(width);
+    givenWidths_[column] = width;
 }
 
 wxDataViewColumn& ClippingsList::columnOf(GridColumn column) const {
@@ -157,7 +192,8 @@ void ClippingsList::onMotion(wxMouseEvent& event) {
     wxString tip;
     if (item.IsOk()) {
         const CFtpFile& clipping = *model_->at(model_->order().rowAt(model_->GetRow(item))).File;
-        for (const std::string& text : {clipping.Description, clipping.NewspaperName, clipping.Category})
+        for (const std::string& text :
+             {clipping.Description, clipping.NewspaperName, clipping.ArticleType, clipping.Category})
             if (!text.empty()) tip += (tip.empty() ? "" : "\n") + shownLine(text);
     }
     if (list_->GetToolTipText() != tip) list_->SetToolTip(tip);

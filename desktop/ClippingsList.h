@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -37,9 +38,10 @@ class ClippingsList : public wxPanel {
 
     void show(const std::vector<ClippingRow>& rows);
     void showMarks(std::size_t row, const ClippingRow& marked);
-    // In pixels.
+    // In pixels. Columns that the user has not drawn fit their texts as far as the titles leave them room.
     void setColumnWidth(GridColumn column, int width);
-    [[nodiscard]] int columnWidth(GridColumn column) const;
+    // As the user has drawn it.
+    [[nodiscard]] std::optional<int> chosenWidth(GridColumn column) const;
 
     // The row that commands for one clipping mean; nothing when the list is empty.
     [[nodiscard]] std::optional<std::size_t> currentRow() const;
@@ -54,12 +56,16 @@ class ClippingsList : public wxPanel {
     void onMotion(wxMouseEvent& event);
     void restoreSelection(const std::string& path);
     void showSortArrow();
+    void fitColumns();
+    [[nodiscard]] int wantedWidth(GridColumn column) const;
+    void giveWidth(GridColumn column, int width);
     [[nodiscard]] wxDataViewColumn& columnOf(GridColumn column) const;
 
     Events events_;
     ClippingsModel* model_;  // the control and this list share it
     wxDataViewCtrl* list_;
     TypeAhead typeAhead_;
+    std::map<GridColumn, int> givenWidths_;  // by this list; a column that has another one was drawn by the user
 };
 
 }  // namespace vell

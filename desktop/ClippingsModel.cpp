@@ -82,6 +82,13 @@ std::string ClippingsModel::textAt(std::size_t place, GridColumn column) const {
     return cellText(rows_.at(order_.rowAt(place)), column);
 }
 
+std::set<std::string> ClippingsModel::texts(GridColumn column, std::size_t most) const {
+    std::set<std::string> found;
+    for (std::size_t row = 0; row < rows_.size() && found.size() < most; ++row)
+        found.insert(cellText(rows_[row], column));
+    return found;
+}
+
 std::optional<std::size_t> ClippingsModel::rowOf(const std::string& path) const {
     const auto found = std::ranges::find_if(rows_, [&](const ClippingRow& row) { return row.path() == path; });
     if (found == rows_.end()) return std::nullopt;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -31,6 +32,8 @@ class ClippingsModel : public wxDataViewVirtualListModel {
     [[nodiscard]] std::size_t size() const { return rows_.size(); }
     [[nodiscard]] const ClippingRow& at(std::size_t row) const { return rows_.at(row); }
     [[nodiscard]] std::string textAt(std::size_t place, GridColumn column) const;
+    // The different texts of a column, at most so many.
+    [[nodiscard]] std::set<std::string> texts(GridColumn column, std::size_t most) const;
     [[nodiscard]] std::optional<std::size_t> rowOf(const std::string& path) const;
 
     [[nodiscard]] unsigned int GetColumnCount() const override;

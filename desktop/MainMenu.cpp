@@ -5,7 +5,9 @@
 #include <memory>
 #include <optional>
 #include <utility>
+#include <vector>
 
+#include <wx/accel.h>
 #include <wx/frame.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
@@ -115,6 +117,15 @@ void addToolBar(wxFrame& frame) {
         bar->AddTool(tool.Id, tool.Label, toolPicture(tool.Shows), helpOf(tool.Id));
     }
     bar->Realize();
+}
+
+void addMenuKeys(wxWindow& around) {
+    std::vector<wxAcceleratorEntry> keys;
+    for (const Item& item : items) {
+        const std::unique_ptr<wxAcceleratorEntry> key(wxAcceleratorEntry::Create(item.Label));
+        if (key) keys.emplace_back(key->GetFlags(), key->GetKeyCode(), item.Id);
+    }
+    around.SetAcceleratorTable({static_cast<int>(keys.size()), keys.data()});
 }
 
 void addClippingItems(wxMenu& menu) {

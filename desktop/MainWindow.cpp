@@ -63,6 +63,7 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
                               {[this](std::size_t row) { tell([=](auto& events) { events.rowDoubleClicked(row); }); },
                                [this](std::size_t row) { tell([=](auto& events) { events.rowEntered(row); }); },
                                [this] { showContextMenu(); }});
+    addMenuKeys(*list_);  // GTK's list has uses of its own for Ctrl+F and Ctrl+P
     filter_->MoveAfterInTabOrder(dates_);
     list_->MoveAfterInTabOrder(filter_);
     auto* main = new wxBoxSizer(wxVERTICAL);
@@ -199,8 +200,8 @@ void MainWindow::placeWindow(const WindowPlace& place) {
     window = reachable(window);
     SetSize(window);
     insistOnPlace(*this, window.GetPosition());
-    list_->setColumnWidth(GridColumn::Newspaper, pixels(place.NewspaperWidth));
-    list_->setColumnWidth(GridColumn::Type, pixels(place.TypeWidth));
+    if (place.NewspaperWidth > 0) list_->setColumnWidth(GridColumn::Newspaper, pixels(place.NewspaperWidth));
+    if (place.TypeWidth > 0) list_->setColumnWidth(GridColumn::Type, pixels(place.TypeWidth));
 }
 
 std::optional<WindowPlace> MainWindow::windowPlace() const {
@@ -211,8 +212,8 @@ std::optional<WindowPlace> MainWindow::windowPlace() const {
                        twips(window.GetLeft()),
                        twips(window.GetWidth()),
                        twips(window.GetHeight()),
-                       twips(list_->columnWidth(GridColumn::Newspaper)),
-                       twips(list_->columnWidth(GridColumn::Type))};
+                       twips(list_->chosenWidth(GridColumn::Newspaper).value_or(0)),
+                       twips(list_->chosenWidth(GridColumn::Type).value_or(0))};
 }
 
 }  // namespace vell

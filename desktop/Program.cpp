@@ -17,6 +17,7 @@
 #include "desktop/WindowCommands.h"
 #include "desktop/WindowLoop.h"
 #include "desktop/WxMessageBoxes.h"
+#include "desktop/showQuietly.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/posix/CurlInternet.h"
@@ -94,7 +95,7 @@ bool Program::start() {
     try {
         parts_ = std::make_unique<Parts>(folder_);
         if (parts_->Main.Form_Load(frmMain::Start::Window)) {
-            parts_->Window.Show();
+            showQuietly(parts_->Window);
             parts_->Window.list().focusList();
             return true;
         }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/StatusLine.h"
 
+#include <algorithm>
+
 #include <wx/stattext.h>
 
 #include "desktop/screenText.h"
@@ -31,7 +33,7 @@ void StatusLine::placeTexts() {
         if (!GetFieldRect(static_cast<int>(i), panel)) continue;
         const int height = panels_[i]->GetBestSize().GetHeight();
         panels_[i]->SetSize(panel.GetLeft() + FromDIP(4), panel.GetTop() + (panel.GetHeight() - height) / 2,
-                            panel.GetWidth() - FromDIP(8), height);
+                            std::max(0, panel.GetWidth() - FromDIP(8)), height);
     }
 }
 

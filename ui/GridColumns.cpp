@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ui/GridColumns.h"
 
+#include <algorithm>
+#include <cstdint>
+
 #include "ui/BrowserView.h"
 
 namespace vell {
@@ -23,6 +26,15 @@ std::string cellText(const ClippingRow& row, GridColumn column) {
             return row.path();
     }
     return {};
+}
+
+TextColumnWidths fittedWidths(const TextColumnWidths& least, const TextColumnWidths& wanted, int room) {
+    const int newspaperLacks = std::max(0, wanted.Newspaper - least.Newspaper);
+    const int typeLacks = std::max(0, wanted.Type - least.Type);
+    const int spare = std::clamp(room - least.Newspaper - least.Type, 0, newspaperLacks + typeLacks);
+    if (spare == 0) return least;
+    const int toNewspaper = static_cast<int>(std::int64_t{spare} * newspaperLacks / (newspaperLacks + typeLacks));
+    return {least.Newspaper + toNewspaper, least.Type + spare - toNewspaper};
 }
 
 }  // namespace vell

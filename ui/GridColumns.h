@@ -27,6 +27,22 @@ inline constexpr std::array<GridColumnLayout, 7> gridColumns{{
     {GridColumn::Path, "Path", 0},
 }};
 
+[[nodiscard]] constexpr int gridColumnWidth(GridColumn column) {
+    return gridColumns[static_cast<std::size_t>(column)].Width;
+}
+
+// Of the two columns that cut their texts first, in any one unit.
+struct TextColumnWidths {
+    int Newspaper = 0;
+    int Type = 0;
+
+    bool operator==(const TextColumnWidths&) const = default;
+};
+
+// Each gets what its texts want, and at least its least width, from a room for both; where that does not do, what is
+// left beyond the least widths is shared in proportion to what is missing.
+[[nodiscard]] TextColumnWidths fittedWidths(const TextColumnWidths& least, const TextColumnWidths& wanted, int room);
+
 struct ClippingRow;
 
 // The text of a row's cell in code page 1253; the first column has a picture instead.

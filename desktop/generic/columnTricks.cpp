@@ -18,6 +18,10 @@ void stretchColumn(wxDataViewColumn& column) {
     });
 }
 
+int givenWidth(const wxDataViewColumn& column) {
+    return column.GetWidth();
+}
+
 // The blanks before the text and the width of the column do it already.
 void showPictureOnly(wxDataViewColumn& /*column*/, const wxSize& /*picture*/) {}
 

@@ -12,6 +12,10 @@ void stretchColumn(wxDataViewColumn& column) {
     gtk_tree_view_column_set_expand(native, TRUE);
 }
 
+int givenWidth(const wxDataViewColumn& column) {
+    return gtk_tree_view_column_get_fixed_width(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()));
+}
+
 // Rows with a picture and rows without share one measure, which GTK takes from any of them.
 void showPictureOnly(wxDataViewColumn& column, const wxSize& picture) {
     GList* cells = gtk_cell_layout_get_cells(GTK_CELL_LAYOUT(column.GetGtkHandle()));

@@ -83,12 +83,12 @@ TEST_F(StartUpTest, tellsOnceThatTheRunningVersionWasInstalled) {
 
 TEST_F(StartUpTest, placesTheWindowWithinItsBounds) {
     const std::vector<std::pair<std::string, WindowPlace>> cases{
-        {"", {1000, 1500, 14400, 9600, 1500, 800}},
-        {"[Position]\r\nposTop=-70\r\nposLeft=-51\r\nposWidth=-1\r\nposHeight=-1\r\n", {0, 0, 14400, 9600, 1500, 800}},
+        {"", {1000, 1500, 15600, 10350, 0, 0}},
+        {"[Position]\r\nposTop=-70\r\nposLeft=-51\r\nposWidth=-1\r\nposHeight=-1\r\n", {0, 0, 15600, 10350, 0, 0}},
         {"[Position]\r\nposTop=-50\r\nposLeft=7\r\nposWidth=0\r\nposHeight=300\r\n[Columns]\r\nNewspaper=0\r\nType=9",
-         {-50, 7, 0, 300, 1500, 9}},
+         {-50, 7, 0, 300, 0, 9}},
         {"[Position]\r\nposTop=x\r\nposLeft=99999999999\r\nposWidth=1e300\r\nposHeight=-1e300\r\n",
-         {0, 1000000, 1000000, 9600, 1500, 800}}};
+         {0, 1000000, 1000000, 10350, 0, 0}}};
     for (const auto& [lines, place] : cases) {
         putIni(lines);
         EXPECT_TRUE(load());

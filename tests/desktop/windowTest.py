@@ -137,6 +137,22 @@ class WindowTest(unittest.TestCase):
         self.shoot(window, "opened")
         self.assertEqual(window.close(), 0)
 
+    def test_keys_that_the_list_knows_itself_are_the_commands_of_the_menu(self):
+        self.put_day("07032004", ["Α", "Β"])
+        (self.home / "lp").write_text(f'#!/bin/sh\nshift $(($# - 1))\necho "$1" >>"{self.opened}"\n')
+        (self.home / "lp").chmod(0o755)
+        window = self.start(PATH=f"{self.home}:{os.environ['PATH']}")
+        window.press("Down", "ctrl+p")
+        wait(lambda: window.marks(1) == "Printed")
+        wait(lambda: self.opened.exists() and self.opened.read_text().count("\n") == 1)
+        self.assertTrue(self.opened.read_text().endswith("C00001.PDF\n"))
+        window.press("ctrl+f")
+        window.find("label", "Types")
+        wait(lambda: len(window.window_ids()) == 2)
+        window.press("Escape")
+        wait(lambda: len(window.window_ids()) == 1)
+        self.assertEqual(window.close(), 0)
+
     def test_the_dialogs_save_what_was_entered(self):
         self.put_day("07032004", ["Α"])
         window = self.start()

@@ -95,5 +95,22 @@ TEST(PictureSizeTest, readsTheHeadsOfPicturesAndDistrustsTheRest) {
         EXPECT_FALSE(isDecentPicture(bytes));
 }
 
+TEST(GridColumnsTest, giveTheTextsWhatTheTitlesLeave) {
+    struct Case {
+        TextColumnWidths Least, Wanted;
+        int Room;
+        TextColumnWidths Given;
+    };
+    const std::vector<Case> cases{{{100, 50}, {180, 90}, 500, {180, 90}},
+                                  {{100, 50}, {20, 30}, 500, {100, 50}},
+                                  {{100, 50}, {180, 90}, 210, {140, 70}},
+                                  {{100, 50}, {180, 90}, 150, {100, 50}},
+                                  {{100, 50}, {180, 90}, -10, {100, 50}},
+                                  {{100, 50}, {100, 90}, 151, {100, 51}},
+                                  {{100, 50}, {2'000'000, 90}, 3'000'000, {2'000'000, 90}}};
+    for (const Case& each : cases)
+        EXPECT_EQ(fittedWidths(each.Least, each.Wanted, each.Room), each.Given) << each.Room;
+}
+
 }  // namespace
 }  // namespace vell::test
