@@ -43,7 +43,7 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       ras_(platform.Ras, log_),
       link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, gInet_, ras_}),
       opening_(browser_, store_, articles_, log_, [this](std::string_view text) { progress_.StatusBar(text); }),
-      printing_({browser_, store_, articles_, platform.Loop, platform.Boxes, log_, session_.Setup},
+      printing_({browser_, store_, articles_, platform.Loop, platform.Boxes, platform.Printer, log_, session_.Setup},
                 [this](std::string_view text) { progress_.StatusBar(text); }),
       autoView_(browser_, opening_, platform.Loop, session_.Setup),
       days_(browser_, store_, platform.Boxes, log_),

@@ -15,6 +15,7 @@
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/asio/StopSignals.h"
+#include "platform/posix/CupsPrinters.h"
 #include "platform/posix/CurlInternet.h"
 #include "platform/posix/NetworkInterfaces.h"
 #include "platform/posix/NetworkManagerClient.h"
@@ -39,6 +40,7 @@ int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
     const auto wanted = line.Folder.empty() ? std::nullopt : std::optional(line.Folder);
     vell::PosixProcess process(vell::ProgramPlace::ofThisProcess(wanted));
     vell::PosixShell shell;
+    vell::CupsPrinters printers;
     vell::NetworkManagerClient manager(loop, clock, "");
     vell::PosixConnection connection(manager, vell::configuredProxy());
     vell::PosixRas ras(manager);
@@ -46,8 +48,9 @@ int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
     vell::ConsoleBoxes boxes(terminal, screen, loop);
     if (line.Yes) boxes.sayYesToAll();
     vell::ConsoleView view(screen, boxes);
-    vell::frmMain program({clock, loop, files, ini, internet, sockets, connection, ras, boxes, process, shell}, view,
-                          VELL_VERSION);
+    vell::frmMain program(
+        {clock, loop, files, ini, internet, sockets, connection, ras, boxes, process, shell, printers}, view,
+        VELL_VERSION);
     vell::Commands commands(program, loop, view, terminal, screen, boxes);
     const vell::StopSignals signals(loop, [&](int number) { commands.interrupt(number); });
     return commands.run(line);

@@ -37,22 +37,12 @@ PrintDialog::PrintDialog(wxWindow* parent, frmPrint rules)
     lstAllCategories_ = listBox(*lists, "&Categories of the day");
     lists->Add(moveButtons(), wxSizerFlags().CentreVertical().Border());
     lstPrintCategories_ = listBox(*lists, "Categories to &print");
-    status_ =
-        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
-    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-    auto* cmdPrint = new wxButton(this, wxID_PRINT, "P&rint");
-    buttons->Add(status_, wxSizerFlags(1).CentreVertical());
-    buttons->Add(cmdPrint, wxSizerFlags().Border(wxLEFT));
-    buttons->Add(new wxButton(this, wxID_CLOSE, "C&lose"), wxSizerFlags().Border(wxLEFT));
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(lists, wxSizerFlags(1).Expand().Border());
-    sizer->Add(buttons, wxSizerFlags().Expand().Border());
+    sizer->Add(bottomRow(), wxSizerFlags().Expand().Border());
     SetSizerAndFit(sizer);
     CentreOnParent();
-    cmdPrint->SetDefault();
     SetEscapeId(wxID_CLOSE);
-    Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { print(); }); }, wxID_PRINT);
     lstAllCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { addOne(); });
     lstPrintCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { removeOne(); });
     show();
@@ -85,6 +75,23 @@ wxSizer* PrintDialog::moveButtons() {
     return column;
 }
 
+wxSizer* PrintDialog::bottomRow() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    auto* settings = new wxButton(this, wxID_PRINT_SETUP, "Printer &settings...");
+    status_ =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    auto* cmdPrint = new wxButton(this, wxID_PRINT, "P&rint");
+    row->Add(settings);
+    row->Add(status_, wxSizerFlags(1).CentreVertical().Border(wxLEFT));
+    row->Add(cmdPrint, wxSizerFlags().Border(wxLEFT));
+    row->Add(new wxButton(this, wxID_CLOSE, "C&lose"), wxSizerFlags().Border(wxLEFT));
+    cmdPrint->SetDefault();
+    settings->Bind(wxEVT_BUTTON,
+                   [this](wxCommandEvent& /*event*/) { CallAfter([this] { rules_.cmdPrinterSettings_Click(); }); });
+    cmdPrint->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { print(); }); });
+    return row;
+}
+
 void PrintDialog::addOne() {
     rules_.cmdAdd_Click(static_cast<std::size_t>(lstAllCategories_->GetSelection()));
     show();
@@ -102,12 +109,15 @@ void PrintDialog::show() {
 
 void PrintDialog::print() {
     wxWindow* button = FindWindow(wxID_PRINT);
+    wxWindow* settings = FindWindow(wxID_PRINT_SETUP);
     button->Disable();
+    settings->Disable();
     rules_.cmdPrint_Click([this](std::string_view text) {
         status_->SetLabelText(shownLine(text));
         Update();
     });
     button->Enable();
+    settings->Enable();
 }
 
 }  // namespace vell

@@ -19,6 +19,7 @@ class PrintDialog : public wxDialog {
   private:
     [[nodiscard]] wxListBox* listBox(wxSizer& sizer, const wxString& label);
     [[nodiscard]] wxSizer* moveButtons();
+    [[nodiscard]] wxSizer* bottomRow();
     void addOne();
     void removeOne();
     void show();

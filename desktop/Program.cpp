@@ -20,6 +20,7 @@
 #include "desktop/showQuietly.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
+#include "platform/posix/CupsPrinters.h"
 #include "platform/posix/CurlInternet.h"
 #include "platform/posix/NetworkInterfaces.h"
 #include "platform/posix/NetworkManagerClient.h"
@@ -43,7 +44,8 @@ struct Program::Parts {
     explicit Parts(const std::optional<std::string>& folder)
         : Place(ProgramPlace::ofThisProcess(folder)),
           Window(*new MainWindow(Time, Disk)),  // the toolkit deletes its windows
-          Main({Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Place, Opener}, Window, VELL_VERSION),
+          Main({Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Place, Opener, Printer}, Window,
+               VELL_VERSION),
           Events(Main, Window, Boxes, [] { std::quick_exit(0); }) {}
 
     SystemClock Time;
@@ -57,6 +59,7 @@ struct Program::Parts {
     PosixRas Ras{Manager};
     PosixProcess Place;
     PosixShell Opener;
+    CupsPrinters Printer;
     WxMessageBoxes Boxes;
     MainWindow& Window;
     frmMain Main;

@@ -10,6 +10,7 @@ class Files;
 class IniFile;
 class InternetApi;
 class MessageBoxes;
+class Printers;
 class Process;
 class RasApi;
 class Shell;
@@ -28,6 +29,7 @@ struct Platform {
     MessageBoxes& Boxes;
     Process& Program;
     Shell& Opener;
+    Printers& Printer;
 };
 
 }  // namespace vell

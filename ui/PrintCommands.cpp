@@ -58,7 +58,7 @@ frmPrint PrintCommands::mnuPrintByCategory_Click() {
         if (!category.empty() && std::ranges::find(categories, category) == categories.end())
             categories.emplace_back(category);
     }
-    return {{p_.Browser, p_.Opener, p_.Loop, p_.Boxes, p_.Log, p_.Setup, printing_}, std::move(categories)};
+    return {{p_.Browser, p_.Opener, p_.Loop, p_.Boxes, p_.Printer, p_.Log, p_.Setup, printing_}, std::move(categories)};
 }
 
 }  // namespace vell

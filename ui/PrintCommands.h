@@ -13,6 +13,7 @@ class Articles;
 class ClippingsBrowser;
 class EventLoop;
 class MessageBoxes;
+class Printers;
 class modGlobal;
 struct Settings;
 
@@ -25,6 +26,7 @@ class PrintCommands {
         Articles& Opener;
         EventLoop& Loop;
         MessageBoxes& Boxes;
+        Printers& Printer;
         EventLog& Log;
         const Settings& Setup;
     };

@@ -10,6 +10,7 @@
 #include "config/Settings.h"
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Printers.h"
 #include "store/Articles.h"
 #include "ui/ClippingsBrowser.h"
 
@@ -29,6 +30,12 @@ void moveOne(Names& from, std::size_t entry, Names& to) {
 void moveAll(Names& from, Names& to) {
     std::ranges::move(from, std::back_inserter(to));
     from.clear();
+}
+
+std::string textOf(const PrinterSettings& printer) {
+    return printer.DeviceName + ",PaperSize:" + std::to_string(printer.PaperSize) +
+           ",Orientation:" + std::to_string(printer.Orientation) +
+           ",PrintQuality:" + std::to_string(printer.PrintQuality) + ",Zoom:" + std::to_string(printer.Zoom);
 }
 
 }  // namespace
@@ -60,6 +67,16 @@ void frmPrint::cmdPrint_Click(const StatusText& status) {
         }
         const ScopedFlag printing(p_.Printing);
         print(documents(), status);
+    });
+}
+
+void frmPrint::cmdPrinterSettings_Click() {
+    trapStep(p_.Log, "cmdPrinterSettings_Click()", [&] {
+        std::string reason;
+        const auto printer = p_.Printer.DefaultPrinter(reason);
+        if (printer) p_.Boxes.Show(textOf(*printer), programCaption, Buttons::Ok, BoxIcon::None);
+        if (!printer || !p_.Printer.ShowProperties(printer->DeviceName, reason))
+            p_.Boxes.Show(reason, programCaption, Buttons::Ok, BoxIcon::Warning);
     });
 }
 

@@ -14,6 +14,7 @@ class Articles;
 class ClippingsBrowser;
 class EventLoop;
 class MessageBoxes;
+class Printers;
 struct Settings;
 
 // What the dialog that prints whole categories decides. What it prints is not marked.
@@ -24,6 +25,7 @@ class frmPrint {
         Articles& Opener;
         EventLoop& Loop;
         MessageBoxes& Boxes;
+        Printers& Printer;
         EventLog& Log;
         const Settings& Setup;
         bool& Printing;  // set while a batch is under way
@@ -40,6 +42,8 @@ class frmPrint {
     void cmdRemove_Click(std::size_t entry);
     void cmdRemoveAll_Click();
     void cmdPrint_Click(const StatusText& status);
+    // Shows how the default printer is set up, then the dialog in which that can be changed.
+    void cmdPrinterSettings_Click();
 
   private:
     [[nodiscard]] std::vector<std::string> documents() const;

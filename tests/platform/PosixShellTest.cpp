@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/posix/CupsPrinters.h"
 #include "platform/posix/FileHandle.h"
 #include "platform/posix/PosixShell.h"
 #include "tests/support/TempFolder.h"
@@ -78,6 +79,15 @@ TEST_F(PosixShellTest, aDocumentGoesToTheDesktopsApplicationUnderItsRealName) {
     EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1]");
     EXPECT_GT(shell_.Open("HTTP://service.example/a?b=c", ""), 32);
     EXPECT_EQ(said(), "[--][HTTP://service.example/a?b=c]");
+}
+
+TEST_F(PosixShellTest, aPrintersPropertiesAreItsPageInTheBrowser) {
+    std::string reason;
+    for (const auto& [name, page] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"\xCA/draft", "%CE%9A"}, {"a%b&c", "a%25b%26c"}, {"??", ""}}) {
+        EXPECT_TRUE(CupsPrinters().ShowProperties(name, reason)) << reason;
+        EXPECT_EQ(said(), "[--][http://localhost:631/printers/" + std::string(page) + "]");
+    }
 }
 
 TEST_F(PosixShellTest, aProgramIsFoundBesideOursThenAlongThePathAndGetsItsArguments) {

@@ -8,6 +8,7 @@
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/posix/CurlInternet.h"
+#include "tests/support/RecordingPrinters.h"
 #include "tests/support/RecordingShell.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedBoxes.h"
@@ -59,10 +60,12 @@ struct ProgramRig : Process {
     ScriptedRas ras;
     ScriptedBoxes boxes;
     RecordingShell shell;
+    RecordingPrinters printers;
     RecordingView view;
     bool anotherRuns = false;
-    frmMain program{
-        {clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell}, view, "2.1.37"};
+    frmMain program{{clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell, printers},
+                    view,
+                    "2.1.37"};
 };
 
 }  // namespace vell::test

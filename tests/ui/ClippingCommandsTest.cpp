@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "store/Articles.h"
+#include "tests/support/RecordingPrinters.h"
 #include "tests/support/RecordingShell.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/StoreRig.h"
@@ -64,7 +65,8 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
     Articles articles{shell, boxes, loop, log};
     ClippingsBrowser browser{store, files, view, clock, log, setup, day};
     ClippingOpening opening{browser, store, articles, log, status};
-    PrintCommands printing{{browser, store, articles, loop, boxes, log, setup}, status};
+    RecordingPrinters printers;
+    PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup}, status};
     frmAutoView autoView{browser, opening, loop, setup};
     DayCommands days{browser, store, boxes, log};
 };
@@ -152,6 +154,18 @@ TEST_F(ClippingCommandsTest, printsWholeCategoriesWithoutMarkingThem) {
     EXPECT_THAT(statuses, ElementsAre("Printing 1/1 B.PDF", ""));
     EXPECT_EQ(marks(), "----");
     EXPECT_FALSE(printing.isPrinting());
+}
+
+TEST_F(ClippingCommandsTest, tellsHowTheDefaultPrinterIsSetUpAndOpensItsDialog) {
+    frmPrint dialog = printing.mnuPrintByCategory_Click();
+    dialog.cmdPrinterSettings_Click();
+    printers.Default = {"Gutenberg", 9, 2, -3, 50};
+    dialog.cmdPrinterSettings_Click();
+    printers.Trouble = "no browser";
+    dialog.cmdPrinterSettings_Click();
+    const std::string told = "Gutenberg,PaperSize:9,Orientation:2,PrintQuality:-3,Zoom:50";
+    EXPECT_THAT(boxes.Shown, ElementsAre("no printer", told, told, "no browser"));
+    EXPECT_EQ(printers.Shown, "Gutenberg Gutenberg ");
 }
 
 TEST_F(ClippingCommandsTest, filtersByCategoryAndTypeAndOffersWhatTheDayHas) {
