@@ -61,8 +61,8 @@ std::string frmMain::programFolder(const Process& process) {
 
 bool frmMain::Form_Load(Start start) {
     showToday();
-    onlyLooks_ = start == Start::Beside;
-    if (!onlyLooks_ && isRefused()) return false;
+    isOnline_ = start == Start::Window || start == Start::Alone;
+    if (start != Start::Beside && isRefused()) return false;
     findProgramFolder();
     session_.Setup.UseHTTP = true;
     if (start == Start::Window) {
@@ -116,7 +116,7 @@ void frmMain::Form_Unload() {
     if (mIsSecondInstance_ || mUpdatePending_) return;
     platform_.Loop.KillTimer(tmrSchedule_);
     if (const auto place = view_.windowPlace()) saveWindowPlace(ini_, *place);
-    if (!onlyLooks_) closeConnections();
+    if (isOnline_) closeConnections();
     log_.Stop();
 }
 

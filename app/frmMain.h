@@ -41,9 +41,10 @@ class frmMain {
     frmMain(const Platform& platform, MainView& view, std::string version);
 
     enum class Start {
-        Window,  // of the main window: alone, with the day shown, and the place for updates
-        Alone,   // refused when another instance works in the same program folder
-        Beside,  // for commands that only look
+        Window,        // of the main window: alone, with the day shown, and the place for updates
+        Alone,         // refused when another instance works in the same program folder
+        AloneOffline,  // the same for commands that have no use for the internet, and leave its connections as they are
+        Beside,        // for commands that only look, or touch nothing that another instance works on
     };
     // Brings the session up. False when it was refused, or when this start is for installing an update; nothing but
     // Form_Unload may then be called.
@@ -116,7 +117,7 @@ class frmMain {
     ScheduledRuns scheduled_;
     bool mIsSecondInstance_ = false;
     bool mUpdatePending_ = false;
-    bool onlyLooks_ = false;  // shares the program folder with one that works
+    bool isOnline_ = false;  // this session's connections are its to close
     EventLoop::TimerId tmrSchedule_ = 0;
 };
 

@@ -22,8 +22,9 @@ Date dayOf(const std::string& option, const std::string& text) {
     return *date;
 }
 
-void addDay(CLI::App& command, const std::string& option, std::optional<Date>& day, const std::string& meaning) {
-    command
+CLI::Option* addDay(CLI::App& command, const std::string& option, std::optional<Date>& day,
+                    const std::string& meaning) {
+    return command
         .add_option_function<std::string>(
             option, [&day, option](const std::string& text) { day = dayOf(option, text); }, meaning)
         ->type_name("dd/mm/yyyy");
@@ -55,6 +56,39 @@ void addList(CLI::App& app, CommandLine& line) {
     addDay(*command, "--date", line.Day, "The day to show; the newest one without it");
     command->add_flag("--tsv", line.Tsv, "For programs: fields separated by tabs, no header");
     command->callback([&line] { line.What = CommandLine::Command::List; });
+}
+
+void checkPrint(const CommandLine& line) {
+    const int kinds = (line.All ? 1 : 0) + (line.Categories.empty() ? 0 : 1) + (line.Files.empty() ? 0 : 1);
+    if (kinds != 1) throw CLI::ValidationError("print", "takes one of these: --all, --category NAME..., or FILE...");
+}
+
+void addPrint(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("print", "Print clippings of a day");
+    addDay(*command, "--date", line.Day, "The day of the clippings; the newest one without it");
+    command->add_flag("--all", line.All, "All of the day, after a question");
+    command->add_option("--category", line.Categories, "Those of whole categories, as 'list' shows them")
+        ->type_name("NAME");
+    command->add_option("FILE", line.Files,
+                        "Those with these file names, as 'list --tsv' shows them; .PDF can be left out");
+    command->callback([&line] {
+        line.What = CommandLine::Command::Print;
+        checkPrint(line);
+    });
+}
+
+void addOpen(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("open", "Open clippings of a day with the system's PDF reader");
+    addDay(*command, "--date", line.Day, "The day of the clippings; the newest one without it");
+    command->add_option("FILE", line.Files, "Their file names, as 'list --tsv' shows them; .PDF can be left out")
+        ->required();
+    command->callback([&line] { line.What = CommandLine::Command::Open; });
+}
+
+void addDelete(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("delete", "Delete all clippings of a day, after a question");
+    addDay(*command, "DAY", line.Day, "The day to delete")->required();
+    command->callback([&line] { line.What = CommandLine::Command::Delete; });
 }
 
 void addSetup(CLI::App& app, CommandLine& line) {
@@ -99,14 +133,17 @@ void describe(CLI::App& app, CommandLine& line) {
     app.add_subcommand("days", "Show the days that have been fetched, newest first")->callback([&line] {
         line.What = CommandLine::Command::Days;
     });
+    addOpen(app, line);
+    addPrint(app, line);
+    addDelete(app, line);
     addSetup(app, line);
     addSchedule(app, line);
     app.add_subcommand("watch", "Keep the weekly schedule until Ctrl-C or SIGTERM")->callback([&line] {
         line.What = CommandLine::Command::Watch;
     });
     app.footer(
-        "Exit codes: 0 ended well, 1 a file or the list could not be fetched, 2 wrong usage,\n"
-        "3 no internet connection, 5 already running, 130 stopped with Ctrl-C (watch: 0).");
+        "Exit codes: 0 ended well, 1 a file or the list could not be fetched, or something was not opened, printed\n"
+        "or deleted, 2 wrong usage, 3 no internet connection, 5 already running, 130 stopped with Ctrl-C (watch: 0).");
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ class Terminal;
 // Exit codes, for scripts.
 namespace exit_code {
 inline constexpr int Good = 0;
-inline constexpr int Failed = 1;        // a file failed, or the list could not be got
+inline constexpr int Failed = 1;        // a file failed, the list could not be got, or what was asked for was not done
 inline constexpr int Usage = 2;         // unknown option, impossible date, wrong value
 inline constexpr int NoConnection = 3;  // no internet connection
 inline constexpr int AlreadyRunning = 5;
@@ -24,7 +24,19 @@ inline constexpr int Terminated = 143;   // stopped by SIGTERM
 
 // What the user asked for. Texts in UTF-8.
 struct CommandLine {
-    enum class Command { Download, List, Days, Setup, Schedule, ScheduleAdd, ScheduleRemove, Watch };
+    enum class Command {
+        Download,
+        List,
+        Days,
+        Setup,
+        Schedule,
+        ScheduleAdd,
+        ScheduleRemove,
+        Watch,
+        Print,
+        Open,
+        Delete
+    };
 
     Command What = Command::Download;
     std::string Folder;  // of the program; empty for the usual one
@@ -33,6 +45,10 @@ struct CommandLine {
     std::optional<Date> From;
     std::optional<Date> To;
     bool Tsv = false;
+    // What to print or open: everything, whole categories, or clippings by their file names.
+    bool All = false;
+    std::vector<std::string> Categories;
+    std::vector<std::string> Files;
     std::optional<std::string> Key;
     std::optional<std::string> Value;
     std::string Entry;  // of the schedule, such as "Mon Wed 07:30"

@@ -5,58 +5,80 @@
 #include <optional>
 
 #include "app/frmMain.h"
-#include "console/ClippingsTable.h"
 #include "console/ConsoleBoxes.h"
 #include "console/ConsoleView.h"
 #include "console/ScheduleCommand.h"
 #include "console/Screen.h"
 #include "console/SetupCommand.h"
 #include "platform/EventLoop.h"
-#include "platform/Terminal.h"
 
 namespace vell {
 
 namespace {
-// For readers of a file or a mail; programs take the tab-separated form, in which nothing is cut.
-constexpr std::size_t widthWithoutTerminal = 120;
+
+// Nobody prints or deletes while a download is under way, and none begins meanwhile: it marks what it prints in the
+// same file, of which each side would write back its own copy, and the day that is to go may be the one it fetches.
+// Opening marks in a file that no download writes, and so works beside one.
+frmMain::Start startOf(CommandLine::Command command) {
+    switch (command) {
+        case CommandLine::Command::Download:
+        case CommandLine::Command::Watch:
+            return frmMain::Start::Alone;
+        case CommandLine::Command::Print:
+        case CommandLine::Command::Delete:
+            return frmMain::Start::AloneOffline;
+        default:
+            return frmMain::Start::Beside;
+    }
+}
+
 }  // namespace
 
 Commands::Commands(frmMain& program, EventLoop& loop, ConsoleView& view, Terminal& terminal, Screen& screen,
                    ConsoleBoxes& boxes)
-    : program_(program), loop_(loop), view_(view), terminal_(terminal), screen_(screen), boxes_(boxes) {
+    : program_(program),
+      loop_(loop),
+      view_(view),
+      terminal_(terminal),
+      screen_(screen),
+      boxes_(boxes),
+      clippings_(program, loop, view, terminal, screen) {
     view_.onOpenSetup([this] { SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).askForLogin(); });
 }
 
 int Commands::run(const CommandLine& line) {
+    if (!program_.Form_Load(startOf(line.What))) return exit_code::AlreadyRunning;
+    if (line.What != CommandLine::Command::Setup && !program_.areSettingsWhole()) screen_.tell(damagedSettings);
+    const int code = perform(line);
+    program_.Form_Unload();
+    return code;
+}
+
+int Commands::perform(const CommandLine& line) {
     using Command = CommandLine::Command;
-    const bool alone = line.What == Command::Download || line.What == Command::Watch;
-    if (!program_.Form_Load(alone ? frmMain::Start::Alone : frmMain::Start::Beside)) return exit_code::AlreadyRunning;
-    if (line.What != Command::Setup && !program_.areSettingsWhole()) screen_.tell(damagedSettings);
-    int code = exit_code::Good;
     switch (line.What) {
         case Command::Download:
-            code = download(line);
-            break;
+            return download(line);
         case Command::List:
-            code = list(line);
-            break;
+            return clippings_.list(line);
+        case Command::Open:
+            return clippings_.open(line);
+        case Command::Print:
+            return clippings_.print(line);
+        case Command::Delete:
+            return clippings_.deleteDay(line);
         case Command::Days:
-            code = days();
-            break;
+            return days();
         case Command::Setup:
-            code = SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).run(line);
-            break;
+            return SetupCommand(program_.setupDialog(), terminal_, screen_, boxes_).run(line);
         case Command::Schedule:
         case Command::ScheduleAdd:
         case Command::ScheduleRemove:
-            code = ScheduleCommand(program_.scheduleDialog(), screen_).run(line);
-            break;
+            return ScheduleCommand(program_.scheduleDialog(), screen_).run(line);
         case Command::Watch:
-            code = watch();
-            break;
+            return watch();
     }
-    program_.Form_Unload();
-    return code;
+    return exit_code::Usage;
 }
 
 int Commands::download(const CommandLine& line) {
@@ -67,31 +89,6 @@ int Commands::download(const CommandLine& line) {
     if (signal_ != 0) return signal_ == SIGINT ? exit_code::Interrupted : exit_code::Terminated;
     if (program_.outcome().NoConnection) return exit_code::NoConnection;
     return program_.outcome().isGood() ? exit_code::Good : exit_code::Failed;
-}
-
-int Commands::list(const CommandLine& line) {
-    ClippingsBrowser& browser = program_.browser();
-    if (browser.days().empty() && !line.Day) {
-        screen_.tell("No day has been fetched yet. 'vell-console download' fetches today's clippings.");
-        return exit_code::Good;
-    }
-    const std::string day = line.Day ? line.Day->dayName() : browser.days().front();
-    if (!browser.chooseDay(day)) {
-        screen_.tell("The day " + day + " has not been fetched. 'vell-console days' shows those that have.");
-        return exit_code::Failed;
-    }
-    if (line.Tsv) {
-        for (const ClippingRow& row : browser.rows())
-            screen_.print(clippingTsv(row));
-        return exit_code::Good;
-    }
-    screen_.print(day + "   " + std::to_string(browser.rows().size()) + " Clippings");
-    if (const std::string alert = shownLines(view_.alert()); !alert.empty()) screen_.print(alert);
-    const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
-    for (const std::string& text :
-         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : widthWithoutTerminal))
-        screen_.print(text);
-    return exit_code::Good;
 }
 
 int Commands::days() {

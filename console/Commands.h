@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "console/ClippingCommands.h"
 #include "console/CommandLine.h"
 
 namespace vell {
@@ -23,8 +24,9 @@ class Commands {
     void interrupt(int signal);
 
   private:
+    // What the command line asks for, in a session that is up.
+    [[nodiscard]] int perform(const CommandLine& line);
     [[nodiscard]] int download(const CommandLine& line);
-    [[nodiscard]] int list(const CommandLine& line);
     [[nodiscard]] int days();
     [[nodiscard]] int watch();
 
@@ -34,6 +36,7 @@ class Commands {
     Terminal& terminal_;
     Screen& screen_;
     ConsoleBoxes& boxes_;
+    ClippingCommands clippings_;
     bool watches_ = false;
     int signal_ = 0;  // the last one; 0 for none
 };

@@ -52,7 +52,12 @@ int runProgram(const vell::CommandLine& line, vell::PosixTerminal& terminal) {
         {clock, loop, files, ini, internet, sockets, connection, ras, boxes, process, shell, printers}, view,
         VELL_VERSION);
     vell::Commands commands(program, loop, view, terminal, screen, boxes);
-    const vell::StopSignals signals(loop, [&](int number) { commands.interrupt(number); });
+    // A run is ended in good order. Printing and deleting have nothing to wind up, and the pauses between printed
+    // documents let no event through: there a signal ends the program as it ends any other.
+    using Command = vell::CommandLine::Command;
+    std::optional<vell::StopSignals> signals;
+    if (line.What != Command::Print && line.What != Command::Delete)
+        signals.emplace(loop, [&](int number) { commands.interrupt(number); });
     return commands.run(line);
 }
 

@@ -17,21 +17,23 @@ namespace vell {
 
 PrintCommands::PrintCommands(const Parts& parts, StatusText status) : p_(parts), status_(std::move(status)) {}
 
-void PrintCommands::mnuPrintAll_Click() {
-    trapStep(p_.Log, "mnuPrintAll_Click()", [&] {
-        if (printing_) return;
+bool PrintCommands::mnuPrintAll_Click() {
+    return trap(p_.Log, "mnuPrintAll_Click()", false, [&] {
+        if (printing_) return false;
         const ScopedFlag printing(printing_);
-        if (p_.Boxes.Show("Do you want to print all documents for selected date?", "Print All", Buttons::YesNo,
-                          BoxIcon::Question) == Answer::Yes)
-            printAll();
+        return p_.Boxes.Show("Do you want to print all documents for selected date?", "Print All", Buttons::YesNo,
+                             BoxIcon::Question) == Answer::Yes &&
+               printAll();
     });
 }
 
-void PrintCommands::printAll() {
+bool PrintCommands::printAll() {
     // The list may change in the pauses: what was asked for is what stands in it now.
     const std::vector<ClippingRow> rows = p_.Browser.rows();
+    std::size_t printed = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (!p_.Opener.PrintArticle(rows[i].path())) continue;
+        ++printed;
         p_.Loop.DoEvents();
         status_("Printing " + std::to_string(i + 1) + "/" + std::to_string(rows.size()) + " " +
                 rows[i].File->Description);
@@ -40,14 +42,16 @@ void PrintCommands::printAll() {
         printPause(p_.Loop, p_.Setup);
     }
     status_("");
+    return printed == rows.size();
 }
 
-void PrintCommands::mnuPrintSel_Click(std::size_t row) {
-    trapStep(p_.Log, "mnuPrintSel_Click()", [&] {
+bool PrintCommands::mnuPrintSel_Click(std::size_t row) {
+    return trap(p_.Log, "mnuPrintSel_Click()", false, [&] {
         const std::string path = p_.Browser.rows().at(row).path();
-        if (!p_.Opener.PrintArticle(path)) return;
+        if (!p_.Opener.PrintArticle(path)) return false;
         p_.Store.MarkFilePrinted(path);
         p_.Browser.refreshMarks(path);
+        return true;
     });
 }
 

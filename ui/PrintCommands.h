@@ -32,10 +32,12 @@ class PrintCommands {
     };
     PrintCommands(const Parts& parts, StatusText status);
 
-    // All of the list, with a pause after each. Marks what was printed.
-    void mnuPrintAll_Click();
-    // One row. Marks it.
-    void mnuPrintSel_Click(std::size_t row);
+    // Both mark what was printed. False when something was not.
+
+    // All of the list, after a question, with a pause after each.
+    bool mnuPrintAll_Click();
+    // One row.
+    bool mnuPrintSel_Click(std::size_t row);
     // The rules of the dialog that prints whole categories.
     [[nodiscard]] frmPrint mnuPrintByCategory_Click();
 
@@ -43,7 +45,7 @@ class PrintCommands {
     [[nodiscard]] bool isPrinting() const { return printing_; }
 
   private:
-    void printAll();
+    [[nodiscard]] bool printAll();
 
     Parts p_;
     StatusText status_;

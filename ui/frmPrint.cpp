@@ -57,16 +57,16 @@ void frmPrint::cmdRemoveAll_Click() {
     moveAll(chosen_, all_);
 }
 
-void frmPrint::cmdPrint_Click(const StatusText& status) {
-    trapStep(p_.Log, "cmdPrint_Click()", [&] {
-        if (p_.Printing) return;
+bool frmPrint::cmdPrint_Click(const StatusText& status) {
+    return trap(p_.Log, "cmdPrint_Click()", false, [&] {
+        if (p_.Printing) return false;
         if (chosen_.empty()) {
             p_.Boxes.Show("No categories selected. Please selected categories to print.", "Print", Buttons::Ok,
                           BoxIcon::None);
-            return;
+            return false;
         }
         const ScopedFlag printing(p_.Printing);
-        print(documents(), status);
+        return print(documents(), status);
     });
 }
 
@@ -87,16 +87,18 @@ Names frmPrint::documents() const {
     return paths;
 }
 
-void frmPrint::print(const Names& documents, const StatusText& status) {
+bool frmPrint::print(const Names& documents, const StatusText& status) {
+    bool all = true;
     for (std::size_t k = 0; k < documents.size(); ++k) {
         const std::string& path = documents[k];
         if (InStr(Upper(path), ".PDF") == 0) continue;
-        p_.Opener.PrintArticle(path);
+        all = p_.Opener.PrintArticle(path) && all;
         status("Printing " + std::to_string(k + 1) + "/" + std::to_string(documents.size()) + " " +
                std::string(Mid(path, InStrRev(path, "\\") + 1)));
         printPause(p_.Loop, p_.Setup);
     }
     status("");
+    return all;
 }
 
 void printPause(EventLoop& loop, const Settings& settings) {

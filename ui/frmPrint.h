@@ -41,13 +41,14 @@ class frmPrint {
     void cmdAddAll_Click();
     void cmdRemove_Click(std::size_t entry);
     void cmdRemoveAll_Click();
-    void cmdPrint_Click(const StatusText& status);
+    // False when something was not printed.
+    bool cmdPrint_Click(const StatusText& status);
     // Shows how the default printer is set up, then the dialog in which that can be changed.
     void cmdPrinterSettings_Click();
 
   private:
     [[nodiscard]] std::vector<std::string> documents() const;
-    void print(const std::vector<std::string>& documents, const StatusText& status);
+    [[nodiscard]] bool print(const std::vector<std::string>& documents, const StatusText& status);
 
     Parts p_;
     std::vector<std::string> all_;

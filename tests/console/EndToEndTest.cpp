@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/text.h"
 #include "tests/support/ConsoleProgram.h"
 #include "tests/support/ServicePeer.h"
 
@@ -15,8 +16,10 @@ class EndToEndTest : public testing::Test {
   protected:
     EndToEndTest() {
         std::filesystem::create_directory(folder_.path() / "clips");
-        folder_.put("vell.ini", "[Host]\r\nHost=service.example\r\nUid=ann\r\n[Download]\r\nLocalDir=" +
-                                    folder_.text() + "/clips\r\n");
+        folder_.put(
+            "vell.ini",
+            "[General]\r\nPrintAllDelay=0\r\n[Host]\r\nHost=service.example\r\nUid=ann\r\n[Download]\r\nLocalDir=" +
+                folder_.text() + "/clips\r\n");
         service_.serve(3);
     }
     // The exit code, the output, "!", and the error output.
@@ -78,20 +81,75 @@ TEST_F(EndToEndTest, endsWithACodeThatTellsHowItWent) {
     EXPECT_EQ(run({"setup", "Pwd", "-"}, "secret\n"), "0 Pwd = (set)\n!");
 }
 
+TEST_F(EndToEndTest, printsOpensAndDeletesWhatIsNamedAndAsksBeforeMore) {
+    const std::string path = std::getenv("PATH");
+    for (const auto& [name, value] : std::map<std::string, std::string>{{"PATH", folder_.text() + ":" + path},
+                                                                        {"XDG_DATA_HOME", folder_.text()},
+                                                                        {"XDG_CONFIG_HOME", folder_.text()}})
+        setenv(name.c_str(), value.c_str(), 1);
+    folder_.put("lp", "#!/bin/sh\n");
+    std::filesystem::permissions(folder_.path() / "lp", std::filesystem::perms::owner_all);
+    folder_.put("applications/v.desktop", "[Desktop Entry]\nType=Application\nName=V\nExec=true %f\n");
+    folder_.put("mimeapps.list", "[Default Applications]\napplication/pdf=v.desktop\n");
+    for (const char* name : {"A.PDF", "B.PDF", "C.PDF"})
+        folder_.put(std::string("clips/07032004/") + name, "%PDF-1.4\n");
+    folder_.put("clips/07032004/ALLFILES.DIR",
+                "A.PDF||N||one||\xCD\xDD\xE1||\r\nB.PDF||N||two||\xCD\xDD\xE1||\r\nC.PDF||N||three||Sport||\r\n\r\n");
+    const std::string none = "There is no ", unasked =
+                                                 "Nobody is at a terminal to answer. Say --yes to answer with yes "
+                                                 "beforehand.\n";
+    const std::string all = "!Print All: Do you want to print all documents for selected date?\n-> ";
+    const std::string whole = "!Delete Day: Do you want to delete all clippings of 07/03/2004?\n-> ";
+    // Arguments between commas; the exit code with all that was written, or alone; the marks of the clippings then.
+    for (const auto& [arguments, answer, marks] : std::vector<std::array<std::string, 3>>{
+             {"print,b,X,A.pdf,--date,07/03/2004",
+              "1 !" + none +
+                  "clipping 'X' on 07/03/2004. 'vell-console list --tsv --date 07/03/2004' shows what there is.\n",
+              "PP-"},
+             {"open,c", "0 !", "PPO"},
+             {"print,--category,νέα,Νέα,X,--yes",
+              "1 Printing 1/2 A.PDF\nPrinting 2/2 B.PDF\n!" + none +
+                  "category 'X' on 07/03/2004. 'vell-console list --date 07/03/2004' shows what there is.\n",
+              "PPO"},
+             {"print,--all", "1 " + all + "No\n" + unasked, "PPO"},
+             {"print,--all,--yes", "0 Printing 1/3 one\nPrinting 2/3 two\nPrinting 3/3 three\n" + all + "Yes\n", "PPB"},
+             {"print", "2", "PPB"},
+             {"print,--all,A", "2", "PPB"},
+             {"open", "2", "PPB"},
+             {"delete,31/02/2004", "2", "PPB"},
+             {"delete,08/03/2004", "1", "PPB"},
+             {"delete,07/03/2004", "1 " + whole + "No\n" + unasked, "PPB"},
+             {"delete,07/03/2004,--yes", "0 " + whole + "Yes\n", ""},
+             {"open,A", "1", ""}}) {
+        const auto pieces = Split(arguments, ",");
+        const std::string told = run({pieces.begin(), pieces.end()});
+        EXPECT_EQ(told.substr(0, answer.size() == 1 ? 1 : told.size()), answer) << arguments << told;
+        const std::string rows = run({"list", "--tsv"}).substr(2);
+        std::string marked;
+        for (const std::string_view row : Split(rows, "\n"))
+            if (row.ends_with(".PDF")) marked += row.front();
+        EXPECT_EQ(marked, marks) << arguments;
+    }
+    setenv("PATH", path.c_str(), 1);
+    unsetenv("XDG_DATA_HOME");
+    unsetenv("XDG_CONFIG_HOME");
+}
+
 TEST_F(EndToEndTest, stopsAtSigintAfterTheFileUnderWayAndLetsNobodyElseWorkMeanwhile) {
     std::atomic<ConsoleProgram*> running = nullptr;
     int answered = 0;
     std::string other;
     service_.BeforeAnswering = [&](HttpPeer::Answer&) {
         if (++answered != 8) return;
-        other = run(download_);
+        other = run(download_) + run({"print", "--all", "--yes"}) + run({"delete", "07/03/2004", "--yes"});
         running.load()->send(SIGINT);
     };
     ConsoleProgram program(folder_, download_);
     running = &program;
     EXPECT_EQ(program.wait(), 130);
     EXPECT_TRUE(service_.wasAskedLastFor("N220040307.TXT"));
-    EXPECT_EQ(other, "5 !Program is already running\n");
+    const std::string refused = "5 !Program is already running\n";
+    EXPECT_EQ(other, refused + refused + refused);
     EXPECT_TRUE(folder_.has("clips/07032004/N220040307.TXT"));
 }
 

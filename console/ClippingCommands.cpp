@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: MIT
+#include "console/ClippingCommands.h"
+
+#include <algorithm>
+
+#include "app/frmMain.h"
+#include "base/text.h"
+#include "console/ClippingsTable.h"
+#include "console/CommandLine.h"
+#include "console/ConsoleView.h"
+#include "console/Screen.h"
+#include "platform/Terminal.h"
+
+namespace vell {
+
+namespace {
+
+// For readers of a file or a mail; programs take the tab-separated form, in which nothing is cut.
+constexpr std::size_t widthWithoutTerminal = 120;
+
+int codeOf(bool done) {
+    return done ? exit_code::Good : exit_code::Failed;
+}
+
+// The number of the first name that is `utf8`, in any case; nothing when none is.
+std::optional<std::size_t> find(const std::vector<std::string>& names, const std::string& utf8) {
+    const auto wanted = codePageFromUtf8(utf8);
+    if (!wanted) return std::nullopt;
+    const auto found = std::ranges::find_if(names, [&](const std::string& one) { return equalNoCase(one, *wanted); });
+    if (found == names.end()) return std::nullopt;
+    return static_cast<std::size_t>(found - names.begin());
+}
+
+}  // namespace
+
+ClippingCommands::ClippingCommands(frmMain& program, EventLoop& loop, const ConsoleView& view, const Terminal& terminal,
+                                   Screen& screen)
+    : program_(program), loop_(loop), view_(view), terminal_(terminal), screen_(screen) {}
+
+bool ClippingCommands::chooseDay(const std::optional<Date>& day) {
+    ClippingsBrowser& browser = program_.browser();
+    if (browser.days().empty() && !day) {
+        screen_.tell("No day has been fetched yet. 'vell-console download' fetches today's clippings.");
+        return false;
+    }
+    const std::string name = day ? day->dayName() : browser.days().front();
+    if (browser.chooseDay(name)) return true;
+    screen_.tell("The day " + name + " has not been fetched. 'vell-console days' shows those that have.");
+    return false;
+}
+
+int ClippingCommands::list(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return codeOf(!line.Day);
+    const ClippingsBrowser& browser = program_.browser();
+    if (line.Tsv) {
+        for (const ClippingRow& row : browser.rows())
+            screen_.print(clippingTsv(row));
+        return exit_code::Good;
+    }
+    screen_.print(browser.chosenDay() + "   " + std::to_string(browser.rows().size()) + " Clippings");
+    if (const std::string alert = shownLines(view_.alert()); !alert.empty()) screen_.print(alert);
+    const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
+    for (const std::string& text :
+         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : widthWithoutTerminal))
+        screen_.print(text);
+    return exit_code::Good;
+}
+
+int ClippingCommands::open(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return exit_code::Failed;
+    return forEachFile(
+        line, [this](std::size_t row) { return program_.opening().open(program_.browser().rows().at(row).path()); });
+}
+
+int ClippingCommands::print(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return exit_code::Failed;
+    if (line.All) return printAll(line);
+    return line.Categories.empty() ? printFiles(line) : printCategories(line);
+}
+
+int ClippingCommands::printAll(const CommandLine& line) {
+    const bool printed = program_.printing().mnuPrintAll_Click();
+    screen_.leaveStatus();
+    if (!printed) tellUnasked(line);
+    return codeOf(printed);
+}
+
+int ClippingCommands::printCategories(const CommandLine& line) {
+    frmPrint dialog = program_.printing().mnuPrintByCategory_Click();
+    bool good = true;
+    for (const std::string& name : line.Categories) {
+        if (const auto entry = find(dialog.lstAllCategories(), name)) {
+            dialog.cmdAdd_Click(*entry);
+        } else if (!find(dialog.lstPrintCategories(), name)) {  // not named before either
+            tellUnlisted("category", name, "list");
+            good = false;
+        }
+    }
+    if (!dialog.lstPrintCategories().empty())
+        good = dialog.cmdPrint_Click([this](std::string_view text) { screen_.showStatus(text, -1); }) && good;
+    screen_.leaveStatus();
+    return codeOf(good);
+}
+
+int ClippingCommands::printFiles(const CommandLine& line) {
+    bool another = false;
+    return forEachFile(line, [this, &another](std::size_t row) {
+        if (another) printPause(loop_, program_.settings());
+        another = program_.printing().mnuPrintSel_Click(row);
+        return another;
+    });
+}
+
+int ClippingCommands::forEachFile(const CommandLine& line, const std::function<bool(std::size_t)>& act) {
+    bool good = true;
+    for (const std::string& name : line.Files) {
+        const auto row = rowOf(name);
+        if (!row) tellUnlisted("clipping", name, "list --tsv");
+        good = row && act(*row) && good;
+    }
+    return codeOf(good);
+}
+
+std::optional<std::size_t> ClippingCommands::rowOf(const std::string& utf8Name) const {
+    std::vector<std::string> names;
+    for (const ClippingRow& row : program_.browser().rows())
+        names.push_back(row.File->FileName);
+    const auto row = find(names, utf8Name);
+    return row ? row : find(names, utf8Name + ".PDF");
+}
+
+void ClippingCommands::tellUnlisted(std::string_view kind, const std::string& utf8Name, const std::string& options) {
+    const std::string day = program_.browser().chosenDay();
+    screen_.tell("There is no " + std::string(kind) + " '" + codePageFromUtf8Lossy(utf8Name) + "' on " + day +
+                 ". 'vell-console " + options + " --date " + day + "' shows what there is.");
+}
+
+int ClippingCommands::deleteDay(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return exit_code::Failed;
+    const std::string day = program_.browser().chosenDay();
+    program_.dayCommands().mnuDeleteDay_Click();
+    const auto& days = program_.browser().days();
+    const bool isGone = std::ranges::find(days, day) == days.end();
+    if (!isGone) tellUnasked(line);
+    return codeOf(isGone);
+}
+
+void ClippingCommands::tellUnasked(const CommandLine& line) {
+    if (!line.Yes && !terminal_.canAsk())
+        screen_.tell("Nobody is at a terminal to answer. Say --yes to answer with yes beforehand.");
+}
+
+}  // namespace vell
