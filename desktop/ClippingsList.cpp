@@ -72,12 +72,11 @@ void ClippingsList::addColumns() {
         }
         auto* text = new wxDataViewTextRenderer;
         text->EnableEllipsize(wxELLIPSIZE_END);
-        list_->AppendColumn(
-            new wxDataViewColumn(shownLine(layout.Header), text, index, width, wxALIGN_LEFT, wxDATAVIEW_COL_RESIZABLE));
+        const int flags = layout.Column == GridColumn::Title ? 0 : wxDATAVIEW_COL_RESIZABLE;  // it takes the rest
+        auto* column = new wxDataViewColumn(shownLine(layout.Header), text, index, width, wxALIGN_LEFT, flags);
+        list_->AppendColumn(column);
+        whenResized(*column, [this] { CallAfter(&ClippingsList::fitColumns); });
     }
-    wxDataViewColumn& title = columnOf(GridColumn::Title);
-    title.SetMinWidth(FromDIP(narrowestTitle));
-    stretchColumn(title);
     showPictureOnly(columnOf(GridColumn::Marks), rowPictureSize);
 }
 
@@ -151,6 +150,8 @@ void ClippingsList::fitColumns() {
                                      {wanted(GridColumn::Newspaper), wanted(GridColumn::Type)}, room);
     giveWidth(GridColumn::Newspaper, widths.Newspaper);
     giveWidth(GridColumn::Type, widths.Type);
+    const int rest = all - tableWidth(GridColumn::Marks) - widths.Newspaper - widths.Type;
+    giveWidth(GridColumn::Title, std::max(rest, FromDIP(narrowestTitle)));
 }
 
 int ClippingsList::wantedWidth(GridColumn column) const {

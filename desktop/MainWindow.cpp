@@ -28,7 +28,7 @@
 namespace vell {
 
 namespace {
-const wxSize smallest(640, 500);  // DIP
+const wxSize smallest(640, 560);  // DIP
 constexpr int sideBarWidth = 250;
 
 // A window that was left on a display which is gone would never be found again.

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 class wxDataViewColumn;
 class wxSize;
 
 namespace vell {
 
-// From now on the column takes the room in its list that the others leave.
-void stretchColumn(wxDataViewColumn& column);
+// Tells whenever the column gets another width, from the user or the program. Not to be answered with widths at once:
+// the list is being laid out.
+void whenResized(wxDataViewColumn& column, std::function<void()> tell);
 
 // The width that the program or the user gave the column, also before it is laid out.
 [[nodiscard]] int givenWidth(const wxDataViewColumn& column);

@@ -1,15 +1,30 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/columnTricks.h"
 
+#include <utility>
+
 #include <gtk/gtk.h>
 #include <wx/dataview.h>
 
 namespace vell {
 
-void stretchColumn(wxDataViewColumn& column) {
-    auto* native = GTK_TREE_VIEW_COLUMN(column.GetGtkHandle());
-    gtk_tree_view_column_set_fixed_width(native, column.GetMinWidth());  // the rest is added to it
-    gtk_tree_view_column_set_expand(native, TRUE);
+namespace {
+
+using Tell = std::function<void()>;
+
+void resized(GObject* /*column*/, GParamSpec* /*width*/, gpointer tell) {
+    (*static_cast<Tell*>(tell))();
+}
+
+void forget(gpointer tell, GClosure* /*closure*/) {
+    delete static_cast<Tell*>(tell);
+}
+
+}  // namespace
+
+void whenResized(wxDataViewColumn& column, std::function<void()> tell) {
+    g_signal_connect_data(column.GetGtkHandle(), "notify::width", G_CALLBACK(resized), new Tell(std::move(tell)),
+                          forget, GConnectFlags(0));
 }
 
 int givenWidth(const wxDataViewColumn& column) {

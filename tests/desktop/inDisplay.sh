@@ -4,10 +4,13 @@
 number=$(mktemp)
 Xvfb -displayfd 3 -nolisten tcp -screen 0 "${SCREEN:-1180x760x24}" 3>"$number" 2>/dev/null &
 server=$!
-trap 'kill "$server" 2>/dev/null; rm -f "$number"' EXIT
+work=
+trap 'kill $work "$server" 2>/dev/null; rm -f "$number"' EXIT
 trap 'exit 130' INT TERM
 until [ -s "$number" ]; do
   kill -0 "$server" || { echo "inDisplay.sh: the display did not start" >&2; exit 1; }
   sleep 0.05
 done
-DISPLAY=:$(cat "$number") dbus-run-session -- "$@"
+DISPLAY=:$(cat "$number") dbus-run-session -- "$@" &
+work=$!
+wait "$work"

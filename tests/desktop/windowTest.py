@@ -263,9 +263,9 @@ class WindowTest(unittest.TestCase):
         self.assertEqual(window.close(), 0)
         again = self.start(**proxy)
         wait(lambda: self.geometry(again) == ["X=30", "Y=45", "WIDTH=900", "HEIGHT=600"])
-        subprocess.run(["xdotool", "windowsize", "--sync", again.uppermost(), "640", "500"],
+        subprocess.run(["xdotool", "windowsize", "--sync", again.uppermost(), "640", "560"],
                        check=True)
-        wait(lambda: self.geometry(again)[3] == "HEIGHT=500")
+        wait(lambda: self.geometry(again)[3] == "HEIGHT=560")
         time.sleep(0.5)
         self.shoot(again, "small")
         self.assertEqual(again.close(), 0)
