@@ -81,6 +81,10 @@ class WindowTest(unittest.TestCase):
                 continue  # over the pictures
             self.assertTrue(node.get_name() or text_of(node), f"{node.get_role_name()} in {node.get_parent().get_name()}")
         self.assertIn("2 Clippings", window.texts())
+        names = [node.get_name() for node in window.nodes(window.find("menu bar")) if node.get_role_name() == "menu item"]
+        self.assertGreater(len(names), 20)
+        help_page = (pathlib.Path(VELL).parent / "Vellhelp.htm").read_text()
+        self.assertEqual([name for name in names if name not in help_page], [])
         for keys, role, name in (("ctrl+comma", "page tab", "Connection"), ("ctrl+shift+s", "table", "Schedule"),
                                  ("ctrl+f", "label", "Types"), ("ctrl+alt+p", "push button", "Add >"),
                                  ("F6", "slider", "Seconds per clipping")):
