@@ -68,7 +68,7 @@ bool DownloadRun::prepare() {
         p_.State.Outcome.FolderFailed = true;
         return false;
     }
-    if (p_.View.followsRun()) {
+    if (p_.View.followsRun() || p_.Browser.chosenDay().empty()) {
         p_.Browser.PopulateDateCombo();
         const std::string& day = p_.State.Day.gCurrentDate;
         p_.Browser.chooseDay(day.substr(0, 2) + "/" + day.substr(2, 2) + "/" + day.substr(4));

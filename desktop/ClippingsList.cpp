@@ -144,7 +144,7 @@ void ClippingsList::fitColumns() {
     const auto tableWidth = [this](GridColumn column) { return pixelsFromTwips(*this, gridColumnWidth(column)); };
     const auto least = [&](GridColumn column) { return chosenWidth(column).value_or(tableWidth(column)); };
     const auto wanted = [&](GridColumn column) { return chosenWidth(column).value_or(wantedWidth(column)); };
-    const int all = list_->GetClientSize().GetWidth();
+    const int all = roomForColumns(*list_);
     const int room = std::min(all / 2, all - tableWidth(GridColumn::Marks) - tableWidth(GridColumn::Title));
     const auto widths = fittedWidths({least(GridColumn::Newspaper), least(GridColumn::Type)},
                                      {wanted(GridColumn::Newspaper), wanted(GridColumn::Type)}, room);

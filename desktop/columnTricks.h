@@ -4,6 +4,7 @@
 #include <functional>
 
 class wxDataViewColumn;
+class wxDataViewCtrl;
 class wxSize;
 
 namespace vell {
@@ -11,6 +12,9 @@ namespace vell {
 // Tells whenever the column gets another width, from the user or the program. Not to be answered with widths at once:
 // the list is being laid out.
 void whenResized(wxDataViewColumn& column, std::function<void()> tell);
+
+// What a list has for its columns, in pixels.
+[[nodiscard]] int roomForColumns(const wxDataViewCtrl& list);
 
 // The width that the program or the user gave the column, also before it is laid out.
 [[nodiscard]] int givenWidth(const wxDataViewColumn& column);

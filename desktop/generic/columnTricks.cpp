@@ -8,6 +8,10 @@ namespace vell {
 // The toolkit tells nobody.
 void whenResized(wxDataViewColumn& /*column*/, std::function<void()> /*tell*/) {}
 
+int roomForColumns(const wxDataViewCtrl& list) {
+    return list.GetClientSize().GetWidth();
+}
+
 int givenWidth(const wxDataViewColumn& column) {
     return column.GetWidth();
 }

@@ -27,6 +27,11 @@ void whenResized(wxDataViewColumn& column, std::function<void()> tell) {
                           forget, GConnectFlags(0));
 }
 
+// wxWidgets counts the border in.
+int roomForColumns(const wxDataViewCtrl& list) {
+    return gtk_widget_get_allocated_width(gtk_bin_get_child(GTK_BIN(list.GetHandle())));
+}
+
 int givenWidth(const wxDataViewColumn& column) {
     return gtk_tree_view_column_get_fixed_width(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()));
 }

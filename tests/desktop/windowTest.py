@@ -9,7 +9,7 @@ import tempfile
 import time
 import unittest
 
-from window import Window, is_shown, text_of, wait
+from window import Atspi, Window, is_shown, text_of, wait
 
 VELL, SERVICE, CONSOLE, SHOTS = sys.argv[1:5]
 TODAY = datetime.date.today()
@@ -273,6 +273,47 @@ class WindowTest(unittest.TestCase):
         time.sleep(0.5)
         self.shoot(again, "small")
         self.assertEqual(again.close(), 0)
+
+    def test_the_schedule_is_kept_while_a_dialog_is_open(self):
+        proxy = self.serve()
+        minutes = [datetime.datetime.now() + datetime.timedelta(minutes=ahead) for ahead in range(2)]
+        with open(self.folder / "vell.ini", "a", newline="", encoding="ascii") as settings:
+            settings.write("[Schedule]\r\n" + "".join(f"Schedule{number}={minute:%a} {minute:%H:%M}\r\n"
+                                                      for number, minute in enumerate(minutes, 1)))
+        window = self.start(**proxy)
+        window.press("ctrl+comma")
+        window.find("page tab", "Connection")
+        wait(lambda: "Finished: 14 of 14 clippings downloaded." in window.texts())
+        window.find("page tab", "Connection")
+        window.press("Escape")
+        wait(lambda: window.row_count() == 14)
+        self.assertEqual(window.close(), 0)
+
+    def test_a_column_keeps_the_width_that_the_user_draws(self):
+        self.put_day("07032004", ["Α"])
+        window = self.start()
+        before = self.header(window, "Newspaper")
+        edge, middle = str(before.x + before.width), str(before.y + before.height // 2)
+        subprocess.run(["xdotool", "mousemove", edge, middle, "mousedown", "1", "mousemove_relative", "30", "0",
+                        "mousemove_relative", "30", "0", "mouseup", "1"], check=True)
+        wait(lambda: self.header(window, "Newspaper").width > before.width + 40)
+        drawn = self.header(window, "Newspaper").width
+        wait(lambda: self.right_end(self.header(window, "Type")) == self.right_end(self.extents(window.table())))
+        self.assertEqual(window.close(), 0)
+        again = self.start()
+        wait(lambda: self.header(again, "Newspaper").width == drawn)
+        self.assertEqual(again.close(), 0)
+
+    def header(self, window, name):
+        return self.extents(window.find("table column header", name))
+
+    @staticmethod
+    def extents(node):
+        return node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
+
+    @staticmethod
+    def right_end(place):
+        return place.x + place.width
 
     @staticmethod
     def geometry(window):
