@@ -72,7 +72,7 @@ wxCheckListBox* FilterDialog::listBox(wxSizer& sizer, const wxString& label, con
 
 void FilterDialog::ok() {
     rules_.cmdOk_Click({checkedOf(*categories_, rules_.lstCategories()), checkedOf(*types_, rules_.lstTypes())});
-    EndModal(wxID_OK);
+    AcceptAndClose();
 }
 
 void FilterDialog::clear() {

@@ -111,7 +111,7 @@ void MainWindow::bindCommands() {
     });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
         if (events_)
-            events_->closing();  // ends the process, in its own time
+            events_->closing(event.CanVeto());  // ends the process, in its own time
         else
             event.Skip();
     });

@@ -90,7 +90,7 @@ bool Program::OnInit() {
     started_ = start();
     if (!started_) return true;
     for (const int signal : {SIGINT, SIGTERM})
-        SetSignalHandler(signal, [](int) { wxTheApp->GetTopWindow()->Close(); });
+        SetSignalHandler(signal, [](int) { wxTheApp->GetTopWindow()->Close(true); });
     return true;
 }
 

@@ -32,7 +32,7 @@ ScheduleDialog::ScheduleDialog(wxWindow* parent, frmSchedule rules)
         wxEVT_BUTTON,
         [this](wxCommandEvent& /*event*/) {
             CallAfter([this] {
-                if (rules_.cmdOk_Click()) EndModal(wxID_OK);
+                if (rules_.cmdOk_Click()) AcceptAndClose();
             });
         },
         wxID_OK);

@@ -237,7 +237,7 @@ void SetupDialog::ok() {
     if (const auto problem = rules_.cmdOk_Click())
         complain(problem->Message, problem->Field);
     else
-        EndModal(wxID_OK);
+        AcceptAndClose();
 }
 
 // A name that the code page cannot hold would be stored as another one.

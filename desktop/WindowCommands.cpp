@@ -22,7 +22,7 @@ WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxe
     addDayCommands();
     addProgramCommands();
     window_.listenTo(*this);
-    window_.onOpenSetup([this] { setUp(); });
+    window_.onOpenSetup([this] { setUpAndWait(); });
 }
 
 void WindowCommands::addClippingCommands() {
@@ -65,7 +65,8 @@ void WindowCommands::addProgramCommands() {
     table_[command::Stop] = {[this] { program_.cmdStopDownload_Click(); },
                              [this] { return program_.isBusy() || window_.followsRun(); }};
     table_[command::Setup] = {[this] { setUp(); }, always};
-    table_[command::Schedule] = {[this] { ScheduleDialog(&window_, program_.scheduleDialog()).ShowModal(); }, always};
+    table_[command::Schedule] = {[this] { dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog())); },
+                                 always};
     table_[command::Refresh] = {[this] { program_.dayCommands().reload(); }, always};
     table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
     table_[command::Help] = {[this] { program_.opening().openHelp(); }, always};
@@ -74,11 +75,11 @@ void WindowCommands::addProgramCommands() {
 }
 
 void WindowCommands::printByCategory() {
-    PrintDialog(&window_, program_.printing().mnuPrintByCategory_Click()).ShowModal();
+    dialogs_.open(new PrintDialog(&window_, program_.printing().mnuPrintByCategory_Click()));
 }
 
 void WindowCommands::chooseFilter() {
-    FilterDialog(&window_, frmFilter(program_.browser())).ShowModal();
+    dialogs_.open(new FilterDialog(&window_, frmFilter(program_.browser())));
 }
 
 void WindowCommands::showAutoView() {
@@ -91,13 +92,20 @@ void WindowCommands::showAutoView() {
 }
 
 void WindowCommands::setUp() {
+    dialogs_.open(new SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()),
+                  [this] { program_.dayCommands().reload(); });
+}
+
+// For a run that cannot go on without the settings.
+void WindowCommands::setUpAndWait() {
     if (SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()).ShowModal() == wxID_OK)
         program_.dayCommands().reload();
 }
 
 void WindowCommands::showAbout() {
     const std::string address = program_.settings().Host.empty() ? "" : "http://" + program_.settings().Host + "/";
-    AboutDialog(&window_, program_.version(), address, [&] { program_.opening().openAddress(address); }).ShowModal();
+    dialogs_.open(new AboutDialog(&window_, program_.version(), address,
+                                  [this, address] { program_.opening().openAddress(address); }));
 }
 
 void WindowCommands::download() {
@@ -142,7 +150,8 @@ void WindowCommands::toDateChanged(const Date& to) {
     program_.dtToDate_Change(to);
 }
 
-void WindowCommands::closing() {
+void WindowCommands::closing(bool mayBeRefused) {
+    if (mayBeRefused && dialogs_.raise()) return;
     if (std::exchange(closing_, true)) return;  // the end may ask the user something, who may close once more
     program_.Form_Unload();
     end_();

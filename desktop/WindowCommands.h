@@ -7,6 +7,7 @@
 #include <wx/weakref.h>
 
 #include "desktop/AutoViewWindow.h"
+#include "desktop/OpenDialogs.h"
 #include "desktop/WindowEvents.h"
 
 namespace vell {
@@ -29,7 +30,7 @@ class WindowCommands : public WindowEvents {
     void rangeChosen(bool onlyToday) override;
     void fromDateChanged(const Date& from) override;
     void toDateChanged(const Date& to) override;
-    void closing() override;
+    void closing(bool mayBeRefused) override;
 
   private:
     struct Entry {
@@ -44,6 +45,7 @@ class WindowCommands : public WindowEvents {
     void chooseFilter();
     void showAutoView();
     void setUp();
+    void setUpAndWait();
     void showAbout();
 
     frmMain& program_;
@@ -51,6 +53,7 @@ class WindowCommands : public WindowEvents {
     MessageBoxes& boxes_;
     std::function<void()> end_;
     std::map<int, Entry> table_;
+    OpenDialogs dialogs_;
     wxWeakRef<AutoViewWindow> autoView_;
     bool closing_ = false;
     bool downloading_ = false;  // from the user's start to its end; between two days no run is under way

@@ -25,8 +25,8 @@ class WindowEvents {
     virtual void fromDateChanged(const Date& from) = 0;
     virtual void toDateChanged(const Date& to) = 0;
 
-    // The window is about to go.
-    virtual void closing() = 0;
+    // The window is to go. The user may be told to close a dialog first, the system may not.
+    virtual void closing(bool mayBeRefused) = 0;
 };
 
 }  // namespace vell

@@ -289,6 +289,22 @@ class WindowTest(unittest.TestCase):
         wait(lambda: window.row_count() == 14)
         self.assertEqual(window.close(), 0)
 
+    def test_a_download_goes_on_behind_a_dialog(self):
+        window = self.start(**self.serve("--rate", "60", "--latency", "20"))
+        window.press("F9")
+        wait(lambda: window.row_count() >= 1)
+        for keys, role, name in (("ctrl+f", "label", "Types"), ("ctrl+comma", "page tab", "Connection")):
+            window.press(keys)
+            window.find(role, name)
+            rows = window.row_count()
+            wait(lambda rows=rows: window.row_count() > rows)
+            window.press("Escape")
+            wait(lambda: len(window.window_ids()) == 1)
+        window.press("ctrl+shift+s")
+        window.find("table", "Schedule")
+        window.process.terminate()
+        self.assertEqual(window.process.wait(30), 0)
+
     def test_a_column_keeps_the_width_that_the_user_draws(self):
         self.put_day("07032004", ["Α"])
         window = self.start()
