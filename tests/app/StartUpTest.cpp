@@ -112,5 +112,24 @@ TEST_F(StartUpTest, keepsThePlaceUnlessThereIsNoneWorthKeeping) {
     EXPECT_EQ(view.Place, (WindowPlace{-50, 30, 3000, 5, 700, 800}));
 }
 
+TEST_F(StartUpTest, leavesADialUpConnectionOnlyWithTheUsersWordAndTellsWhenItStays) {
+    putIni("CloseConnection=1\r\n");
+    connection.flags = ConnectionApi::Modem | ConnectionApi::Configured;
+    const std::string question = "Do you want to close the dial-up connection?";
+    const std::string failed = "Error! Could not close dial-up connection";
+    for (const auto start : {frmMain::Start::Window, frmMain::Start::Alone, frmMain::Start::AloneOffline}) {
+        const bool asks = start != frmMain::Start::AloneOffline;
+        boxes.Shown.clear();
+        boxes.Answers = {Answer::Yes};
+        ASSERT_TRUE(program.Form_Load(start));
+        view.Place = WindowPlace{1, 2, 3, 4, 0, 0};
+        program.Form_Unload();
+        EXPECT_THAT(ini(), HasSubstr("posTop=1"));
+        EXPECT_EQ(boxes.Shown, asks ? (std::vector<std::string>{question, failed}) : std::vector<std::string>{});
+        EXPECT_EQ(logHas(failed + "\n==========  Program Ended ===============\n"), asks);
+        std::filesystem::remove(folder.path() / "vell.log");
+    }
+}
+
 }  // namespace
 }  // namespace vell::test
