@@ -20,7 +20,7 @@ class MainView : public BrowserView {
     // Running: Stop can be pressed and the state colour is red; else Start, and green.
     virtual void showForcedRun(bool running) = 0;
     virtual void showDateRange(const Date& from, const Date& to) = 0;
-    // A message that waits for the user.
+    // A message that stays until the user has seen it, and holds nothing up. It may be long, and is then cut.
     virtual void displayInfoMessageBox(std::string_view text) = 0;
     // Opens the setup dialog and returns when it is closed.
     virtual void openSetup() = 0;

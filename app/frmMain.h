@@ -8,6 +8,7 @@
 #include "app/DownloadRun.h"
 #include "app/FtpSession.h"
 #include "app/InternetLink.h"
+#include "app/RunBoxes.h"
 #include "app/ScheduledRuns.h"
 #include "app/Session.h"
 #include "app/TransferProgress.h"
@@ -101,6 +102,8 @@ class frmMain {
     SettingsLoader loader_;
     modGlobal store_;
     Articles articles_;
+    RunBoxes runBoxes_;
+    Articles runArticles_;  // printed by a run
     TransferProgress progress_;
     modHTTP http_;
     FtpSession ftp_;

@@ -182,7 +182,9 @@ void MainWindow::showDateRange(const Date& from, const Date& to) {
 }
 
 void MainWindow::displayInfoMessageBox(std::string_view text) {
-    message_->ShowMessage(shownText(text), wxICON_INFORMATION);
+    constexpr std::size_t longest = 400;  // what a server says may have no end
+    message_->ShowMessage(shownText(text.substr(0, longest)) + (text.size() > longest ? "..." : ""),
+                          wxICON_INFORMATION);
 }
 
 void MainWindow::openSetup() {

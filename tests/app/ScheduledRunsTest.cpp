@@ -58,7 +58,8 @@ TEST_F(ScheduledRunsTest, startsEachEntryOfItsMinuteInTheFirstTickOfItThroughAWe
 }
 
 TEST_F(ScheduledRunsTest, aTickInTheMiddleOfARunFindsTheProgramBusy) {
-    load(program, "Schedule1=Sun 06:30\r\n");
+    load(program, "Schedule1=Sun 06:30\r\n", "PrintOnDownload=1\r\n");
+    shell.Result = 2;
     view.OnStatus = [&](const std::string& status) {
         if (status.find(" Downloading N2") == std::string::npos) return;
         view.OnStatus = nullptr;
@@ -69,6 +70,8 @@ TEST_F(ScheduledRunsTest, aTickInTheMiddleOfARunFindsTheProgramBusy) {
     EXPECT_EQ(service.requests().size(), 2U + 10U);  // one run alone
     const std::string index = inDay("ALLFILES.DIR");
     EXPECT_EQ(Split(index, "||d||").size(), 4U) << index;
+    EXPECT_TRUE(boxes.Shown.empty()) << "nobody is there to press OK: " << boxes.Shown.front();
+    EXPECT_TRUE(view.Message.ends_with("The specified file was not found.")) << view.Message;
 }
 
 TEST_F(ScheduledRunsTest, aClockThatJumpsStartsNothingTwice) {
