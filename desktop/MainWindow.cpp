@@ -5,7 +5,6 @@
 #include <utility>
 
 #include <wx/display.h>
-#include <wx/infobar.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
@@ -17,6 +16,7 @@
 #include "desktop/FilterBar.h"
 #include "desktop/ForcedDownloadPane.h"
 #include "desktop/MainMenu.h"
+#include "desktop/MessageFrame.h"
 #include "desktop/ProgressPane.h"
 #include "desktop/StatusLine.h"
 #include "desktop/WindowEvents.h"
@@ -54,8 +54,7 @@ MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr
 
 void MainWindow::addParts(const Clock& clock, const Files& files) {
     auto* all = new wxPanel(this);
-    message_ = new wxInfoBar(all);
-    message_->AddButton(wxID_OK);
+    message_ = new MessageFrame(all);
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
     filter_ = new FilterBar(all);
@@ -182,9 +181,7 @@ void MainWindow::showDateRange(const Date& from, const Date& to) {
 }
 
 void MainWindow::displayInfoMessageBox(std::string_view text) {
-    constexpr std::size_t longest = 400;  // what a server says may have no end
-    message_->ShowMessage(shownText(text.substr(0, longest)) + (text.size() > longest ? "..." : ""),
-                          wxICON_INFORMATION);
+    message_->show(text);
 }
 
 void MainWindow::openSetup() {

@@ -13,7 +13,6 @@
 #include "app/MainView.h"
 
 class wxBoxSizer;
-class wxInfoBar;
 
 namespace vell {
 
@@ -25,6 +24,7 @@ class DatePane;
 class Files;
 class FilterBar;
 class ForcedDownloadPane;
+class MessageFrame;
 class ProgressPane;
 class StatusLine;
 class WindowEvents;
@@ -71,7 +71,7 @@ class MainWindow : public wxFrame, public MainView {
     const std::vector<ClippingRow>* rows_ = nullptr;
     std::optional<wxBusyCursor> busy_;
 
-    wxInfoBar* message_ = nullptr;
+    MessageFrame* message_ = nullptr;
     DatePane* dates_ = nullptr;
     FilterBar* filter_ = nullptr;
     ClippingsList* list_ = nullptr;

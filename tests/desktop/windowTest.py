@@ -3,6 +3,7 @@
 import datetime
 import os
 import pathlib
+import socket
 import subprocess
 import sys
 import tempfile
@@ -122,6 +123,25 @@ class WindowTest(unittest.TestCase):
         window.push("OK")
         window.press("Up")
         wait(lambda: text_of(window.find("text", "From")) == TODAY.strftime("%d/%m/%Y"))
+        self.assertEqual(window.close(), 0)
+
+    def test_a_long_answer_of_a_broken_service_leaves_the_window_in_shape(self):
+        answer = b"HTTP/1.0 404 Not Found\r\nX-Long: " + b"y" * 900 + b"\r\n\r\n"
+        with socket.create_server(("127.0.0.1", 0)) as service:
+            window = self.start(http_proxy=f"http://127.0.0.1:{service.getsockname()[1]}")
+            window.press("F9")
+            service.settimeout(30)
+            with service.accept()[0] as caller:
+                caller.sendall(answer)
+                caller.shutdown(socket.SHUT_WR)
+                while caller.recv(4096):
+                    pass
+            ok = window.find("push button", "OK")
+        self.assertIn("Quillon Service not accessible.\nHTTP/1.0 404 Not Found", "".join(window.texts()))
+        self.assertLess(self.right_end(self.extents(ok)), self.right_end(self.extents(window.find("frame"))))
+        self.shoot(window, "answer")
+        window.push("OK")
+        wait(lambda: not is_shown(ok))
         self.assertEqual(window.close(), 0)
 
     def test_a_double_click_opens_marks_and_keeps_its_row_when_sorted(self):
