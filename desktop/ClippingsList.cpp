@@ -84,6 +84,7 @@ void ClippingsList::show(const std::vector<ClippingRow>& rows) {
     const auto current = currentRow();
     const std::string path = current ? model_->at(*current).path() : std::string();
     if (!model_->setRows(rows) || !list_->GetSelection().IsOk()) restoreSelection(path);
+    wantedWidths_ = {wantedWidth(GridColumn::Newspaper), wantedWidth(GridColumn::Type)};
     fitColumns();
 }
 
@@ -142,12 +143,13 @@ std::optional<int> ClippingsList::chosenWidth(GridColumn column) const {
 
 void ClippingsList::fitColumns() {
     const auto tableWidth = [this](GridColumn column) { return pixelsFromTwips(*this, gridColumnWidth(column)); };
-    const auto least = [&](GridColumn column) { return chosenWidth(column).value_or(tableWidth(column)); };
-    const auto wanted = [&](GridColumn column) { return chosenWidth(column).value_or(wantedWidth(column)); };
+    const auto newspaper = chosenWidth(GridColumn::Newspaper);
+    const auto type = chosenWidth(GridColumn::Type);
     const int all = roomForColumns(*list_);
     const int room = std::min(all / 2, all - tableWidth(GridColumn::Marks) - tableWidth(GridColumn::Title));
-    const auto widths = fittedWidths({least(GridColumn::Newspaper), least(GridColumn::Type)},
-                                     {wanted(GridColumn::Newspaper), wanted(GridColumn::Type)}, room);
+    const auto widths = fittedWidths(
+        {newspaper.value_or(tableWidth(GridColumn::Newspaper)), type.value_or(tableWidth(GridColumn::Type))},
+        {newspaper.value_or(wantedWidths_.Newspaper), type.value_or(wantedWidths_.Type)}, room);
     giveWidth(GridColumn::Newspaper, widths.Newspaper);
     giveWidth(GridColumn::Type, widths.Type);
     const int rest = all - tableWidth(GridColumn::Marks) - widths.Newspaper - widths.Type;
@@ -155,7 +157,7 @@ void ClippingsList::fitColumns() {
 }
 
 int ClippingsList::wantedWidth(GridColumn column) const {
-    constexpr std::size_t mostMeasured = 200;  // each takes its time
+    constexpr std::size_t mostMeasured = 200;
     int widest = 0;
     for (const std::string& text : model_->texts(column, mostMeasured))
         widest = std::max(widest, list_->GetTextExtent(shownLine(text)).GetWidth());

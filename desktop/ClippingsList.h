@@ -65,6 +65,7 @@ class ClippingsList : public wxPanel {
     ClippingsModel* model_;  // the control and this list share it
     wxDataViewCtrl* list_;
     TypeAhead typeAhead_;
+    TextColumnWidths wantedWidths_;          // by the rows that are shown; measuring takes its time
     std::map<GridColumn, int> givenWidths_;  // by this list; a column that has another one was drawn by the user
 };
 

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/MessageFrame.h"
 
+#include <wx/arrstr.h>
 #include <wx/button.h>
 #include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 
-#include "base/text.h"
 #include "desktop/screenText.h"
 
 namespace vell {
@@ -19,11 +19,10 @@ constexpr std::size_t longestTip = 1000;
 wxString firstLines(std::string_view text) {
     wxString shown;
     std::size_t lines = 0;
-    for (std::string_view line : Split(text, "\n")) {
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        if (Trim(line).empty()) continue;
+    for (const wxString& line : wxSplit(shownText(text), '\n', '\0')) {
+        if (line.Strip(wxString::both).empty()) continue;
         if (lines++ == mostLines) return shown + " ...";
-        shown += (shown.empty() ? "" : "\n") + shownLine(line);
+        shown += (shown.empty() ? "" : "\n") + line;
     }
     return shown;
 }

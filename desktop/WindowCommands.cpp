@@ -114,8 +114,7 @@ void WindowCommands::download() {
 }
 
 void WindowCommands::commandChosen(int id) {
-    const auto entry = table_.find(id);
-    if (entry != table_.end() && entry->second.CanRun()) entry->second.Run();
+    if (isEnabled(id)) table_.at(id).Run();
 }
 
 bool WindowCommands::isEnabled(int id) const {

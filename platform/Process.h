@@ -11,8 +11,6 @@ class Process {
 
     // The program's folder, with or without a backslash at its end: where settings, log and advertisement lie.
     [[nodiscard]] virtual std::string ProgramFolder() const = 0;
-    // Without the extension.
-    [[nodiscard]] virtual std::string ExecutableName() const = 0;
     // True when another process works in the same program folder; else this one holds the place until it ends.
     [[nodiscard]] virtual bool IsPreviousInstance() = 0;
 };

@@ -2,7 +2,6 @@
 #include "platform/posix/PosixProcess.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <utility>
 
 #include <fcntl.h>
@@ -24,9 +23,7 @@ std::string expressed(const std::string& folder) {
 
 }  // namespace
 
-PosixProcess::PosixProcess(const ProgramPlace& place)
-    : folder_(expressed(place.programFolder())),
-      executableName_(codePageFromUtf8Lossy(std::filesystem::path(place.Executable).stem().string())) {}
+PosixProcess::PosixProcess(const ProgramPlace& place) : folder_(expressed(place.programFolder())) {}
 
 bool PosixProcess::IsPreviousInstance() {
     if (lock_.isOpen()) return false;

@@ -15,13 +15,11 @@ class PosixProcess : public Process {
     explicit PosixProcess(const ProgramPlace& place);
 
     [[nodiscard]] std::string ProgramFolder() const override { return folder_; }
-    [[nodiscard]] std::string ExecutableName() const override { return executableName_; }
     // By a lock on a file in the program folder, which the system takes off when the process ends, however it ends.
     [[nodiscard]] bool IsPreviousInstance() override;
 
   private:
     std::string folder_;
-    std::string executableName_;
     FileHandle lock_;
 };
 

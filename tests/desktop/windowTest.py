@@ -120,9 +120,12 @@ class WindowTest(unittest.TestCase):
         wait(lambda: "To date can not be less that From date. Please correct it." in window.texts())
         self.assertEqual(text_of(window.find("text", "From")), TODAY.strftime("%d/%m/%Y"))
         self.shoot(window, "message")
+        ok = window.find("push button", "OK")
         window.push("OK")
+        wait(lambda: not is_shown(ok))
         window.press("Up")
-        wait(lambda: text_of(window.find("text", "From")) == TODAY.strftime("%d/%m/%Y"))
+        wait(lambda: is_shown(ok))
+        self.assertEqual(text_of(window.find("text", "From")), TODAY.strftime("%d/%m/%Y"))
         self.assertEqual(window.close(), 0)
 
     def test_a_long_answer_of_a_broken_service_leaves_the_window_in_shape(self):
@@ -325,9 +328,15 @@ class WindowTest(unittest.TestCase):
         window.process.terminate()
         self.assertEqual(window.process.wait(30), 0)
 
-    def test_a_column_keeps_the_width_that_the_user_draws(self):
+    def test_a_column_fits_its_texts_until_the_user_draws_it(self):
         self.put_day("07032004", ["Α"])
         window = self.start()
+        narrow = self.header(window, "Newspaper").width
+        index = self.clips / "07032004/ALLFILES.DIR"
+        index.write_bytes(index.read_bytes().replace("Εφημερίδα".encode("cp1253"), b"A newspaper of a longer name"))
+        window.press("F5")
+        wait(lambda: self.header(window, "Newspaper").width > narrow)
+        wait(lambda: self.right_end(self.header(window, "Type")) == self.right_end(self.extents(window.table())))
         before = self.header(window, "Newspaper")
         edge, middle = str(before.x + before.width), str(before.y + before.height // 2)
         subprocess.run(["xdotool", "mousemove", edge, middle, "mousedown", "1", "mousemove_relative", "30", "0",

@@ -41,7 +41,6 @@ struct ProgramRig : Process {
         return started && program.outcome().isGood();
     }
     [[nodiscard]] std::string ProgramFolder() const override { return folder.text(); }
-    [[nodiscard]] std::string ExecutableName() const override { return "vell"; }
     [[nodiscard]] bool IsPreviousInstance() override { return anotherRuns; }
 
     [[nodiscard]] std::string logged() const { return SettingsRig::plain(folder.get("vell.log")); }
