@@ -5,13 +5,13 @@
 #include <string>
 #include <vector>
 
-#include "app/DownloadRun.h"
-#include "app/FtpSession.h"
-#include "app/InternetLink.h"
-#include "app/RunBoxes.h"
-#include "app/ScheduledRuns.h"
 #include "app/Session.h"
-#include "app/TransferProgress.h"
+#include "app/run/DownloadRun.h"
+#include "app/run/FtpSession.h"
+#include "app/run/InternetLink.h"
+#include "app/run/RunBoxes.h"
+#include "app/run/ScheduledRuns.h"
+#include "app/run/TransferProgress.h"
 #include "config/SettingsLoader.h"
 #include "config/frmSchedule.h"
 #include "config/frmSetup.h"
@@ -29,7 +29,7 @@
 #include "ui/ClippingsBrowser.h"
 #include "ui/DayCommands.h"
 #include "ui/PrintCommands.h"
-#include "ui/frmAutoView.h"
+#include "ui/dialogs/frmAutoView.h"
 
 namespace vell {
 

@@ -3,7 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
-#include "ftp/FtpListing.h"
+#include "ftp/listing/FtpListing.h"
 
 namespace {
 

@@ -5,14 +5,14 @@
 
 #include "app/frmMain.h"
 #include "base/ScopedFlag.h"
-#include "desktop/AboutDialog.h"
-#include "desktop/ClippingsList.h"
-#include "desktop/FilterDialog.h"
 #include "desktop/MainWindow.h"
-#include "desktop/PrintDialog.h"
-#include "desktop/ScheduleDialog.h"
-#include "desktop/SetupDialog.h"
 #include "desktop/commandIds.h"
+#include "desktop/dialogs/AboutDialog.h"
+#include "desktop/dialogs/FilterDialog.h"
+#include "desktop/dialogs/PrintDialog.h"
+#include "desktop/dialogs/ScheduleDialog.h"
+#include "desktop/dialogs/SetupDialog.h"
+#include "desktop/list/ClippingsList.h"
 
 namespace vell {
 

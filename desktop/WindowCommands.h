@@ -6,9 +6,9 @@
 
 #include <wx/weakref.h>
 
-#include "desktop/AutoViewWindow.h"
-#include "desktop/OpenDialogs.h"
 #include "desktop/WindowEvents.h"
+#include "desktop/dialogs/AutoViewWindow.h"
+#include "desktop/dialogs/OpenDialogs.h"
 
 namespace vell {
 

@@ -7,8 +7,8 @@
 
 #include "base/ScopedFlag.h"
 #include "base/errors.h"
-#include "ftp/FtpArguments.h"
-#include "ftp/FtpListing.h"
+#include "ftp/control/FtpArguments.h"
+#include "ftp/listing/FtpListing.h"
 #include "platform/Clock.h"
 
 namespace vell {

@@ -7,13 +7,13 @@
 #include <string_view>
 
 #include "ftp/CFtpConnectionEvents.h"
-#include "ftp/CFtpFiles.h"
-#include "ftp/FtpCommands.h"
 #include "ftp/FtpContext.h"
-#include "ftp/FtpControlChannel.h"
 #include "ftp/FtpDataChannel.h"
 #include "ftp/FtpServices.h"
 #include "ftp/FtpSettings.h"
+#include "ftp/control/FtpCommands.h"
+#include "ftp/control/FtpControlChannel.h"
+#include "ftp/listing/CFtpFiles.h"
 
 namespace vell {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "ftp/FtpListing.h"
+#include "ftp/listing/FtpListing.h"
 #include "fuzz/fuzzing.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "ftp/PassiveReply.h"
+#include "ftp/control/PassiveReply.h"
 #include "fuzz/fuzzing.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <vector>
 
-#include "ftp/FtpReplyReader.h"
+#include "ftp/control/FtpReplyReader.h"
 #include "fuzz/fuzzing.h"
 
 namespace {

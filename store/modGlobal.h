@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ftp/CFtpFiles.h"
+#include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "store/DayState.h"
 #include "store/IndexFile.h"

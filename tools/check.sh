@@ -52,14 +52,14 @@ headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -
 # shellcheck disable=SC2086
 echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ -include {} /dev/null || fail "a header does not compile alone"
 
-# What stands in for desktop/gtk on other systems is in no build of this one.
+# What stands in for desktop/native/gtk on other systems is in no build of this one.
 # shellcheck disable=SC2086
-git ls-files 'desktop/generic/*.cpp' | xargs -P "$(nproc)" -I{} g++ $flags -Wall -Wextra -Werror {} ||
-  fail "desktop/generic does not compile"
+git ls-files 'desktop/native/generic/*.cpp' | xargs -P "$(nproc)" -I{} g++ $flags -Wall -Wextra -Werror {} ||
+  fail "desktop/native/generic does not compile"
 
 if [ "$fast" -eq 0 ]; then
   echo "== clang-tidy"
-  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop/generic|fuzz|bench)/')
+  units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop/native/generic|fuzz|bench)/')
   echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --extra-arg=-Wno-unknown-warning-option 2>/dev/null || fail "clang-tidy"
 
   echo "== MinGW-w64"

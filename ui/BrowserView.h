@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "ftp/CFtpFiles.h"
+#include "ftp/listing/CFtpFiles.h"
 
 namespace vell {
 

@@ -6,11 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "ftp/CFtpFiles.h"
+#include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "ui/BrowserView.h"
-#include "ui/ClippingFilter.h"
 #include "ui/Pacer.h"
+#include "ui/list/ClippingFilter.h"
 
 namespace vell {
 

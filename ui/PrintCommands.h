@@ -5,7 +5,7 @@
 
 #include "log/EventLog.h"
 #include "ui/StatusText.h"
-#include "ui/frmPrint.h"
+#include "ui/dialogs/frmPrint.h"
 
 namespace vell {
 

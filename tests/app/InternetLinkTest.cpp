@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "app/InternetLink.h"
 #include "app/Session.h"
-#include "app/TransferProgress.h"
+#include "app/run/InternetLink.h"
+#include "app/run/TransferProgress.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/NetworkManagerClient.h"
-#include "platform/posix/PosixConnection.h"
-#include "platform/posix/PosixRas.h"
+#include "platform/posix/network/NetworkManagerClient.h"
+#include "platform/posix/network/PosixConnection.h"
+#include "platform/posix/network/PosixRas.h"
 #include "tests/support/MockNetworkManager.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedBoxes.h"

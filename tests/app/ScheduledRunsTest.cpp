@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
-#include "platform/posix/NetworkManagerClient.h"
-#include "platform/posix/PosixConnection.h"
-#include "platform/posix/PosixRas.h"
+#include "platform/posix/network/NetworkManagerClient.h"
+#include "platform/posix/network/PosixConnection.h"
+#include "platform/posix/network/PosixRas.h"
 #include "tests/support/MockNetworkManager.h"
 #include "tests/support/ProgramRig.h"
 

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "app/Session.h"
-#include "app/TransferProgress.h"
+#include "app/run/TransferProgress.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/StoreRig.h"
 

@@ -9,7 +9,7 @@
 
 #include "desktop/WindowLoop.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/SystemClock.h"
+#include "platform/posix/program/SystemClock.h"
 
 namespace vell::test {
 namespace {

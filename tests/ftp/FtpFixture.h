@@ -13,7 +13,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
-#include "platform/posix/PosixFiles.h"
+#include "platform/posix/files/PosixFiles.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
 

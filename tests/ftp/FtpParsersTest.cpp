@@ -2,9 +2,9 @@
 #include <gmock/gmock.h>
 
 #include "ftp/FtpErrors.h"
-#include "ftp/FtpListing.h"
-#include "ftp/FtpReplyReader.h"
-#include "ftp/PassiveReply.h"
+#include "ftp/control/FtpReplyReader.h"
+#include "ftp/control/PassiveReply.h"
+#include "ftp/listing/FtpListing.h"
 
 namespace vell {
 namespace {

@@ -7,9 +7,9 @@
 
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/NetworkManagerClient.h"
-#include "platform/posix/PosixConnection.h"
-#include "platform/posix/PosixRas.h"
+#include "platform/posix/network/NetworkManagerClient.h"
+#include "platform/posix/network/PosixConnection.h"
+#include "platform/posix/network/PosixRas.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/MockNetworkManager.h"
 

@@ -9,7 +9,7 @@
 #include <time.h>
 
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/SystemClock.h"
+#include "platform/posix/program/SystemClock.h"
 #include "tests/support/DrivenClock.h"
 
 namespace vell::test {

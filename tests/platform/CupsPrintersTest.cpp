@@ -7,8 +7,8 @@
 #include <poll.h>
 #include <sys/stat.h>
 
-#include "platform/posix/CupsPrinters.h"
-#include "platform/posix/FileHandle.h"
+#include "platform/posix/files/FileHandle.h"
+#include "platform/posix/printing/CupsPrinters.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {

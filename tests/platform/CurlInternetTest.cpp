@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/CurlInternet.h"
+#include "platform/posix/internet/CurlInternet.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/HttpPeer.h"
 

@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/posix/PosixFiles.h"
+#include "platform/posix/files/PosixFiles.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/posix/PosixFiles.h"
-#include "platform/posix/PosixIniFile.h"
+#include "platform/posix/files/PosixFiles.h"
+#include "platform/posix/files/PosixIniFile.h"
 #include "tests/support/FaultyFiles.h"
 #include "tests/support/TempFolder.h"
 

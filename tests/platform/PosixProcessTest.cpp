@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "base/errors.h"
-#include "platform/posix/PosixProcess.h"
+#include "platform/posix/program/PosixProcess.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {

@@ -11,9 +11,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/posix/CupsPrinters.h"
-#include "platform/posix/FileHandle.h"
-#include "platform/posix/PosixShell.h"
+#include "platform/posix/files/FileHandle.h"
+#include "platform/posix/printing/CupsPrinters.h"
+#include "platform/posix/program/PosixShell.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {

@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/posix/CurlInternet.h"
+#include "platform/posix/internet/CurlInternet.h"
 #include "service/DownloadList.h"
 #include "service/RunFeedback.h"
 #include "service/modHTTP.h"

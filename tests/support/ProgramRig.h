@@ -7,7 +7,7 @@
 #include "platform/Process.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
-#include "platform/posix/CurlInternet.h"
+#include "platform/posix/internet/CurlInternet.h"
 #include "tests/support/RecordingPrinters.h"
 #include "tests/support/RecordingShell.h"
 #include "tests/support/RecordingView.h"

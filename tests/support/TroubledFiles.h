@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/posix/PosixFiles.h"
+#include "platform/posix/files/PosixFiles.h"
 
 namespace vell::test {
 

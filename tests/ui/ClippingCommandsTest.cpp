@@ -11,8 +11,8 @@
 #include "ui/ClippingsBrowser.h"
 #include "ui/DayCommands.h"
 #include "ui/PrintCommands.h"
-#include "ui/frmAutoView.h"
-#include "ui/frmFilter.h"
+#include "ui/dialogs/frmAutoView.h"
+#include "ui/dialogs/frmFilter.h"
 
 namespace vell::test {
 namespace {

@@ -5,8 +5,8 @@
 
 #include "tests/support/DrivenClock.h"
 #include "ui/PictureSize.h"
-#include "ui/RowOrder.h"
-#include "ui/TypeAhead.h"
+#include "ui/list/RowOrder.h"
+#include "ui/list/TypeAhead.h"
 
 namespace vell::test {
 namespace {

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: MIT
+#include "app/run/FtpSession.h"
+
+#include "app/MainView.h"
+#include "app/Session.h"
+#include "app/run/RetryPause.h"
+#include "app/run/TransferProgress.h"
+#include "base/text.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+#include "platform/MessageBoxes.h"
+#include "platform/Platform.h"
+#include "ui/BusyMoment.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::string_view clippingsFolder = "torvoarchive";
+// The service's one FTP account; the user's own name and password go with the list request alone.
+constexpr const char* ftpUser = "vell";
+constexpr const char* ftpPassword = "ruxo";
+constexpr std::int32_t transferInProgress = 59;
+
+}  // namespace
+
+FtpSession::FtpSession(Session& session, const Platform& platform, MainView& view, TransferProgress& progress,
+                       EventLog& log, std::chrono::milliseconds paintInterval)
+    : session_(session),
+      platform_(platform),
+      view_(view),
+      progress_(progress),
+      log_(log),
+      handlers_(session, progress, platform.Loop, platform.Time, log, paintInterval),
+      m_objFTP_({platform.Net, platform.Loop, platform.Disk, platform.Boxes, platform.Time, seconds_, log, log},
+                handlers_) {}
+
+bool FtpSession::open() {
+    if (!StartFTP()) return false;
+    m_objFTP_.SetCurrentDirectory(clippingsFolder);
+    return true;
+}
+
+bool FtpSession::StartFTP() {
+    constexpr std::string_view starting = "Starting FTP connection.";
+    progress_.StatusBar(starting);
+    log_.WriteLog(starting);
+    const BusyMoment busy(view_);
+    bool ok = false;
+    for (int attempt = 1; !ok && !session_.gStopRequested; ++attempt) {
+        if (attempt > 1) retryPause(session_, platform_.Loop, platform_.Time);
+        ok = !session_.gStopRequested && connect();
+        platform_.Loop.DoEvents();
+        if (!ok && attempt >= session_.Setup.RetryOnFailure && !session_.gStopRequested) {
+            constexpr std::string_view failed = "Error starting FTP connection. Please check Host name";
+            progress_.StatusBar(failed);
+            log_.WriteLog(failed);
+            break;
+        }
+    }
+    return ok && !session_.gStopRequested;
+}
+
+bool FtpSession::connect() {
+    m_objFTP_.FtpServer = session_.Setup.Host;
+    m_objFTP_.UserName = ftpUser;
+    m_objFTP_.Password = ftpPassword;
+    m_objFTP_.Port = session_.Setup.Port;
+    m_objFTP_.PassiveMode = session_.Setup.Passive;
+    m_objFTP_.Timeout = session_.Setup.TimeOut;
+    m_objFTP_.AskOnTimeout = session_.StartedByUser;
+    return m_objFTP_.Connect();
+}
+
+bool FtpSession::isUp() {
+    if (m_objFTP_.IsConnected()) return true;
+    if (!connect()) return false;
+    m_objFTP_.SetCurrentDirectory(clippingsFolder);
+    return true;
+}
+
+bool FtpSession::download(const std::string& name, const std::string& localPath) {
+    if (!isUp()) return false;
+    if (!m_objFTP_.downloadFile(name, localPath, resumeOffset(name, localPath))) return false;
+    return isWhole(name, localPath);
+}
+
+std::int32_t FtpSession::resumeOffset(const std::string& name, const std::string& localPath) const {
+    const DownloadEntry* entry = session_.currentEntry();
+    if (entry == nullptr || entry->IsOutdated || equalNoCase(name, advertisementFile)) return 0;
+    const auto length = platform_.Disk.FileSize(localPath).value_or(0);
+    return length < entry->Size ? static_cast<std::int32_t>(length) : 0;
+}
+
+// A transfer that ends well may still have brought less than the service announced.
+bool FtpSession::isWhole(const std::string& name, const std::string& localPath) const {
+    const DownloadEntry* entry = session_.currentEntry();
+    if (entry == nullptr || equalNoCase(name, advertisementFile)) return true;  // whose size is a guess
+    return platform_.Disk.FileSize(localPath).value_or(0) >= entry->Size;
+}
+
+bool FtpSession::StopFTP(bool ask) {
+    const BusyMoment busy(view_);
+    if (m_objFTP_.CloseConnection()) return true;
+    if (m_objFTP_.FtpGetLastError() == transferInProgress) {
+        if (!ask) return false;
+        const Answer answer =
+            platform_.Boxes.Show("Data transfer in progress. Do you want to cancel the data transfer?", programCaption,
+                                 Buttons::YesNo, BoxIcon::Question);
+        if (answer != Answer::Yes) return false;
+    }
+    m_objFTP_.CancelTransfer();
+    platform_.Loop.DoEvents();
+    m_objFTP_.BreakeConnection();
+    platform_.Loop.DoEvents();
+    return m_objFTP_.CloseConnection();
+}
+
+}  // namespace vell

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "app/run/FtpProgress.h"
+#include "ftp/CFtpConnection.h"
+#include "ftp/TimeoutCounter.h"
+#include "log/EventLog.h"
+
+namespace vell {
+
+class MainView;
+class TransferProgress;
+struct Platform;
+struct Session;
+
+// The FTP session of a run: brought up with retries, brought up again when it was lost between two files, and closed.
+class FtpSession {
+  public:
+    FtpSession(Session& session, const Platform& platform, MainView& view, TransferProgress& progress, EventLog& log,
+               std::chrono::milliseconds paintInterval);
+
+    // Opens the session and goes to the folder of clippings.
+    [[nodiscard]] bool open();
+    // Fetches the current file of the download list; goes on where an earlier attempt has ended.
+    [[nodiscard]] bool download(const std::string& name, const std::string& localPath);
+    // Closes the session. A transfer that is under way is ended only when the user says so; without asking it goes on,
+    // which is a failure.
+    [[nodiscard]] bool StopFTP(bool ask);
+    // Ends whatever is under way, asking nobody.
+    void breakOff() { m_objFTP_.BreakeConnection(); }
+
+  private:
+    [[nodiscard]] bool StartFTP();
+    [[nodiscard]] bool connect();
+    [[nodiscard]] bool isUp();
+    [[nodiscard]] std::int32_t resumeOffset(const std::string& name, const std::string& localPath) const;
+    [[nodiscard]] bool isWhole(const std::string& name, const std::string& localPath) const;
+
+    Session& session_;
+    const Platform& platform_;
+    MainView& view_;
+    TransferProgress& progress_;
+    EventLog& log_;
+    FtpProgress handlers_;
+    TimeoutCounter seconds_;
+    CFtpConnection m_objFTP_;
+};
+
+}  // namespace vell

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "app/run/TransferProgress.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "app/MainView.h"
+#include "app/Session.h"
+#include "base/text.h"
+#include "platform/EventLoop.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::int64_t kilobyte = 1024;
+constexpr double filesPerClipping = 3;
+
+std::int32_t entrySize(const Session& session) {
+    const DownloadEntry* entry = session.currentEntry();
+    return entry == nullptr ? 0 : entry->Size;
+}
+
+int percentOf(std::int64_t part, std::int64_t whole) {
+    if (whole == 0) throw RunTimeError(error_number::DivisionByZero, "Division by zero");
+    return static_cast<int>(
+        std::clamp(std::trunc(static_cast<double>(part) / static_cast<double>(whole) * 100), 0.0, 100.0));
+}
+
+std::string kilobytes(std::int64_t bytes) {
+    return std::to_string(bytes / kilobyte);
+}
+
+// Clippings that the list holds, fractions included: its first entry is the advertisement.
+std::string clippingTotal(const Session& session) {
+    return NumberText((static_cast<double>(session.Downloads.gDownloadList.size()) - 1) / filesPerClipping);
+}
+
+}  // namespace
+
+TransferProgress::TransferProgress(Session& session, MainView& view, EventLoop& loop, const Clock& clock, EventLog& log,
+                                   std::chrono::milliseconds paintInterval)
+    : session_(session), view_(view), loop_(loop), log_(log), pacer_(clock, paintInterval) {}
+
+void TransferProgress::StatusBar(std::string_view text) {
+    statusText_ = text;
+    std::erase_if(statusText_, [](char c) { return c == '\r' || c == '\n'; });
+    view_.showStatus(statusText_);
+}
+
+void TransferProgress::displayInfoMessageBox(std::string_view text) {
+    view_.displayInfoMessageBox(text);
+}
+
+void TransferProgress::openSetup() {
+    view_.openSetup();
+}
+
+std::string TransferProgress::clippingCounter() const {
+    return "(" + NumberText(std::floor(session_.gCurrentFileIndex / filesPerClipping)) + "/" + clippingTotal(session_) +
+           ")";
+}
+
+void TransferProgress::HTTPDownloadProgress(std::int32_t bytes) {
+    count(bytes);
+    const bool ended = session_.gLastProgressBytes == 0;
+    if (!ended && !log_.isOn() && !pacer_.isDue()) return;
+    trapStep(log_, "HTTPDownloadProgress()", [&] { pacer_.run([&] { show(bytes); }); });
+    loop_.DoEvents();
+}
+
+void TransferProgress::count(std::int32_t bytes) {
+    std::int32_t& last = session_.gLastProgressBytes;
+    session_.Downloads.gBytesDownloaded += last <= bytes ? bytes - last : bytes;
+    last = last == bytes ? 0 : bytes;
+}
+
+void TransferProgress::show(std::int32_t bytes) {
+    const DownloadState& downloads = session_.Downloads;
+    view_.showProgress(percentOf(bytes, entrySize(session_)),
+                       percentOf(downloads.gBytesDownloaded, downloads.gTotalBytes));
+    const std::string text = statusOf(bytes);
+    StatusBar(text);
+    log_.WriteLog("HTTP-->" + text);
+}
+
+std::string TransferProgress::statusOf(std::int32_t bytes) const {
+    const DownloadState& downloads = session_.Downloads;
+    const auto count = static_cast<std::int32_t>(downloads.gDownloadList.size());
+    if (session_.gCurrentFileIndex == count && session_.gLastProgressBytes == 0)
+        return "Finished: " + std::to_string(session_.gClippingsDownloaded) + " of " + clippingTotal(session_) +
+               " clippings downloaded.";
+    return clippingCounter() + " Downloading " + session_.currentFile() + " (" + kilobytes(bytes) + "/" +
+           kilobytes(entrySize(session_)) + "kb), Total kb downloaded: " + kilobytes(downloads.gBytesDownloaded) + "/" +
+           kilobytes(downloads.gTotalBytes) + "kb";
+}
+
+}  // namespace vell

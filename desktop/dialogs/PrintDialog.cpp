@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/dialogs/PrintDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <wx/button.h>
+#include <wx/listbox.h>
+#include <wx/sizer.h>
+#include <wx/stattext.h>
+
+#include "desktop/native/accessibleName.h"
+#include "desktop/screenText.h"
+
+namespace vell {
+
+namespace {
+
+void fill(wxListBox& list, const std::vector<std::string>& texts) {
+    const int selected = list.GetSelection();
+    wxArrayString shown;
+    for (const std::string& text : texts)
+        shown.Add(shownLine(text));
+    list.Set(shown);
+    // The next entry takes the place of one that was moved away, so that the key can be pressed again.
+    if (!shown.empty() && selected != wxNOT_FOUND)
+        list.SetSelection(std::min(selected, static_cast<int>(shown.size()) - 1));
+}
+
+}  // namespace
+
+PrintDialog::PrintDialog(wxWindow* parent, frmPrint rules)
+    : wxDialog(parent, wxID_ANY, "Print by category", wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+      rules_(std::move(rules)) {
+    auto* lists = new wxBoxSizer(wxHORIZONTAL);
+    lstAllCategories_ = listBox(*lists, "&Categories of the day");
+    lists->Add(moveButtons(), wxSizerFlags().CentreVertical().Border());
+    lstPrintCategories_ = listBox(*lists, "Categories to &print");
+    auto* sizer = new wxBoxSizer(wxVERTICAL);
+    sizer->Add(lists, wxSizerFlags(1).Expand().Border());
+    sizer->Add(bottomRow(), wxSizerFlags().Expand().Border());
+    SetSizerAndFit(sizer);
+    CentreOnParent();
+    SetEscapeId(wxID_CLOSE);
+    lstAllCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { addOne(); });
+    lstPrintCategories_->Bind(wxEVT_LISTBOX_DCLICK, [this](wxCommandEvent& /*event*/) { removeOne(); });
+    show();
+}
+
+wxListBox* PrintDialog::listBox(wxSizer& sizer, const wxString& label) {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    column->Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().Border(wxBOTTOM));
+    auto* list = new wxListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(220, 240)));
+    setAccessibleName(*list, wxControl::RemoveMnemonics(label));
+    column->Add(list, wxSizerFlags(1).Expand());
+    sizer.Add(column, wxSizerFlags(1).Expand());
+    return list;
+}
+
+wxSizer* PrintDialog::moveButtons() {
+    auto* column = new wxBoxSizer(wxVERTICAL);
+    const auto add = [&](const wxString& label, auto action) {
+        auto* button = new wxButton(this, wxID_ANY, label);
+        column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM));
+        button->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent& /*event*/) {
+            action();
+            show();
+        });
+    };
+    add("&Add >", [this] { addOne(); });
+    add("Add a&ll >>", [this] { rules_.cmdAddAll_Click(); });
+    add("< &Remove", [this] { removeOne(); });
+    add("<< Re&move all", [this] { rules_.cmdRemoveAll_Click(); });
+    return column;
+}
+
+wxSizer* PrintDialog::bottomRow() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    auto* settings = new wxButton(this, wxID_PRINT_SETUP, "Printer &settings...");
+    status_ =
+        new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
+    auto* cmdPrint = new wxButton(this, wxID_PRINT, "P&rint");
+    row->Add(settings);
+    row->Add(status_, wxSizerFlags(1).CentreVertical().Border(wxLEFT));
+    row->Add(cmdPrint, wxSizerFlags().Border(wxLEFT));
+    row->Add(new wxButton(this, wxID_CLOSE, "C&lose"), wxSizerFlags().Border(wxLEFT));
+    cmdPrint->SetDefault();
+    settings->Bind(wxEVT_BUTTON,
+                   [this](wxCommandEvent& /*event*/) { CallAfter([this] { rules_.cmdPrinterSettings_Click(); }); });
+    cmdPrint->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { print(); }); });
+    return row;
+}
+
+void PrintDialog::addOne() {
+    rules_.cmdAdd_Click(static_cast<std::size_t>(lstAllCategories_->GetSelection()));
+    show();
+}
+
+void PrintDialog::removeOne() {
+    rules_.cmdRemove_Click(static_cast<std::size_t>(lstPrintCategories_->GetSelection()));
+    show();
+}
+
+void PrintDialog::show() {
+    fill(*lstAllCategories_, rules_.lstAllCategories());
+    fill(*lstPrintCategories_, rules_.lstPrintCategories());
+}
+
+void PrintDialog::print() {
+    wxWindow* button = FindWindow(wxID_PRINT);
+    wxWindow* settings = FindWindow(wxID_PRINT_SETUP);
+    button->Disable();
+    settings->Disable();
+    rules_.cmdPrint_Click([this](std::string_view text) {
+        status_->SetLabelText(shownLine(text));
+        Update();
+    });
+    button->Enable();
+    settings->Enable();
+}
+
+}  // namespace vell

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <wx/dialog.h>
+
+#include "ui/dialogs/frmPrint.h"
+
+class wxListBox;
+class wxSizer;
+class wxStaticText;
+
+namespace vell {
+
+// Prints whole categories: those that are left on one side, those that are chosen on the other.
+class PrintDialog : public wxDialog {
+  public:
+    PrintDialog(wxWindow* parent, frmPrint rules);
+
+  private:
+    [[nodiscard]] wxListBox* listBox(wxSizer& sizer, const wxString& label);
+    [[nodiscard]] wxSizer* moveButtons();
+    [[nodiscard]] wxSizer* bottomRow();
+    void addOne();
+    void removeOne();
+    void show();
+    void print();
+
+    frmPrint rules_;
+    wxListBox* lstAllCategories_ = nullptr;
+    wxListBox* lstPrintCategories_ = nullptr;
+    wxStaticText* status_ = nullptr;
+};
+
+}  // namespace vell

@@ -1,9 +1,0 @@
-// SPDX-License-Identifier: MIT
-#include "desktop/insistOnPlace.h"
-
-namespace vell {
-
-// Where windows stand is the program's own matter here.
-void insistOnPlace(wxTopLevelWindow& /*window*/, const wxPoint& /*corner*/) {}
-
-}  // namespace vell

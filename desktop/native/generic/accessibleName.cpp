@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/native/accessibleName.h"
+
+#include <wx/window.h>
+
+namespace vell {
+
+void setAccessibleName(wxWindow& window, const wxString& name) {
+    window.SetName(name);
+}
+
+}  // namespace vell

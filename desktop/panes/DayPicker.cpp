@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/panes/DayPicker.h"
+
+#include <utility>
+
+#include <wx/textctrl.h>
+
+#include "desktop/native/accessibleName.h"
+#include "desktop/panes/CalendarPopup.h"
+#include "desktop/screenText.h"
+
+namespace vell {
+
+DayPicker::DayPicker(wxWindow* parent, const wxString& name, std::function<void(const Date&)> changed)
+    : wxComboCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER),
+      changed_(std::move(changed)),
+      calendar_(new CalendarPopup([this](const Date& day) { take(day); })) {
+    SetPopupControl(calendar_);
+    setAccessibleName(*GetTextCtrl(), name);
+    GetTextCtrl()->Bind(wxEVT_KILL_FOCUS, [this](wxFocusEvent& event) {
+        event.Skip();
+        takeTyped();
+    });
+    GetTextCtrl()->Bind(wxEVT_KEY_DOWN, &DayPicker::onKey, this);
+    Bind(wxEVT_TEXT_ENTER, [this](wxCommandEvent& /*event*/) { takeTyped(); });
+}
+
+void DayPicker::show(const Date& day) {
+    day_ = day;
+    SetText(shownLine(day.dayName()));
+    calendar_->showDay(day);
+}
+
+void DayPicker::take(const Date& day) {
+    if (day == day_) return;
+    show(day);
+    changed_(day);
+}
+
+// What is no day becomes the last one again.
+void DayPicker::takeTyped() {
+    const auto typed = Date::fromDayName(typedText(GetValue().Strip(wxString::both)));
+    if (typed)
+        take(*typed);
+    else
+        show(day_);
+}
+
+void DayPicker::onKey(wxKeyEvent& event) {
+    const int key = event.GetKeyCode();
+    if (event.HasAnyModifiers() || (key != WXK_UP && key != WXK_DOWN)) {
+        event.Skip();
+        return;
+    }
+    takeTyped();
+    take(day_.plusDays(key == WXK_UP ? 1 : -1));
+}
+
+}  // namespace vell

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/files/PosixFiles.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+#include "base/text.h"
+#include "platform/posix/files/LeftoverParts.h"
+#include "platform/posix/files/NamePattern.h"
+#include "platform/posix/files/PosixOutputFile.h"
+#include "platform/posix/files/WholeFile.h"
+#include "platform/posix/files/paths.h"
+
+namespace vell {
+
+namespace {
+
+struct CloseFolder {
+    void operator()(DIR* folder) const { closedir(folder); }
+};
+using FolderReader = std::unique_ptr<DIR, CloseFolder>;
+
+// False when `entry` is not of that kind. Asks the file itself only where its folder does not tell enough.
+bool describe(const FolderReader& folder, const dirent& entry, Files::Kind kind, Files::Entry& description) {
+    const bool wantsFolders = kind == Files::Kind::Folders;
+    if (entry.d_type == (wantsFolders ? DT_REG : DT_DIR)) return false;
+    if (wantsFolders && entry.d_type == DT_DIR) return true;
+    struct stat status {};
+    if (fstatat(dirfd(folder.get()), entry.d_name, &status, 0) != 0) return false;  // gone meanwhile
+    if (wantsFolders) return S_ISDIR(status.st_mode);
+    description.Size = status.st_size;
+    return S_ISREG(status.st_mode);
+}
+
+bool comesBefore(const Files::Entry& a, const Files::Entry& b) {
+    const int order = compareNoCase(a.Name, b.Name);
+    return order != 0 ? order < 0 : a.Name < b.Name;
+}
+
+// A link stays what it is: the file behind it is written.
+std::string behindLink(const std::string& path) {
+    struct stat status {};
+    if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
+    const std::unique_ptr<char, decltype(&std::free)> target(realpath(path.c_str(), nullptr), &std::free);
+    return target ? target.get() : path;
+}
+
+}  // namespace
+
+bool PosixFiles::PathExists(std::string_view path) const {
+    return status(path).has_value();
+}
+
+std::optional<std::int64_t> PosixFiles::FileSize(std::string_view path) const {
+    const auto found = status(path);
+    return found && !S_ISDIR(found->st_mode) ? std::optional{std::int64_t{found->st_size}} : std::nullopt;
+}
+
+std::optional<FileStamp> PosixFiles::Stamp(std::string_view path) const {
+    const auto found = status(path);
+    if (!found) return std::nullopt;
+    const auto& modified = found->st_mtim;
+    return FileStamp{found->st_size, std::int64_t{modified.tv_sec} * 1'000'000'000 + modified.tv_nsec, found->st_ino};
+}
+
+std::vector<Files::Entry> PosixFiles::Enumerate(std::string_view folder, std::string_view pattern, Kind kind) const {
+    const auto place = locate(folder);
+    const FolderReader reader(opendir(place.System.c_str()));
+    if (!reader) {
+        if (errno == ENOENT || errno == ENOTDIR) return {};
+        raiseFileError(place);
+    }
+    const NamePattern wanted(pattern);
+    std::vector<Entry> entries;
+    while (const dirent* found = readdir(reader.get())) {
+        const std::string_view name = found->d_name;
+        if (name == "." || name == ".." || isPartName(name)) continue;
+        const auto inCodePage = codePageFromUtf8(name);
+        if (!inCodePage || !wanted.fits(*inCodePage)) continue;
+        Entry entry{*inCodePage, 0};
+        if (describe(reader, *found, kind, entry)) entries.push_back(std::move(entry));
+    }
+    std::ranges::sort(entries, comesBefore);
+    return entries;
+}
+
+std::string PosixFiles::ReadFile(std::string_view path) const {
+    const auto place = locate(path);
+    // Nobody need write to a pipe of that name for us to see that it is none of ours.
+    FileHandle file(place, O_RDONLY | O_NONBLOCK);
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (!S_ISREG(found.st_mode)) throw fileError(EISDIR, place);
+    return file.readAll(place);
+}
+
+void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durability durability) {
+    auto place = locate(path);
+    place.System = behindLink(place.System);
+    if (const auto folder = folderOf(place.System); clearedFolders_.insert(folder).second) removeLeftoverParts(folder);
+    names_.adding(place.System, [&] {
+        WholeFile file(place);
+        file.write(bytes, durability);
+        file.takePlace(durability);
+    });
+}
+
+void PosixFiles::ReplaceByte(std::string_view path, std::int64_t offset, char byte) {
+    const auto place = locate(path);
+    FileHandle file(place, O_WRONLY);
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (offset < 0 || offset >= found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
+    if (pwrite(file.get(), &byte, 1, offset) != 1) raiseFileError(place);
+    file.close(place);
+}
+
+void PosixFiles::Append(std::string_view path, std::string_view bytes) {
+    const auto place = locate(path);
+    mayMake(place, [&] {
+        FileHandle file(place, O_WRONLY | O_APPEND | O_CREAT, 0666);
+        file.writeAll(bytes, place);
+        file.close(place);
+    });
+}
+
+std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(std::string_view path, std::int64_t offset) {
+    const auto place = locate(path);
+    FileHandle file;
+    mayMake(place, [&] { file = FileHandle(place, O_WRONLY | O_CREAT, 0666); });
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (offset < 0 || offset > found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
+    if (S_ISREG(found.st_mode) && ftruncate(file.get(), offset) != 0) raiseFileError(place);
+    if (lseek(file.get(), offset, SEEK_SET) < 0) raiseFileError(place);
+    return std::make_unique<PosixOutputFile>(std::move(file), place);
+}
+
+void PosixFiles::MakePrivateFile(std::string_view path) {
+    const auto place = locate(path);
+    if (PathExists(path)) return;
+    names_.adding(place.System, [&] { FileHandle(place, O_WRONLY | O_CREAT, 0600).close(place); });
+}
+
+void PosixFiles::DeleteFile(std::string_view path) {
+    const auto place = locate(path);
+    names_.removing(place.System, [&] {
+        if (unlink(place.System.c_str()) != 0) raiseFileError(place);
+    });
+}
+
+void PosixFiles::MakeFolder(std::string_view path) {
+    const auto place = locate(path);
+    names_.adding(place.System, [&] {
+        if (mkdir(place.System.c_str(), 0777) == 0) return;
+        // The folder that is missing is the one that it shall lie in.
+        throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
+    });
+}
+
+void PosixFiles::RemoveFolder(std::string_view path) {
+    const auto place = locate(path);
+    // Nobody sees them, so nobody can make the folder empty but us.
+    removeLeftoverParts(place.System);
+    names_.removing(place.System, [&] {
+        if (rmdir(place.System.c_str()) == 0) return;
+        throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
+    });
+}
+
+std::optional<std::uint64_t> PosixFiles::FreeBytes(std::string_view path) const {
+    if (!isUsablePath(path)) return std::nullopt;
+    struct statvfs drive {};
+    std::string system = realPath(path);
+    while (statvfs(system.c_str(), &drive) != 0) {
+        if ((errno != ENOENT && errno != ENOTDIR) || system == "/" || system == ".") return std::nullopt;
+        system = folderOf(system);
+    }
+    return std::uint64_t{drive.f_bavail} * drive.f_frsize;
+}
+
+std::string PosixFiles::realPath(std::string_view path) const {
+    return names_.realPath(systemPath(path));
+}
+
+FilePlace PosixFiles::locate(std::string_view path) const {
+    return {std::string(path), realPath(path)};
+}
+
+std::optional<struct stat> PosixFiles::status(std::string_view path) const {
+    struct stat found {};
+    if (!isUsablePath(path) || stat(realPath(path).c_str(), &found) != 0) return std::nullopt;
+    return found;
+}
+
+// Runs an operation that makes the file when it is missing.
+template <class Operation>
+void PosixFiles::mayMake(const FilePlace& place, Operation&& operation) {
+    struct stat found {};
+    if (lstat(place.System.c_str(), &found) == 0)
+        operation();
+    else
+        names_.adding(place.System, operation);
+}
+
+}  // namespace vell

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <map>
+
+#include "platform/Files.h"
+#include "platform/IniFile.h"
+#include "platform/posix/files/IniText.h"
+
+namespace vell {
+
+// Files in INI syntax where the system has no calls for them. A new file can be read by its owner alone, since
+// settings hold passwords.
+class PosixIniFile : public IniFile {
+  public:
+    explicit PosixIniFile(Files& files) : files_(files) {}
+
+    [[nodiscard]] std::string ReadString(std::string_view file, std::string_view section, std::string_view key,
+                                         std::string_view missing, std::size_t bufferSize) const override;
+    [[nodiscard]] bool WriteString(std::string_view file, std::string_view section, std::optional<std::string_view> key,
+                                   std::optional<std::string_view> value) override;
+
+  private:
+    struct Known {
+        FileStamp Stamp;
+        bool IsSettled = false;  // false: another content may have the same stamp
+        IniText Text;
+    };
+
+    // The file as it is now; an empty text when there is none. Raises when it cannot be read.
+    const IniText& text(std::string_view file) const;
+    const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
+
+    Files& files_;
+    mutable std::map<std::string, Known, std::less<>> known_;
+};
+
+}  // namespace vell

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/internet/CurlTransfer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+#include "base/errors.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::chrono::seconds longestSilence{30};
+constexpr long mostRedirects = 10;
+constexpr long receiveSize = 256L << 10;
+// A reader that falls behind makes the server wait, not the memory grow.
+constexpr std::size_t mostBuffered = 2U << 20;
+
+// The numbers that WinInet has for the same misfortunes (wininet.h).
+std::int32_t errorOf(CURLcode result) {
+    switch (result) {
+        case CURLE_OK:
+            return 0;
+        case CURLE_URL_MALFORMAT:
+            return 12005;
+        case CURLE_UNSUPPORTED_PROTOCOL:
+            return 12006;
+        case CURLE_COULDNT_RESOLVE_HOST:
+        case CURLE_COULDNT_RESOLVE_PROXY:
+            return 12007;
+        case CURLE_COULDNT_CONNECT:
+            return 12029;
+        case CURLE_OPERATION_TIMEDOUT:
+            return 12002;
+        case CURLE_PARTIAL_FILE:
+        case CURLE_GOT_NOTHING:
+        case CURLE_SEND_ERROR:
+            return 12030;
+        case CURLE_RECV_ERROR:
+            return 12031;
+        case CURLE_WEIRD_SERVER_REPLY:
+        case CURLE_HTTP2:
+            return 12152;
+        case CURLE_TOO_MANY_REDIRECTS:
+            return 12156;
+        case CURLE_SSL_CONNECT_ERROR:
+            return 12157;
+        case CURLE_PEER_FAILED_VERIFICATION:
+            return 12175;
+        case CURLE_OUT_OF_MEMORY:
+            return 8;
+        default:
+            return 12004;
+    }
+}
+
+}  // namespace
+
+CurlTransfer::CurlTransfer(const Clock& clock)
+    : clock_(clock), easy_(curl_easy_init()), lastByte_(clock.Steady()), patience_(longestSilence) {
+    if (!easy_) throw std::bad_alloc();
+    set(CURLOPT_PRIVATE, this);
+    set(CURLOPT_WRITEFUNCTION, &CurlTransfer::onBody);
+    set(CURLOPT_WRITEDATA, this);
+    set(CURLOPT_HEADERFUNCTION, &CurlTransfer::onHeader);
+    set(CURLOPT_HEADERDATA, this);
+    set(CURLOPT_NOSIGNAL, 1L);
+    set(CURLOPT_QUICK_EXIT, 1L);  // the end of a request must not wait for a name server
+    set(CURLOPT_BUFFERSIZE, receiveSize);
+    set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_0));
+    set(CURLOPT_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+    set(CURLOPT_FOLLOWLOCATION, 1L);
+    set(CURLOPT_MAXREDIRS, mostRedirects);
+    set(CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
+    set(CURLOPT_CONNECTTIMEOUT, static_cast<long>(longestSilence.count()));
+    setHeader("Pragma: no-cache");  // what is between us and the server must not answer from memory
+}
+
+template <class Value>
+void CurlTransfer::set(CURLoption option, Value value) {
+    if (const CURLcode result = curl_easy_setopt(easy_.get(), option, value); result != CURLE_OK)
+        throw RunTimeError(errorOf(result), curl_easy_strerror(result), "libcurl");
+}
+
+void CurlTransfer::setAddress(const std::string& address) {
+    set(CURLOPT_URL, address.c_str());
+}
+
+void CurlTransfer::setAgent(const std::string& agent) {
+    set(CURLOPT_USERAGENT, agent.c_str());
+}
+
+void CurlTransfer::setMethod(const std::string& method) {
+    if (method == "POST") {
+        set(CURLOPT_POST, 1L);
+        setBody({});
+    } else if (method != "GET") {
+        set(CURLOPT_CUSTOMREQUEST, method.c_str());
+    }
+}
+
+void CurlTransfer::setCredentials(const std::string& userName, const std::string& password) {
+    if (userName.empty() && password.empty()) return;
+    set(CURLOPT_USERNAME, userName.c_str());
+    set(CURLOPT_PASSWORD, password.c_str());
+    set(CURLOPT_HTTPAUTH, CURLAUTH_ANY);  // of several kinds none is sent before the server asks
+}
+
+void CurlTransfer::setHeader(std::string_view header) {
+    while (header.ends_with('\n') || header.ends_with('\r'))
+        header.remove_suffix(1);
+    // A later line of the same name wins over the one that the library would send by itself.
+    curl_slist* longer = curl_slist_append(headerList_.get(), std::string(header).c_str());
+    if (longer == nullptr) throw std::bad_alloc();
+    static_cast<void>(headerList_.release());  // the longer list owns it now
+    headerList_.reset(longer);
+}
+
+void CurlTransfer::setBody(std::string_view body) {
+    set(CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(body.size()));
+    set(CURLOPT_COPYPOSTFIELDS, body.empty() ? "" : body.data());
+}
+
+void CurlTransfer::begin() {
+    set(CURLOPT_HTTPHEADER, headerList_.get());
+    lastByte_ = clock_.Steady();
+}
+
+std::size_t CurlTransfer::take(char* target, std::size_t most) {
+    const std::size_t count = std::min(most, buffer_.size() - taken_);
+    std::memcpy(target, buffer_.data() + taken_, count);
+    taken_ += count;
+    if (taken_ == buffer_.size()) {
+        buffer_.clear();
+        taken_ = 0;
+        if (paused_ && !hasEnded()) {
+            paused_ = false;
+            curl_easy_pause(easy_.get(), CURLPAUSE_CONT);  // hands over what waits, at once
+        }
+    }
+    return count;
+}
+
+void CurlTransfer::end(CURLcode result) {
+    result_ = errorOf(result);
+}
+
+std::int64_t CurlTransfer::announcedLength() const {
+    curl_off_t length = -1;
+    curl_easy_getinfo(easy_.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &length);
+    return length;
+}
+
+void CurlTransfer::cancelAfterSilenceOf(std::chrono::milliseconds patience) {
+    patience_ = std::min(patience_, patience);
+    cancelled_ = true;
+}
+
+std::int32_t CurlTransfer::outOfPatience() const {
+    constexpr std::int32_t timedOut = 12002;
+    constexpr std::int32_t cancelled = 12017;
+    if (silence() < patience_) return 0;
+    return cancelled_ ? cancelled : timedOut;
+}
+
+std::size_t CurlTransfer::onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self) {
+    self->lastByte_ = self->clock_.Steady();
+    if (self->buffer_.size() >= mostBuffered) {
+        self->paused_ = true;
+        return CURL_WRITEFUNC_PAUSE;
+    }
+    try {
+        self->buffer_.append(bytes, size * count);
+    } catch (const std::bad_alloc&) {
+        return 0;  // which the library takes for a failed write and ends the transfer
+    }
+    return size * count;
+}
+
+std::size_t CurlTransfer::onHeader(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self) {
+    constexpr std::size_t mostHeaders = 64U << 10;
+    self->lastByte_ = self->clock_.Steady();
+    std::string_view line(bytes, size * count);
+    if (line.starts_with("HTTP/")) self->headers_.clear();  // what came before was a redirect or a challenge
+    while (line.ends_with('\n') || line.ends_with('\r'))
+        line.remove_suffix(1);
+    if (!line.empty() && self->headers_.size() + line.size() < mostHeaders) self->headers_.append(line).append("\r\n");
+    return size * count;
+}
+
+}  // namespace vell

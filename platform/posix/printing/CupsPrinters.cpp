@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/printing/CupsPrinters.h"
+
+#include <string_view>
+
+#include "base/text.h"
+#include "platform/posix/printing/CupsOptions.h"
+#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/program/desktopApplications.h"
+#include "platform/posix/program/programOutput.h"
+#include "platform/posix/program/shellCodes.h"
+#include "platform/posix/program/startProgram.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::string_view notInstalled =
+    "The printers are not known: CUPS is not installed. Install the package cups-client.";
+constexpr std::string_view noAnswer = "The print server does not answer. Make sure that CUPS is running.";
+constexpr std::string_view noDefault =
+    "There is no default printer. Choose one in the system's printer settings, or with 'lpoptions -d NAME'.";
+
+// Of a printer without its instance, which the web interface does not know. A name that the code page cannot hold has
+// question marks, which no printer's name has; then it is the page of all printers.
+std::string pageOf(const std::string& deviceName) {
+    std::string page = "http://localhost:631/printers/";
+    if (deviceName.find('?') != std::string::npos) return page;
+    const std::string name = utf8FromCodePage(deviceName.substr(0, deviceName.find('/')));
+    const CharsPtr escaped(g_uri_escape_string(name.c_str(), nullptr, FALSE));
+    return page.append(escaped.get());
+}
+
+}  // namespace
+
+std::optional<std::string> CupsPrinters::answer(const std::string& command, const std::vector<std::string>& arguments,
+                                                std::string& reason) const {
+    const std::string program = findProgram(command);
+    auto said = program.empty() ? std::nullopt : programOutput(program, arguments, patience_);
+    if (!said) reason = program.empty() ? notInstalled : noAnswer;
+    return said;
+}
+
+std::optional<std::string> CupsPrinters::defaultName(std::string& reason) const {
+    constexpr std::string_view announcement = "system default destination: ";
+    const auto said = answer("lpstat", {"-d"}, reason);
+    if (!said) return std::nullopt;
+    const std::string_view line = std::string_view(*said).substr(0, said->find('\n'));
+    if (line.starts_with(announcement)) return std::string(line.substr(announcement.size()));
+    reason = noDefault;
+    // It says so on its standard output when the environment names a printer that is not there.
+    if (line.starts_with("lpstat: ")) reason += " CUPS says: " + codePageFromUtf8Lossy(line);
+    return std::nullopt;
+}
+
+std::optional<PrinterSettings> CupsPrinters::DefaultPrinter(std::string& reason) {
+    const auto name = defaultName(reason);
+    if (!name) return std::nullopt;
+    const auto options = answer("lpoptions", {"-p", *name}, reason);
+    if (!options) return std::nullopt;
+    // A printer without a driver here is asked over the network for this, and may be switched off: it can be missed.
+    const CupsOptions setUp(*options, answer("lpoptions", {"-p", *name, "-l"}, reason).value_or(""));
+    return PrinterSettings{codePageFromUtf8Lossy(*name), setUp.paperSize(), setUp.orientation(), setUp.printQuality(),
+                           setUp.zoom()};
+}
+
+bool CupsPrinters::ShowProperties(const std::string& deviceName, std::string& reason) {
+    const std::string page = pageOf(deviceName);
+    if (openAddress(page) == shell_code::Started) return true;
+    reason = "There is no browser to open the printer's page. Its address is " + page;
+    return false;
+}
+
+}  // namespace vell

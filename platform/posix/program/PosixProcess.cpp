@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/program/PosixProcess.h"
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+#include "base/text.h"
+#include "platform/posix/files/paths.h"
+
+namespace vell {
+
+namespace {
+
+std::string expressed(const std::string& folder) {
+    if (auto text = codePageFromUtf8(folder)) return *text;
+    throw RunTimeError(
+        error_number::BadFileName,
+        "Characters of the program folder's name are not in code page 1253: " + codePageFromUtf8Lossy(folder));
+}
+
+}  // namespace
+
+PosixProcess::PosixProcess(const ProgramPlace& place) : folder_(expressed(place.programFolder())) {}
+
+bool PosixProcess::IsPreviousInstance() {
+    if (lock_.isOpen()) return false;
+    const auto path = folder_ + "\\vell.lock";
+    const FilePlace place{path, systemPath(path)};
+    FileHandle lock(place, O_RDWR | O_CREAT, 0600);
+    if (flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno == EWOULDBLOCK) return true;
+        raiseFileError(place);
+    }
+    lock_ = std::move(lock);
+    return false;
+}
+
+}  // namespace vell

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/Process.h"
+#include "platform/posix/files/FileHandle.h"
+#include "platform/posix/program/ProgramPlace.h"
+
+namespace vell {
+
+class PosixProcess : public Process {
+  public:
+    // Raises when the program folder cannot be made, or cannot be expressed in code page 1253.
+    explicit PosixProcess(const ProgramPlace& place);
+
+    [[nodiscard]] std::string ProgramFolder() const override { return folder_; }
+    // By a lock on a file in the program folder, which the system takes off when the process ends, however it ends.
+    [[nodiscard]] bool IsPreviousInstance() override;
+
+  private:
+    std::string folder_;
+    FileHandle lock_;
+};
+
+}  // namespace vell
