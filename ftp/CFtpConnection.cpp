@@ -142,27 +142,51 @@ bool CFtpConnection::CreateDirectory(std::string_view name) {
 
 bool CFtpConnection::downloadFile(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset) {
     return operation<bool>("downloadFile()", {remoteName}, [&] {
-        const DataScope data(data_);
-        if (commands_.SendType() != 200 || !commands_.openDataConnection()) return false;
-        if (startOffset > 0 && commands_.SendRest(startOffset) != 350) return false;
-        return finishTransfer(commands_.SendRetr(remoteName, localPath, startOffset));
+        Files& disk = context_.Services.Disk;
+        std::unique_ptr<OutputFile> file;
+        // Only when the server has accepted: a file that it refuses to send leaves the old one as it is.
+        const auto open = [&]() -> OutputFile& {
+            if (startOffset == 0 && disk.PathExists(localPath)) disk.DeleteFile(localPath);
+            file = disk.OpenForWriting(localPath, startOffset);
+            return *file;
+        };
+        if (!receive(remoteName, open, startOffset)) return false;
+        file->Close();
+        context_.Events.StateChanged(10);
+        return true;
     });
+}
+
+bool CFtpConnection::downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset) {
+    return operation<bool>("downloadFile()", {remoteName}, [&] {
+        if (!receive(
+                remoteName, [&]() -> OutputFile& { return file; }, startOffset))
+            return false;
+        context_.Events.StateChanged(10);
+        return true;
+    });
+}
+
+bool CFtpConnection::receive(std::string_view remoteName, const FtpCommands::OpenFile& open, std::int64_t startOffset) {
+    const DataScope data(data_);
+    if (commands_.SendType() != 200 || !commands_.openDataConnection()) return false;
+    if (startOffset > 0 && commands_.SendRest(startOffset) != 350) return false;
+    return arrived(commands_.SendRetr(remoteName, open, startOffset));
 }
 
 bool CFtpConnection::UploadFile(std::string_view localPath, std::string_view remoteName) {
     return operation<bool>("UploadFile()", {remoteName}, [&] {
         const DataScope data(data_);
         if (commands_.SendType() != 200 || !commands_.openDataConnection()) return false;
-        return finishTransfer(commands_.SendStor(localPath, remoteName));
+        if (!arrived(commands_.SendStor(localPath, remoteName))) return false;
+        context_.Events.StateChanged(10);
+        return true;
     });
 }
 
 // The final reply may come before the data is here: only both together are the end.
-bool CFtpConnection::finishTransfer(int code) {
-    if ((code != 226 && code != 250) || !data_.awaitEnd()) return false;
-    data_.finishFile();
-    context_.Events.StateChanged(10);
-    return true;
+bool CFtpConnection::arrived(int code) {
+    return (code == 226 || code == 250) && data_.awaitEnd();
 }
 
 bool CFtpConnection::CancelTransfer() {

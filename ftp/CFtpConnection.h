@@ -50,6 +50,9 @@ class CFtpConnection : public FtpSettings {
     [[nodiscard]] bool RemoveDirectory(std::string_view name);
     [[nodiscard]] bool CreateDirectory(std::string_view name);
 
+    // Writes what comes to `file`, which the caller has placed at `startOffset`, and touches nothing else on the disk;
+    // the caller closes it.
+    [[nodiscard]] bool downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset);
     // With an offset, the local file keeps its first `startOffset` bytes and gets the rest; else it is replaced, once
     // the server has accepted the command. After a failure it holds what had arrived.
     [[nodiscard]] bool downloadFile(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset);
@@ -74,7 +77,9 @@ class CFtpConnection : public FtpSettings {
 
     [[nodiscard]] bool logIn();
     [[nodiscard]] bool greeted();
-    [[nodiscard]] bool finishTransfer(int code);
+    [[nodiscard]] bool receive(std::string_view remoteName, const FtpCommands::OpenFile& open,
+                               std::int64_t startOffset);
+    [[nodiscard]] bool arrived(int code);
     [[nodiscard]] bool transferInProgress() const;
     void endTransfer();
 

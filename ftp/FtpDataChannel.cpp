@@ -49,8 +49,8 @@ void FtpDataChannel::receiveListing() {
     guarded("wscData_DataArrival()", [this] { receiveAll(); });
 }
 
-void FtpDataChannel::receiveFile(std::unique_ptr<OutputFile> file, std::int64_t offset) {
-    file_ = std::move(file);
+void FtpDataChannel::receiveFile(OutputFile& file, std::int64_t offset) {
+    file_ = &file;
     count_ = offset;
     flowing_ = true;
     guarded("wscData_DataArrival()", [this] { receiveAll(); });
@@ -73,13 +73,9 @@ bool FtpDataChannel::awaitEnd() {
     return false;
 }
 
-void FtpDataChannel::finishFile() {
-    if (const auto file = std::exchange(file_, nullptr)) file->Close();
-}
-
 void FtpDataChannel::clear() {
     socket_->Close();
-    file_.reset();
+    file_ = nullptr;
     transfer_ = Transfer::None;
     flowing_ = false;
     failed_ = false;

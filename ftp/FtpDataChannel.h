@@ -33,7 +33,8 @@ class FtpDataChannel : private TcpSocketEvents {
     [[nodiscard]] Transfer transfer() const { return transfer_; }
     // The server has accepted the command: let the data flow.
     void receiveListing();
-    void receiveFile(std::unique_ptr<OutputFile> file, std::int64_t offset);
+    // The file outlives the transfer, or the next clear().
+    void receiveFile(OutputFile& file, std::int64_t offset);
     void sendBytes(std::string bytes);
 
     // All data has come or gone, and been dealt with.
@@ -44,8 +45,6 @@ class FtpDataChannel : private TcpSocketEvents {
     [[nodiscard]] bool awaitEnd();
 
     [[nodiscard]] const std::string& listing() const { return listing_; }
-    // Closes the file and raises what a late write failed with.
-    void finishFile();
     // Closes everything and forgets the transfer, at any time.
     void clear();
 
@@ -70,7 +69,7 @@ class FtpDataChannel : private TcpSocketEvents {
     bool flowing_ = false;    // the command was accepted, the receiver or the bytes to send are known
     bool receiving_ = false;  // receiveAll is at work, perhaps in the yield of an event it raised
     bool failed_ = false;
-    std::unique_ptr<OutputFile> file_;
+    OutputFile* file_ = nullptr;
     std::string listing_;
     std::string outgoing_;
     std::size_t handedOut_ = 0;  // bytes of outgoing_ that the socket was given

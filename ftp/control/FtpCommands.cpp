@@ -97,14 +97,11 @@ int FtpCommands::SendList(std::string_view criteria) {
     return finalReply();
 }
 
-int FtpCommands::SendRetr(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset) {
+int FtpCommands::SendRetr(std::string_view remoteName, const OpenFile& open, std::int64_t startOffset) {
     data_.begin(FtpDataChannel::Transfer::Download);
     const int code = control_.command(line("RETR", remoteName), {125, 150});
     if (!accepted(code)) return code;
-    // Only now: a file that the server refuses to send leaves the old one as it is.
-    Files& disk = context_.Services.Disk;
-    if (startOffset == 0 && disk.PathExists(localPath)) disk.DeleteFile(localPath);
-    data_.receiveFile(disk.OpenForWriting(localPath, startOffset), startOffset);
+    data_.receiveFile(open(), startOffset);
     context_.Events.StateChanged(9);
     return finalReply();
 }
@@ -128,7 +125,7 @@ int FtpCommands::finalReply() {
     return control_.reply({226, 250}, FtpControlChannel::whole, [this] { return !data_.flows(); });
 }
 
-int FtpCommands::SendRest(std::int32_t offset) {
+int FtpCommands::SendRest(std::int64_t offset) {
     return control_.command(line("REST", std::to_string(offset)), {350});
 }
 

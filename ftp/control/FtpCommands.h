@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -9,12 +10,16 @@ namespace vell {
 
 class FtpControlChannel;
 class FtpDataChannel;
+class OutputFile;
 struct FtpContext;
 
 // The FTP commands. Each routine gives the code of the last reply it received, and 0 on a time-out or an error; what
 // is not the success of the command is recorded in the connection's errors.
 class FtpCommands {
   public:
+    // Gives the file that the data goes to; called once the server has accepted the command.
+    using OpenFile = std::function<OutputFile&()>;
+
     FtpCommands(FtpContext& context, FtpControlChannel& control, FtpDataChannel& data)
         : context_(context), control_(control), data_(data) {}
 
@@ -29,9 +34,9 @@ class FtpCommands {
     [[nodiscard]] int SendPort();
     // The three give the final reply's code, or the first one's when that is a refusal.
     [[nodiscard]] int SendList(std::string_view criteria);
-    [[nodiscard]] int SendRetr(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset);
+    [[nodiscard]] int SendRetr(std::string_view remoteName, const OpenFile& open, std::int64_t startOffset);
     [[nodiscard]] int SendStor(std::string_view localPath, std::string_view remoteName);
-    [[nodiscard]] int SendRest(std::int32_t offset);
+    [[nodiscard]] int SendRest(std::int64_t offset);
     [[nodiscard]] int SendDele(std::string_view name);
     [[nodiscard]] int SendMkd(std::string_view name);
     [[nodiscard]] int SendRmd(std::string_view name);

@@ -142,6 +142,34 @@ TEST_F(CFtpConnectionTest, downloadsWholeFilesAndTellsAtOnceWhyItCannot) {
     }
 }
 
+struct Received : OutputFile {
+    void Write(std::string_view bytes) override {
+        if (Full) throw RunTimeError(61, "Disk full");
+        Bytes += bytes;
+    }
+    void Close() override { FAIL() << "it is the caller's to close"; }
+    std::string Bytes;
+    bool Full = false;
+};
+
+TEST_F(CFtpConnectionTest, writesToTheFileItIsHandedAndLeavesTheDiskAlone) {
+    folder.put("a.pdf", "old");
+    ScriptedServer server(sockets, loop);
+    connectTo(server);
+    Received file;
+    server.on("RETR", "150 a|+new|=|226 b");
+    EXPECT_TRUE(ftp.downloadFile("a.pdf", file, 3'000'000'000)) << ftp.GetFtpErrorDescription();
+    EXPECT_THAT(server.commands, Contains("REST 3000000000"));
+    server.on("RETR", "550 No");
+    EXPECT_FALSE(ftp.downloadFile("a.pdf", file, 0));
+    EXPECT_EQ(file.Bytes, "new");
+    file.Full = true;
+    server.on("RETR", "150 a|+new|=|226 b");
+    EXPECT_FALSE(ftp.downloadFile("a.pdf", file, 0));
+    EXPECT_EQ(ftp.GetFtpErrorDescription(), "Disk full");
+    EXPECT_EQ(folder.get("a.pdf"), "old");
+}
+
 TEST_F(CFtpConnectionTest, keepsInStepWithAServerThatAnswersAfterTheTimeOut) {
     ScriptedServer server(sockets, loop);
     server.on("RETR", "150 a|+x|~9000|226 late");
