@@ -84,7 +84,7 @@ bool frmMain::Form_Load(Start start) {
 
 void frmMain::showToday() {
     const Date today = platform_.Time.Now().Day;
-    session_.Day.gCurrentDate = today.folderName();
+    session_.Day.gCurrentDate = today;
     session_.dtFromDate = today;
     session_.dtToDate = today;
     session_.DownloadToday = true;
@@ -109,7 +109,7 @@ void frmMain::findProgramFolder() {
 }
 
 void frmMain::showFirstDay() {
-    days_.chooseFirst(platform_.Time.Now().Day.dayName());
+    days_.chooseFirst(platform_.Time.Now().Day);
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
     startSchedule();
 }

@@ -43,7 +43,7 @@ struct NoBoxes : MessageBoxes {
 };
 
 struct NoView : BrowserView {
-    void showDays(const std::vector<std::string>&, const std::string&) override {}
+    void showDays(const std::vector<Date>&, const std::optional<Date>&) override {}
     void showClippings(const std::vector<ClippingRow>&) override {}
     void showMarks(std::size_t) override {}
     void showCount(std::string_view) override {}
@@ -90,7 +90,7 @@ class Day {
     EventLog Log{Time, Disk};
     modIni Inis{Ini, Log};
     Settings settings_;
-    DayState State{"07032004", "", "07/03/2004"};
+    DayState State{{2004, 3, 7}, "", Date{2004, 3, 7}};
     modGlobal Store{Disk, Loop, Boxes, Inis, Log, settings_, State};
     NoView View;
     ClippingsBrowser Browser{Store, Disk, View, Time, Log, settings_, State};

@@ -43,9 +43,9 @@ bool ClippingCommands::chooseDay(const std::optional<Date>& day) {
         screen_.tell("No day has been fetched yet. 'vell-console download' fetches today's clippings.");
         return false;
     }
-    const std::string name = day ? day->dayName() : browser.days().front();
-    if (browser.chooseDay(name)) return true;
-    screen_.tell("The day " + name + " has not been fetched. 'vell-console days' shows those that have.");
+    const Date chosen = day ? *day : browser.days().front();
+    if (browser.chooseDay(chosen)) return true;
+    screen_.tell("The day " + chosen.dayName() + " has not been fetched. 'vell-console days' shows those that have.");
     return false;
 }
 
@@ -57,7 +57,7 @@ int ClippingCommands::list(const CommandLine& line) {
             screen_.print(clippingTsv(row));
         return exit_code::Good;
     }
-    screen_.print(browser.chosenDay() + "   " + std::to_string(browser.rows().size()) + " Clippings");
+    screen_.print(browser.chosenDay()->dayName() + "   " + std::to_string(browser.rows().size()) + " Clippings");
     if (const std::string alert = shownLines(view_.alert()); !alert.empty()) screen_.print(alert);
     const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
     for (const std::string& text :
@@ -130,14 +130,14 @@ std::optional<std::size_t> ClippingCommands::rowOf(const std::string& utf8Name) 
 }
 
 void ClippingCommands::tellUnlisted(std::string_view kind, const std::string& utf8Name, const std::string& options) {
-    const std::string day = program_.browser().chosenDay();
+    const std::string day = program_.browser().chosenDay()->dayName();
     screen_.tell("There is no " + std::string(kind) + " '" + codePageFromUtf8Lossy(utf8Name) + "' on " + day +
                  ". 'vell-console " + options + " --date " + day + "' shows what there is.");
 }
 
 int ClippingCommands::deleteDay(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
-    const std::string day = program_.browser().chosenDay();
+    const std::optional<Date> day = program_.browser().chosenDay();
     program_.dayCommands().mnuDeleteDay_Click();
     const auto& days = program_.browser().days();
     const bool isGone = std::ranges::find(days, day) == days.end();

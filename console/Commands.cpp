@@ -92,8 +92,8 @@ int Commands::download(const CommandLine& line) {
 }
 
 int Commands::days() {
-    for (const std::string& day : program_.browser().days())
-        screen_.print(day);
+    for (const Date& day : program_.browser().days())
+        screen_.print(day.dayName());
     return exit_code::Good;
 }
 

@@ -76,7 +76,7 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
 }
 
 wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
-    dates_ = new DatePane(&parent, [this](const std::string& day) { tell([&](auto& e) { e.dayChosen(day); }); });
+    dates_ = new DatePane(&parent, [this](const Date& day) { tell([&](auto& e) { e.dayChosen(day); }); });
     download_ = new ForcedDownloadPane(
         &parent, {[this](bool onlyToday) { tell([&](auto& events) { events.rangeChosen(onlyToday); }); },
                   [this](const Date& from) { tell([&](auto& events) { events.fromDateChanged(from); }); },
@@ -127,8 +127,8 @@ void MainWindow::showContextMenu() {
     PopupMenu(&menu);
 }
 
-void MainWindow::showDays(const std::vector<std::string>& dayNames, const std::string& chosen) {
-    dates_->show(dayNames, chosen);
+void MainWindow::showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) {
+    dates_->show(days, chosen);
 }
 
 void MainWindow::showClippings(const std::vector<ClippingRow>& rows) {

@@ -40,7 +40,7 @@ class MainWindow : public wxFrame, public MainView {
 
     [[nodiscard]] ClippingsList& list() { return *list_; }
 
-    void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) override;
+    void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override;
     void showClippings(const std::vector<ClippingRow>& rows) override;
     void showMarks(std::size_t row) override;
     void showCount(std::string_view text) override;

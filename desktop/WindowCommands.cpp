@@ -48,7 +48,7 @@ void WindowCommands::addClippingCommands() {
 }
 
 void WindowCommands::addDayCommands() {
-    const auto hasDay = [this] { return !program_.browser().chosenDay().empty(); };
+    const auto hasDay = [this] { return program_.browser().chosenDay().has_value(); };
     table_[command::OpenDayFolder] = {[this] { program_.opening().openDayFolder(); }, hasDay};
     table_[command::DeleteDay] = {[this] { program_.dayCommands().mnuDeleteDay_Click(); },
                                   [this, hasDay] { return hasDay() && !program_.isBusy(); }};
@@ -122,8 +122,8 @@ bool WindowCommands::isEnabled(int id) const {
     return entry != table_.end() && entry->second.CanRun();
 }
 
-void WindowCommands::dayChosen(const std::string& dayName) {
-    program_.browser().chooseDay(dayName);
+void WindowCommands::dayChosen(const Date& day) {
+    program_.browser().chooseDay(day);
 }
 
 void WindowCommands::rowDoubleClicked(std::size_t row) {

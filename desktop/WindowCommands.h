@@ -24,7 +24,7 @@ class WindowCommands : public WindowEvents {
 
     void commandChosen(int id) override;
     [[nodiscard]] bool isEnabled(int id) const override;
-    void dayChosen(const std::string& dayName) override;
+    void dayChosen(const Date& day) override;
     void rowDoubleClicked(std::size_t row) override;
     void rowEntered(std::size_t row) override;
     void rangeChosen(bool onlyToday) override;

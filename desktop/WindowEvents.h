@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
 
 #include "base/Date.h"
 
@@ -17,7 +16,7 @@ class WindowEvents {
     virtual void commandChosen(int id) = 0;
     [[nodiscard]] virtual bool isEnabled(int id) const = 0;
 
-    virtual void dayChosen(const std::string& dayName) = 0;
+    virtual void dayChosen(const Date& day) = 0;
     virtual void rowDoubleClicked(std::size_t row) = 0;
     virtual void rowEntered(std::size_t row) = 0;
 

@@ -28,6 +28,7 @@ constexpr int refusedLogin = 1001;
 constexpr int nothingForTheDay = 1002;
 constexpr std::size_t shownOfBadRecord = 80;
 
+constexpr std::size_t changeField = 5;
 // Fields with the sizes of a clipping's three forms.
 constexpr std::size_t pdfSizeField = 7;
 constexpr std::size_t textSizeField = 8;
@@ -41,6 +42,15 @@ std::int32_t sizeOf(std::string_view field) {
     } catch (const RunTimeError&) {
         return 0;
     }
+}
+
+// The form fields that name a day: "dd", "mm" and "yyyy", each with this at its end.
+std::string dayFields(const Date& day, std::string_view suffix) {
+    const std::string name = day.folderName();
+    const auto field = [&](std::string_view key, std::size_t start, std::size_t length) {
+        return std::string(key).append(suffix).append("=").append(Mid(name, start, length));
+    };
+    return field("dd", 1, 2) + "&" + field("mm", 3, 2) + "&" + field("yyyy", 5, 4);
 }
 
 bool isEmpty(const std::string& record) {
@@ -92,16 +102,8 @@ bool DownloadList::getList() {
 }
 
 std::string DownloadList::listRequest() const {
-    const std::string_view day = Mid(day_.gCurrentDate, 1, 2);
-    const std::string_view month = Mid(day_.gCurrentDate, 3, 2);
-    const std::string_view year = Mid(day_.gCurrentDate, 5, 4);
-    std::string form = "username=" + settings_.Uid + "&password=" + settings_.Pwd;
-    for (const char* end : {"1", "2"}) {
-        form.append("&dd").append(end).append("=").append(day);
-        form.append("&mm").append(end).append("=").append(month);
-        form.append("&yyyy").append(end).append("=").append(year);
-    }
-    return form + "&vellVersion=" + version_;
+    return "username=" + settings_.Uid + "&password=" + settings_.Pwd + "&" + dayFields(day_.gCurrentDate, "1") + "&" +
+           dayFields(day_.gCurrentDate, "2") + "&vellVersion=" + version_;
 }
 
 DownloadList::Verdict DownloadList::judge(std::vector<std::string>& records) {
@@ -163,30 +165,29 @@ std::unordered_set<std::string> DownloadList::storeIndex(std::vector<std::string
 
 void DownloadList::fillDownloadList(const std::vector<std::string>& records,
                                     const std::unordered_set<std::string>& changed) {
-    state_.gDownloadList.push_back({advertisementFile, "", advertisementSize});
+    state_.gDownloadList.push_back({.FileName = advertisementFile, .Size = advertisementSize, .Change = {}});
     for (const std::string& record : records) {
         if (record.empty()) continue;
         const std::string name(indexKey(record));
+        const std::string change(indexField(record, changeField));
         const bool isOutdated = changed.contains(name);
-        append(name, indexField(record, pdfSizeField), isOutdated);
-        append(Replace(name, ".PDF", ".TXT"), indexField(record, textSizeField), isOutdated);
-        append(Replace(name, ".PDF", ".MT"), indexField(record, companionSizeField), isOutdated);
+        append({name, sizeOf(indexField(record, pdfSizeField)), change, isOutdated});
+        append({Replace(name, ".PDF", ".TXT"), sizeOf(indexField(record, textSizeField)), change, isOutdated});
+        append({Replace(name, ".PDF", ".MT"), sizeOf(indexField(record, companionSizeField)), change, isOutdated});
     }
 }
 
-void DownloadList::append(std::string fileName, std::string_view size, bool isOutdated) {
-    state_.gDownloadList.push_back({std::move(fileName), "", sizeOf(size), isOutdated});
-    state_.gTotalBytes += state_.gDownloadList.back().Size;
+void DownloadList::append(DownloadEntry entry) {
+    state_.gTotalBytes += entry.Size;
+    state_.gDownloadList.push_back(std::move(entry));
 }
 
 bool DownloadList::GetAlert() {
     return trap(log_, "GetAlert()", false, [&] {
-        std::string form("dd=");
-        form.append(Mid(day_.gCurrentDate, 1, 2)).append("&mm=").append(Mid(day_.gCurrentDate, 3, 2));
-        form.append("&yyyy=").append(Mid(day_.gCurrentDate, 5, 4));
         std::string body;
         std::string headers;
-        if (!http_.OpenUrl("POST", settings_.Host, alertScript, form, body, headers)) return false;
+        if (!http_.OpenUrl("POST", settings_.Host, alertScript, dayFields(day_.gCurrentDate, ""), body, headers))
+            return false;
         const std::string_view alert = Trim(body);
         if (alert.empty()) return false;
         files_.WriteWhole(day_.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",

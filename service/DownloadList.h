@@ -43,7 +43,7 @@ class DownloadList {
     // Gives the articles of which the service has another version than the last time.
     [[nodiscard]] std::unordered_set<std::string> storeIndex(std::vector<std::string>& records);
     void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
-    void append(std::string fileName, std::string_view size, bool isOutdated);
+    void append(DownloadEntry entry);
 
     modHTTP& http_;
     modGlobal& store_;

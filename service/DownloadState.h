@@ -9,8 +9,8 @@ namespace vell {
 
 struct DownloadEntry {
     std::string FileName;
-    std::string Transfer;  // kept for the transfer; empty
-    std::int32_t Size = 0;
+    std::int32_t Size = 0;    // 0 when the service does not say
+    std::string Change;       // of its clipping: tells the versions of a file apart; empty for the advertisement
     bool IsOutdated = false;  // the service has changed it since: what lies on the disk is no beginning of it
 };
 

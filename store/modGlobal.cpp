@@ -3,11 +3,11 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <limits>
 #include <unordered_map>
 #include <utility>
 
-#include "base/Date.h"
 #include "base/text.h"
 #include "config/Settings.h"
 #include "config/modIni.h"
@@ -17,24 +17,13 @@
 
 namespace vell {
 
-namespace {
-
-// yyyymmdd of "dd/mm/yyyy".
-std::string sortKey(std::string_view dayName) {
-    return std::string(Mid(dayName, 7, 4)).append(Mid(dayName, 4, 2)).append(Mid(dayName, 1, 2));
-}
-
-}  // namespace
-
 modGlobal::modGlobal(Files& files, EventLoop& loop, MessageBoxes& boxes, modIni& ini, EventLog& log,
                      const Settings& settings, DayState& day)
     : files_(files), loop_(loop), boxes_(boxes), ini_(ini), log_(log), settings_(settings), day_(day) {}
 
 bool modGlobal::CreateDownloadDirPath() {
     return trap(log_, "CreateDownloadDirPath()", false, [&] {
-        if (Trim(settings_.LocalDir).empty())
-            throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
-        const std::string path = settings_.LocalDir + "\\" + day_.gCurrentDate + "\\";
+        const std::string path = folderOfDay(day_.gCurrentDate);
         log_.WriteLog("Download directory is '" + path + "'");
         const bool isFile = files_.FileSize(path).has_value();  // which making the folder then tells
         if (isFile || !PathExists(path)) files_.MakeFolder(path);
@@ -100,28 +89,24 @@ void modGlobal::joinIndex(CFtpFiles& files) const {
     }
 }
 
-std::vector<std::string> modGlobal::DateSort(std::vector<std::string> dayNames) {
-    trapStep(log_, "DateSort()", [&] {
-        std::stable_sort(dayNames.begin(), dayNames.end(),
-                         [](const std::string& a, const std::string& b) { return sortKey(a) > sortKey(b); });
-    });
-    return dayNames;
+std::vector<Date> modGlobal::DateSort(std::vector<Date> days) {
+    trapStep(log_, "DateSort()", [&] { std::ranges::sort(days, std::greater{}); });
+    return days;
 }
 
-std::string modGlobal::folderOfDay(std::string_view dayName) const {
-    const auto date = Date::fromDayName(dayName);
-    if (!date) throw RunTimeError(error_number::PathNotFound, "Path not found: no day '" + std::string(dayName) + "'");
+std::string modGlobal::folderOfDay(const Date& day) const {
+    if (!day.isReal()) throw RunTimeError(error_number::PathNotFound, "Path not found: no day '" + day.dayName() + "'");
     if (Trim(settings_.LocalDir).empty())
         throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
-    return settings_.LocalDir + "\\" + date->folderName() + "\\";
+    return settings_.LocalDir + "\\" + day.folderName() + "\\";
 }
 
-void modGlobal::DeleteContent(const std::string& dayName) {
+void modGlobal::DeleteContent(const Date& day) {
     bool again = true;
     while (again) {
         again = false;
         try {
-            const std::string folder = folderOfDay(dayName);
+            const std::string folder = folderOfDay(day);
             for (const auto& entry : files_.Enumerate(folder, "*.*", Files::Kind::Files))
                 files_.DeleteFile(folder + entry.Name);
             loop_.DoEvents();
@@ -151,7 +136,7 @@ void modGlobal::DeleteDayFile(const std::string& fileName) {
 void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure) {
     std::string path;
     try {
-        const std::string folder = folderOfDay(day_.cmbDate);
+        const std::string folder = folderOfDay(day_.cmbDate.value_or(Date{}));
         for (const std::string& name : fileNames) {
             path = folder + name;
             if (files_.PathExists(path)) files_.DeleteFile(path);

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "store/DayState.h"
@@ -40,11 +41,11 @@ class modGlobal {
     // The index as GetLocalFiles read it last.
     [[nodiscard]] const std::vector<IndexRecord>& indexTable() const { return indexTable_; }
 
-    // Puts day names "dd/mm/yyyy" in order, the newest first.
-    [[nodiscard]] std::vector<std::string> DateSort(std::vector<std::string> dayNames);
+    // Puts days in order, the newest first.
+    [[nodiscard]] std::vector<Date> DateSort(std::vector<Date> days);
 
     // Deletes a whole day. When something cannot be deleted the user is asked whether to try again.
-    void DeleteContent(const std::string& dayName);
+    void DeleteContent(const Date& day);
     // Both act on the day that is chosen in the date list, which need not be the day of the run.
     void DeleteArticleFiles(const std::string& fileName);
     void DeleteDayFile(const std::string& fileName);
@@ -55,9 +56,9 @@ class modGlobal {
     [[nodiscard]] bool IsFileOpened(std::string_view path) const;
     [[nodiscard]] bool IsFilePrinted(std::string_view path) const;
 
-    // The folder of a day "dd/mm/yyyy", backslash at its end. Raises RunTimeError when there is no download root or
-    // no such day, so that nothing is ever deleted outside a day folder.
-    [[nodiscard]] std::string folderOfDay(std::string_view dayName) const;
+    // A day's folder, backslash at its end. Raises RunTimeError when there is no download root or no such day, so that
+    // nothing is ever made or deleted outside a day folder.
+    [[nodiscard]] std::string folderOfDay(const Date& day) const;
 
   private:
     struct Mark {

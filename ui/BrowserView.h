@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
 
 namespace vell {
@@ -26,8 +28,8 @@ class BrowserView {
   public:
     virtual ~BrowserView() = default;
 
-    // The days "dd/mm/yyyy", newest first; `chosen` is one of them or empty.
-    virtual void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) = 0;
+    // The days, newest first; `chosen` is one of them or none.
+    virtual void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) = 0;
     // All rows anew. The rows live until the next call.
     virtual void showClippings(const std::vector<ClippingRow>& rows) = 0;
     // The marks of one row, counted from 0, have changed.

@@ -44,7 +44,9 @@ void ClippingOpening::openNext20() {
 }
 
 void ClippingOpening::openDayFolder() {
-    trapStep(log_, "mnuOpenFolder_Click()", [&] { articles_.ShellExec(store_.folderOfDay(browser_.chosenDay()), ""); });
+    trapStep(log_, "mnuOpenFolder_Click()", [&] {
+        if (const auto day = browser_.chosenDay()) articles_.ShellExec(store_.folderOfDay(*day), "");
+    });
 }
 
 void ClippingOpening::openHelp() {

@@ -5,7 +5,6 @@
 #include <array>
 #include <utility>
 
-#include "base/Date.h"
 #include "base/text.h"
 #include "config/Settings.h"
 #include "platform/Files.h"
@@ -32,13 +31,13 @@ ClippingsBrowser::ClippingsBrowser(modGlobal& store, Files& files, BrowserView& 
 
 void ClippingsBrowser::PopulateDateCombo() {
     trapStep(log_, "PopulateDateCombo()", [&] {
-        std::vector<std::string> names;
+        std::vector<Date> days;
         std::vector<std::string> folders;
         if (!settings_.LocalDir.empty()) folders = store_.GetLocalDirectories(settings_.LocalDir, false);
         for (const std::string& folder : folders)
-            if (const auto date = Date::fromFolderName(folder)) names.push_back(date->dayName());
-        days_ = store_.DateSort(std::move(names));
-        if (std::find(days_.begin(), days_.end(), day_.cmbDate) == days_.end()) day_.cmbDate.clear();
+            if (const auto date = Date::fromFolderName(folder)) days.push_back(*date);
+        days_ = store_.DateSort(std::move(days));
+        if (std::ranges::find(days_, day_.cmbDate) == days_.end()) day_.cmbDate.reset();
         view_.showDays(days_, day_.cmbDate);
     });
 }
@@ -48,9 +47,9 @@ void ClippingsBrowser::PopulateLocalFilesGrid() {
         const BusyMoment busy(view_);
         std::vector<ClippingRow> rows;
         dayFiles_ = {};
-        if (!day_.cmbDate.empty()) {
+        if (day_.cmbDate) {
             const std::array<std::string, 2> patterns{"*.PDF", ""};
-            dayFiles_ = store_.GetLocalFiles(store_.folderOfDay(day_.cmbDate), patterns);
+            dayFiles_ = store_.GetLocalFiles(store_.folderOfDay(*day_.cmbDate), patterns);
         }
         for (const auto& file : dayFiles_)
             if (filter_.passes(*file)) ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
@@ -71,24 +70,24 @@ void ClippingsBrowser::refreshDuringRun() {
     if (pacer_.isDue()) refresh();
 }
 
-bool ClippingsBrowser::chooseDay(const std::string& dayName) {
-    if (std::find(days_.begin(), days_.end(), dayName) == days_.end()) return false;
-    day_.cmbDate = dayName;
+bool ClippingsBrowser::chooseDay(const Date& day) {
+    if (std::ranges::find(days_, day) == days_.end()) return false;
+    day_.cmbDate = day;
     view_.showDays(days_, day_.cmbDate);
     PopulateLocalFilesGrid();
     loadAlert();
     return true;
 }
 
-const std::string& ClippingsBrowser::chosenDay() const {
+const std::optional<Date>& ClippingsBrowser::chosenDay() const {
     return day_.cmbDate;
 }
 
 void ClippingsBrowser::loadAlert() {
     trapStep(log_, "loadAlert()", [&] {
         std::string alert;
-        if (!day_.cmbDate.empty()) {
-            const std::string path = store_.folderOfDay(day_.cmbDate) + std::string(alertFileName);
+        if (day_.cmbDate) {
+            const std::string path = store_.folderOfDay(*day_.cmbDate) + std::string(alertFileName);
             if (files_.PathExists(path)) alert = files_.ReadFile(path);
         }
         view_.showAlert(alert);

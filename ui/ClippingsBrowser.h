@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "ui/BrowserView.h"
@@ -33,11 +35,11 @@ class ClippingsBrowser {
     void refreshDuringRun();
     void refresh();
 
-    // Chooses a day "dd/mm/yyyy" of the date list and loads its clippings and alert. False when it is not in the list.
-    bool chooseDay(const std::string& dayName);
-    // The day that is chosen; empty when none is.
-    [[nodiscard]] const std::string& chosenDay() const;
-    [[nodiscard]] const std::vector<std::string>& days() const { return days_; }
+    // Chooses a day of the date list and loads its clippings and alert. False when it is not in the list.
+    bool chooseDay(const Date& day);
+    // The day that is chosen, if one is.
+    [[nodiscard]] const std::optional<Date>& chosenDay() const;
+    [[nodiscard]] const std::vector<Date>& days() const { return days_; }
     [[nodiscard]] const std::vector<ClippingRow>& rows() const { return rows_; }
 
     void loadAlert();
@@ -63,7 +65,7 @@ class ClippingsBrowser {
     const Settings& settings_;
     DayState& day_;
     Pacer pacer_;
-    std::vector<std::string> days_;
+    std::vector<Date> days_;
     std::vector<ClippingRow> rows_;
     CFtpFiles dayFiles_;
     ClippingFilter filter_;

@@ -12,10 +12,9 @@ namespace vell {
 DayCommands::DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log)
     : browser_(browser), store_(store), boxes_(boxes), log_(log) {}
 
-void DayCommands::chooseFirst(const std::string& today) {
-    if (browser_.chooseDay(today)) return;
-    const std::string newest = browser_.days().empty() ? std::string() : browser_.days().front();
-    if (browser_.chooseDay(newest)) return;
+void DayCommands::chooseFirst(const std::optional<Date>& day) {
+    if (day && browser_.chooseDay(*day)) return;
+    if (const auto& days = browser_.days(); !days.empty() && browser_.chooseDay(Date(days.front()))) return;
     browser_.PopulateLocalFilesGrid();
     browser_.loadAlert();
 }
@@ -38,18 +37,18 @@ void DayCommands::step(int places) {
     const auto chosen = std::ranges::find(days, browser_.chosenDay());
     const auto target = chosen == days.end() ? 0 : chosen - days.begin() + places;
     if (target < 0 || target >= std::ssize(days)) return;
-    const std::string day = days[static_cast<std::size_t>(target)];
+    const Date day = days[static_cast<std::size_t>(target)];
     browser_.chooseDay(day);
 }
 
 void DayCommands::mnuDeleteDay_Click() {
     trapStep(log_, "mnuDeleteDay_Click()", [&] {
-        const std::string day = browser_.chosenDay();
-        if (day.empty()) return;
-        if (boxes_.Show("Do you want to delete all clippings of " + day + "?", "Delete Day", Buttons::YesNo,
+        const std::optional<Date> day = browser_.chosenDay();
+        if (!day) return;
+        if (boxes_.Show("Do you want to delete all clippings of " + day->dayName() + "?", "Delete Day", Buttons::YesNo,
                         BoxIcon::Question) != Answer::Yes)
             return;
-        store_.DeleteContent(day);
+        store_.DeleteContent(*day);
         reload();
     });
 }

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include <optional>
 
+#include "base/Date.h"
 #include "log/EventLog.h"
 
 namespace vell {
@@ -16,8 +17,8 @@ class DayCommands {
   public:
     DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log);
 
-    // Shows today when it is there, else the newest day.
-    void chooseFirst(const std::string& today);
+    // Shows this day when it is there, else the newest.
+    void chooseFirst(const std::optional<Date>& day);
     // Reads days and clippings anew; the folder of all may have become another.
     void reload();
     void chooseNewer();

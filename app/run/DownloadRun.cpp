@@ -68,10 +68,9 @@ bool DownloadRun::prepare() {
         p_.State.Outcome.FolderFailed = true;
         return false;
     }
-    if (p_.View.followsRun() || p_.Browser.chosenDay().empty()) {
+    if (p_.View.followsRun() || !p_.Browser.chosenDay()) {
         p_.Browser.PopulateDateCombo();
-        const std::string& day = p_.State.Day.gCurrentDate;
-        p_.Browser.chooseDay(day.substr(0, 2) + "/" + day.substr(2, 2) + "/" + day.substr(4));
+        p_.Browser.chooseDay(p_.State.Day.gCurrentDate);
     }
     p_.Progress.StatusBar("Getting list of files to download...");
     p_.Log.WriteLog("Getting files to download...");

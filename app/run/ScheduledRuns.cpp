@@ -54,7 +54,7 @@ void ScheduledRuns::tmrSchedule_Timer() {
             session_.StartedByUser = false;
             session_.Outcome = {};
         }
-        session_.Day.gCurrentDate = now.Day.folderName();
+        session_.Day.gCurrentDate = now.Day;
         RunDownloadSession();
         log_.WriteLog("ENDED " + std::string(day) + " Scheduled download at " + entry.Time);
         browser_.refresh();
@@ -87,7 +87,7 @@ void ScheduledRuns::mnuForceDownload_Click() {
     log_.WriteLog("FORCEd download by user");
     view_.showForcedRun(true);
     if (session_.DownloadToday) {
-        session_.Day.gCurrentDate = clock_.Now().Day.folderName();
+        session_.Day.gCurrentDate = clock_.Now().Day;
         RunDownloadSession();
     } else if (!runRange()) {
         return;  // Stop stays visible until the next forced download ends: people know it so
@@ -129,7 +129,7 @@ void ScheduledRuns::runDays() {
     const Date& to = session_.dtToDate;
     do {
         if (session_.gStopRequested) return;
-        session_.Day.gCurrentDate = from.folderName();
+        session_.Day.gCurrentDate = from;
         run_.StartDownload();
         loop_.DoEvents();
         from = from.plusDays(1);  // the picker itself counts, so that the user sees it walk

@@ -12,7 +12,7 @@
 
 namespace vell {
 
-DatePane::DatePane(wxWindow* parent, std::function<void(const std::string&)> chosen)
+DatePane::DatePane(wxWindow* parent, std::function<void(const Date&)> chosen)
     : wxPanel(parent), chosen_(std::move(chosen)) {
     auto* label = new wxStaticText(this, wxID_ANY, "Da&y:");
     cmbDate_ = new wxChoice(this, wxID_ANY);
@@ -21,17 +21,17 @@ DatePane::DatePane(wxWindow* parent, std::function<void(const std::string&)> cho
     sizer->Add(cmbDate_, wxSizerFlags(1).CentreVertical());
     SetSizer(sizer);
     cmbDate_->Bind(wxEVT_CHOICE, [this](wxCommandEvent& event) {
-        if (event.GetSelection() >= 0) chosen_(std::string(days_.at(static_cast<std::size_t>(event.GetSelection()))));
+        if (event.GetSelection() >= 0) chosen_(Date(days_.at(static_cast<std::size_t>(event.GetSelection()))));
     });
 }
 
-void DatePane::show(const std::vector<std::string>& dayNames, const std::string& chosen) {
+void DatePane::show(const std::vector<Date>& days, const std::optional<Date>& chosen) {
     // A run refreshes the list all the time; a list that is open under the user's hand must not close for nothing.
-    if (dayNames != days_) {
-        days_ = dayNames;
+    if (days != days_) {
+        days_ = days;
         wxArrayString shown;
-        for (const std::string& day : days_)
-            shown.Add(shownLine(day));
+        for (const Date& day : days_)
+            shown.Add(shownLine(day.dayName()));
         cmbDate_->Set(shown);
     }
     const auto found = std::ranges::find(days_, chosen);

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <functional>
-#include <string>
+#include <optional>
 #include <vector>
 
 #include <wx/panel.h>
+
+#include "base/Date.h"
 
 class wxChoice;
 
@@ -14,13 +16,13 @@ namespace vell {
 // The drop-down list of the days on disk.
 class DatePane : public wxPanel {
   public:
-    DatePane(wxWindow* parent, std::function<void(const std::string& dayName)> chosen);
+    DatePane(wxWindow* parent, std::function<void(const Date& day)> chosen);
 
-    void show(const std::vector<std::string>& dayNames, const std::string& chosen);
+    void show(const std::vector<Date>& days, const std::optional<Date>& chosen);
 
   private:
-    std::function<void(const std::string&)> chosen_;
-    std::vector<std::string> days_;
+    std::function<void(const Date&)> chosen_;
+    std::vector<Date> days_;
     wxChoice* cmbDate_;
 };
 

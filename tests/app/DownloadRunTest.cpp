@@ -189,7 +189,7 @@ TEST_F(DownloadRunTest, anEmptyListDeletesTheIndexOfTheDayThatIsChosen) {
     service.Answers[ServicePeer::listScript] = HttpPeer::ok("error 1002");
     folder.put("clips/01032004/ALLFILES.DIR", "x");
     view.Follows = false;
-    ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone) && program.browser().chooseDay("01/03/2004"));
+    ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone) && program.browser().chooseDay({2004, 3, 1}));
     program.mnuForceDownload_Click();
     EXPECT_TRUE(folder.has("clips/07032004/ALLFILES.DIR") && !folder.has("clips/01032004/ALLFILES.DIR"));
     EXPECT_EQ(view.Days, "07/03/2004 *01/03/2004 ");

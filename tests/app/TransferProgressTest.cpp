@@ -12,7 +12,7 @@ class TransferProgressTest : public testing::Test, protected StoreRig {
   protected:
     // Of a list of `count` entries of 10240 bytes each, the entry `current` is being fetched.
     void list(std::size_t count, std::int32_t current) {
-        session.Downloads = {{count, {"A.PDF", "", 10240}}, 40960};
+        session.Downloads = {{count, {.FileName = "A.PDF", .Size = 10240, .Change = {}}}, 40960};
         session.gCurrentFileIndex = current;
         session.gLastProgressBytes = 0;
     }

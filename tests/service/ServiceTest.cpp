@@ -167,8 +167,9 @@ TEST_F(ServiceTest, asksForTheDayAndStoresWhatTheServiceLists) {
               "A.PDF||N||\xC1||C||Y||1||d||10||20||30\r\nB.PDF||N||T||C||Y||1||-||X||-5||99999999999\r\n");
     std::string fetched;
     for (const auto& entry : downloads.gDownloadList)
-        fetched += entry.FileName + "=" + std::to_string(entry.Size) + entry.Transfer + ";";
-    EXPECT_EQ(fetched, "ADVERTISMENT.JPG=17855;A.PDF=10;A.TXT=20;A.MT=30;B.PDF=0;B.TXT=0;B.MT=2147483647;");
+        fetched += entry.FileName + "=" + std::to_string(entry.Size) + "/" + entry.Change + ";";
+    EXPECT_EQ(fetched,
+              "ADVERTISMENT.JPG=17855/;A.PDF=10/1;A.TXT=20/1;A.MT=30/1;B.PDF=0/1;B.TXT=0/1;B.MT=2147483647/1;");
     EXPECT_EQ(downloads.gTotalBytes, 2147483707);
     EXPECT_FALSE(has("GONE.TXT"));
     EXPECT_EQ(status + boxes.shown(), "Getting list of files to download: Done");

@@ -31,7 +31,7 @@ TEST_F(modGlobalTest, makesTheDaysFolderOneLevelDeepAndOnlyUnderARoot) {
     EXPECT_EQ(std::exchange(day.gDayFolder, ""), wanted);
     EXPECT_EQ(logged(), "Download directory is '" + wanted + "'\nDownload directory is '" + wanted + "'\n");
     folder.put("clips/08032004", "a file stands in the way");
-    day.gCurrentDate = "08032004";
+    day.gCurrentDate = march8;
     EXPECT_FALSE(store.CreateDownloadDirPath());
     for (const std::string& root : {folder.text() + "/missing", std::string("  "), std::string()}) {
         setup.LocalDir = root;
@@ -76,7 +76,7 @@ TEST_F(modGlobalTest, deletesADayAndAsksAgainWhileSomethingIsInUse) {
         put(name, "x");
     files.Trouble = "A.TXT";
     boxes.Answers = {Answer::Retry, Answer::Cancel};
-    store.DeleteContent("07/03/2004");
+    store.DeleteContent(march7);
     const std::string question =
         "Sharing Violation: Cannot delete one or more files. There has been a sharing "
         "violation. Make sure no files are in use.|";
@@ -84,18 +84,17 @@ TEST_F(modGlobalTest, deletesADayAndAsksAgainWhileSomethingIsInUse) {
     EXPECT_EQ(errorsOf("DeleteContent()"), 2U);
     EXPECT_TRUE(has("A.TXT"));
     files.Trouble.clear();
-    store.DeleteContent("07/03/2004");
+    store.DeleteContent(march7);
     EXPECT_FALSE(folder.has("clips/07032004"));
 }
 
 TEST_F(modGlobalTest, neverDeletesOutsideADayFolder) {
     for (const char* name : {"keep.txt", "clips/keep.txt", "clips/07032004/keep.txt"})
         folder.put(name, "x");
-    for (const char* name :
-         {"", "..", "../..", "00/00/0000", "30/02/2004", "7/3/2004", "07032004", "07/03/2004/", "07/03/2004"}) {
-        if (std::string_view(name) == "07/03/2004") setup.LocalDir.clear();
-        day.cmbDate = name;
-        store.DeleteContent(name);
+    for (const std::optional<Date>& chosen : {std::optional<Date>{}, {{2004, 2, 30}}, {march7}}) {
+        if (chosen == march7) setup.LocalDir.clear();
+        day.cmbDate = chosen;
+        store.DeleteContent(chosen.value_or(Date{}));
         store.DeleteArticleFiles("keep.txt");
         store.DeleteDayFile("keep.txt");
     }
@@ -103,7 +102,7 @@ TEST_F(modGlobalTest, neverDeletesOutsideADayFolder) {
 }
 
 TEST_F(modGlobalTest, deletesAnArticleInAllItsFormsFromTheChosenDay) {
-    day.gCurrentDate = "08032004";
+    day.gCurrentDate = march8;
     for (const char* name : {"X.PDF", "X.TXT", "X.MT", "XY.PDF", "ALLFILES.DIR"})
         for (const char* where : {"clips/07032004/", "clips/08032004/"})
             folder.put(std::string(where) + name, "x");

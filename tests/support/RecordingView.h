@@ -13,10 +13,10 @@ namespace vell::test {
 // A main window that remembers what it was told to show.
 class RecordingView : public MainView {
   public:
-    void showDays(const std::vector<std::string>& dayNames, const std::string& chosen) override {
+    void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override {
         Days.clear();
-        for (const std::string& name : dayNames)
-            Days += (name == chosen ? "*" : "") + name + " ";
+        for (const Date& day : days)
+            Days += (day == chosen ? "*" : "") + day.dayName() + " ";
     }
     void showClippings(const std::vector<ClippingRow>& rows) override {
         Rows.clear();

@@ -31,7 +31,7 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
             "A.PDF||N||first|| Politics ||News\r\nB.PDF||N||second||POLITICS||News|Comment\r\n"
             "C.PDF||N||third||Politics|Economy||Report\r\nD.PDF||N||fourth||||\r\n\r\n");
         browser.PopulateDateCombo();
-        browser.chooseDay("07/03/2004");
+        browser.chooseDay(march7);
         setup.PrintAllDelay = 3;
         setup.AutoPlayDelay = 5;
         logged();
@@ -219,17 +219,17 @@ TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
         std::filesystem::create_directories(folder.path() / "clips" / name);
     browser.PopulateDateCombo();
     days.chooseNewer();
-    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
+    EXPECT_EQ(browser.chosenDay(), march8);
     days.chooseNewer();
-    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
+    EXPECT_EQ(browser.chosenDay(), march8);
     days.chooseOlder();
     days.mnuDeleteDay_Click();
     EXPECT_TRUE(has("A.PDF"));
     boxes.Answers = {Answer::Yes};
     days.mnuDeleteDay_Click();
     EXPECT_FALSE(folder.has("clips/07032004"));
-    EXPECT_EQ(browser.chosenDay(), "08/03/2004");
-    days.chooseFirst("06/03/2004");
+    EXPECT_EQ(browser.chosenDay(), march8);
+    days.chooseFirst(Date{2004, 3, 6});
     EXPECT_EQ(view.Days, "08/03/2004 *06/03/2004 ");
     std::filesystem::remove_all(folder.path() / "clips");
     days.reload();

@@ -19,14 +19,15 @@ TEST_F(ClippingsBrowserTest, listsRealDaysNewestFirstAndKeepsTheChosenOne) {
         files.MakeFolder(setup.LocalDir + "\\" + name);
     browser.PopulateDateCombo();
     EXPECT_EQ(view.Days, "*07/03/2004 15/02/2004 31/12/2003 ");
-    EXPECT_FALSE(browser.chooseDay("30/02/2004"));
-    EXPECT_TRUE(browser.chooseDay("15/02/2004"));
+    EXPECT_FALSE(browser.chooseDay({2004, 2, 30}));
+    EXPECT_TRUE(browser.chooseDay({2004, 2, 15}));
     files.MakeFolder(setup.LocalDir + "\\09032004");
     browser.refresh();
     EXPECT_EQ(view.Days, "09/03/2004 07/03/2004 *15/02/2004 31/12/2003 ");
     files.RemoveFolder(setup.LocalDir + "\\15022004");
     browser.refresh();
-    EXPECT_EQ(view.Days + browser.chosenDay(), "09/03/2004 07/03/2004 31/12/2003 ");
+    EXPECT_EQ(view.Days, "09/03/2004 07/03/2004 31/12/2003 ");
+    EXPECT_EQ(browser.chosenDay(), std::nullopt);
     setup.LocalDir = folder.text() + "/none";
     browser.PopulateDateCombo();
     EXPECT_EQ(view.Days, "");
@@ -41,7 +42,7 @@ TEST_F(ClippingsBrowserTest, showsThePdfFilesOfTheDayWithTitlesMarksAndAlert) {
     put("ALERT.MSG", "strike\r\n");
     files.MakeFolder(setup.LocalDir + "\\08032004");
     browser.PopulateDateCombo();
-    EXPECT_TRUE(browser.chooseDay("07/03/2004"));
+    EXPECT_TRUE(browser.chooseDay(march7));
     EXPECT_EQ(view.Rows, "A.PDF,\xD4\xC9,OP;B.PDF,,P;C.PDF,,O;D.PDF,,;");
     EXPECT_EQ(browser.rows().at(0).path() + view.Count + view.Alert, day.gDayFolder + "A.PDF4 Clippingsstrike\r\n");
     put("E.PDF", "x");
@@ -49,7 +50,7 @@ TEST_F(ClippingsBrowserTest, showsThePdfFilesOfTheDayWithTitlesMarksAndAlert) {
     put("F.PDF", "x");
     browser.refreshDuringRun();
     EXPECT_EQ(view.Count, "5 Clippings");
-    EXPECT_TRUE(browser.chooseDay("08/03/2004"));
+    EXPECT_TRUE(browser.chooseDay(march8));
     EXPECT_EQ(view.Rows + view.Count + view.Alert, "0 Clippings");
 }
 
