@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "app/exitCodes.h"
 #include "app/frmMain.h"
 #include "base/text.h"
 #include "console/ClippingsTable.h"

@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "app/exitCodes.h"
 #include "platform/Terminal.h"
 
 namespace vell {

@@ -11,17 +11,6 @@ namespace vell {
 
 class Terminal;
 
-// Exit codes, for scripts.
-namespace exit_code {
-inline constexpr int Good = 0;
-inline constexpr int Failed = 1;        // a file failed, the list could not be got, or what was asked for was not done
-inline constexpr int Usage = 2;         // unknown option, impossible date, wrong value
-inline constexpr int NoConnection = 3;  // no internet connection
-inline constexpr int AlreadyRunning = 5;
-inline constexpr int Interrupted = 130;  // stopped by SIGINT
-inline constexpr int Terminated = 143;   // stopped by SIGTERM
-}  // namespace exit_code
-
 // What the user asked for. Texts in UTF-8.
 struct CommandLine {
     enum class Command {

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <optional>
 
+#include "app/exitCodes.h"
 #include "app/frmMain.h"
 #include "console/ConsoleBoxes.h"
 #include "console/ConsoleView.h"

@@ -5,6 +5,7 @@
 #include <array>
 #include <utility>
 
+#include "app/exitCodes.h"
 #include "base/text.h"
 #include "config/Schedule.h"
 #include "console/CommandLine.h"

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "app/exitCodes.h"
 #include "base/text.h"
 #include "console/CommandLine.h"
 #include "console/ConsoleBoxes.h"

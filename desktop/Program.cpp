@@ -11,6 +11,7 @@
 #include <wx/log.h>
 #include <wx/utils.h>
 
+#include "app/exitCodes.h"
 #include "app/frmMain.h"
 #include "desktop/MainWindow.h"
 #include "desktop/WindowCommands.h"
@@ -18,53 +19,26 @@
 #include "desktop/dialogs/WxMessageBoxes.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/native/showQuietly.h"
-#include "platform/asio/AsioEventLoop.h"
-#include "platform/asio/AsioSockets.h"
-#include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/files/PosixIniFile.h"
-#include "platform/posix/internet/CurlInternet.h"
-#include "platform/posix/network/NetworkInterfaces.h"
-#include "platform/posix/network/NetworkManagerClient.h"
-#include "platform/posix/network/PosixConnection.h"
-#include "platform/posix/network/PosixRas.h"
-#include "platform/posix/printing/CupsPrinters.h"
-#include "platform/posix/program/PosixProcess.h"
-#include "platform/posix/program/PosixShell.h"
-#include "platform/posix/program/SystemClock.h"
+#include "platform/SystemPlatform.h"
 
 namespace vell {
 
-namespace {
-constexpr int good = 0;
-constexpr int failed = 1;
-constexpr int alreadyRunning = 5;  // as in the console
-}  // namespace
-
 struct Program::Parts {
     explicit Parts(const std::optional<std::string>& folder)
-        : Place(ProgramPlace::ofThisProcess(folder)),
-          Window(*new MainWindow(Time, Disk)),  // the toolkit deletes its windows
-          Main({Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Place, Opener, Printer}, Window,
-               VELL_VERSION),
-          Events(Main, Window, Boxes, [] { std::quick_exit(0); }) {}
+        : System(folder),
+          Services(System.with(Boxes)),
+          Window(*new MainWindow(Services.Time, Services.Disk)),  // the toolkit deletes its windows
+          Main(Services, Window, VELL_VERSION),
+          Events(Main, Window, Boxes, [] { std::quick_exit(exit_code::Good); }),
+          Marriage(System.loop()) {}
 
-    SystemClock Time;
-    AsioEventLoop Loop{Time};
-    PosixFiles Disk;
-    PosixIniFile Ini{Disk};
-    CurlInternet Internet{Loop, Time};
-    AsioSockets Net{Loop};
-    NetworkManagerClient Manager{Loop, Time, ""};
-    PosixConnection Connection{Manager, configuredProxy()};
-    PosixRas Ras{Manager};
-    PosixProcess Place;
-    PosixShell Opener;
-    CupsPrinters Printer;
     WxMessageBoxes Boxes;
+    SystemPlatform System;
+    Platform Services;
     MainWindow& Window;
     frmMain Main;
     WindowCommands Events;
-    WindowLoop Marriage{Loop};
+    WindowLoop Marriage;
 };
 
 Program::Program(std::optional<std::string> folder) : folder_(std::move(folder)) {}
@@ -102,10 +76,10 @@ bool Program::start() {
             parts_->Window.list().focusList();
             return true;
         }
-        exitCode_ = parts_->Main.isSecondInstance() ? alreadyRunning : good;
+        exitCode_ = parts_->Main.isSecondInstance() ? exit_code::AlreadyRunning : exit_code::Good;
     } catch (const std::exception& error) {
         wxLogError("%s", error.what());
-        exitCode_ = failed;
+        exitCode_ = exit_code::Failed;
     }
     return false;
 }

@@ -7,11 +7,10 @@
 #include <CLI/CLI.hpp>
 #include <wx/init.h>
 
+#include "app/exitCodes.h"
 #include "desktop/Program.h"
 
 namespace {
-
-constexpr int failed = 1;
 
 int runWindow(int argc, char** argv) {
     CLI::App line("The desktop client of a press-clipping service.", "vell");
@@ -21,13 +20,12 @@ int runWindow(int argc, char** argv) {
     try {
         line.parse(argc, argv);
     } catch (const CLI::ParseError& error) {
-        constexpr int usage = 2;
-        return line.exit(error) == 0 ? 0 : usage;
+        return line.exit(error) == 0 ? vell::exit_code::Good : vell::exit_code::Usage;
     }
     wxApp::SetInstance(new vell::Program(folder.empty() ? std::nullopt : std::optional(folder)));  // the toolkit's now
     int nameOnly = 1;
     const int exitCode = wxEntry(nameOnly, argv);
-    return exitCode < 0 ? failed : exitCode;  // the toolkit's way to say that it could not begin
+    return exitCode < 0 ? vell::exit_code::Failed : exitCode;  // the toolkit's way to say that it could not begin
 }
 
 }  // namespace
@@ -37,6 +35,6 @@ int main(int argc, char** argv) {
         return runWindow(argc, argv);
     } catch (const std::exception& error) {
         std::cerr << "vell: " << error.what() << '\n';
-        return failed;
+        return vell::exit_code::Failed;
     }
 }

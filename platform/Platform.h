@@ -28,7 +28,7 @@ struct Platform {
     RasApi& Ras;
     MessageBoxes& Boxes;
     Process& Program;
-    Shell& Opener;
+    Shell& DesktopShell;
     Printers& Printer;
 };
 

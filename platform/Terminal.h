@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,5 +31,8 @@ class Terminal {
     // Whether what is typed can be seen.
     virtual void setEcho(bool on) = 0;
 };
+
+// This process's own.
+[[nodiscard]] std::unique_ptr<Terminal> systemTerminal();
 
 }  // namespace vell

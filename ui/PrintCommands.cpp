@@ -32,7 +32,7 @@ bool PrintCommands::printAll() {
     const std::vector<ClippingRow> rows = p_.Browser.rows();
     std::size_t printed = 0;
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (!p_.Opener.PrintArticle(rows[i].path())) continue;
+        if (!p_.Article.PrintArticle(rows[i].path())) continue;
         ++printed;
         p_.Loop.DoEvents();
         status_("Printing " + std::to_string(i + 1) + "/" + std::to_string(rows.size()) + " " +
@@ -48,7 +48,7 @@ bool PrintCommands::printAll() {
 bool PrintCommands::mnuPrintSel_Click(std::size_t row) {
     return trap(p_.Log, "mnuPrintSel_Click()", false, [&] {
         const std::string path = p_.Browser.rows().at(row).path();
-        if (!p_.Opener.PrintArticle(path)) return false;
+        if (!p_.Article.PrintArticle(path)) return false;
         p_.Store.MarkFilePrinted(path);
         p_.Browser.refreshMarks(path);
         return true;
@@ -62,7 +62,7 @@ frmPrint PrintCommands::mnuPrintByCategory_Click() {
         if (!category.empty() && std::ranges::find(categories, category) == categories.end())
             categories.emplace_back(category);
     }
-    return {{p_.Browser, p_.Opener, p_.Loop, p_.Boxes, p_.Printer, p_.Log, p_.Setup, printing_}, std::move(categories)};
+    return {{p_.Browser, p_.Article, p_.Loop, p_.Boxes, p_.Printer, p_.Log, p_.Setup, printing_}, std::move(categories)};
 }
 
 }  // namespace vell

@@ -23,7 +23,7 @@ class PrintCommands {
     struct Parts {
         ClippingsBrowser& Browser;
         modGlobal& Store;
-        Articles& Opener;
+        Articles& Article;
         EventLoop& Loop;
         MessageBoxes& Boxes;
         Printers& Printer;

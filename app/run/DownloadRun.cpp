@@ -190,7 +190,7 @@ void DownloadRun::printWhenNew(const FileTurn& turn) {
     if (localSize(turn.Name) == turn.Start) return;
     const std::string path = state.Day.gDayFolder + turn.Name;
     say("Printing " + turn.Name);
-    if (!p_.Opener.PrintArticle(path))
+    if (!p_.Article.PrintArticle(path))
         say("FAILED Printing " + turn.Name);
     else if (!p_.Store.MarkFilePrinted(path))
         p_.Log.WriteLog("FAILED Marking as Printed " + turn.Name);

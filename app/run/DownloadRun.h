@@ -34,7 +34,7 @@ class DownloadRun {
         Files& Disk;
         EventLog& Log;
         modGlobal& Store;
-        Articles& Opener;
+        Articles& Article;
         modHTTP& Http;
         FtpSession& Ftp;
         DownloadList& List;

@@ -92,7 +92,7 @@ bool frmPrint::print(const Names& documents, const StatusText& status) {
     for (std::size_t k = 0; k < documents.size(); ++k) {
         const std::string& path = documents[k];
         if (InStr(Upper(path), ".PDF") == 0) continue;
-        all = p_.Opener.PrintArticle(path) && all;
+        all = p_.Article.PrintArticle(path) && all;
         status("Printing " + std::to_string(k + 1) + "/" + std::to_string(documents.size()) + " " +
                std::string(Mid(path, InStrRev(path, "\\") + 1)));
         printPause(p_.Loop, p_.Setup);

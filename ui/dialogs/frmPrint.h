@@ -22,7 +22,7 @@ class frmPrint {
   public:
     struct Parts {
         ClippingsBrowser& Browser;
-        Articles& Opener;
+        Articles& Article;
         EventLoop& Loop;
         MessageBoxes& Boxes;
         Printers& Printer;

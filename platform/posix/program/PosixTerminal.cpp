@@ -75,4 +75,8 @@ void PosixTerminal::setEcho(bool on) {
     tcsetattr(STDIN_FILENO, TCSAFLUSH, &mode);
 }
 
+std::unique_ptr<Terminal> systemTerminal() {
+    return std::make_unique<PosixTerminal>();
+}
+
 }  // namespace vell
