@@ -28,6 +28,26 @@ class OutputFile {
     virtual void Close() = 0;
 };
 
+// A file that arrives under a name of its own and, once whole, takes the place of another. As long as the object lives
+// no other writer can open it: none of this process, of another one, or of another machine that shares the folder.
+// What was written stays, also when the program is killed, for a later writer to go on with; a part that holds nothing
+// goes with its object. Nothing is collected: what Write has taken, Length counts.
+class PartFile : public OutputFile {
+  public:
+    [[nodiscard]] virtual std::int64_t Length() const = 0;
+    // The first bytes, at most that many.
+    [[nodiscard]] virtual std::string Beginning(std::size_t most) const = 0;
+    // Goes on at `offset` (0 to the length) and cuts off what lies behind it. Until then writing goes on at the end.
+    virtual void StartAt(std::int64_t offset) = 0;
+    // A call that raises has left the length as it was and may be made again.
+    void Write(std::string_view bytes) override = 0;
+    // Closes, and becomes the file of that name in the same folder. An older file of that name gives way in the same
+    // step, as does a link; its permissions are kept, and one that must not be written is left as it is.
+    virtual void MoveTo(std::string_view path) = 0;
+    // Closes, and removes what has come.
+    virtual void Discard() = 0;
+};
+
 enum class Durability {
     Rename,   // survives the end of the program
     Flushed,  // survives a power cut too; costs a wait for the disk
@@ -52,7 +72,8 @@ class Files {
     };
     enum class Kind { Files, Folders };
     // What a folder holds of one kind, in name order without regard to case; "." and ".." are never among it. The
-    // pattern knows "*" and "?", without regard to case; "*.*" means everything. A missing folder holds nothing.
+    // pattern knows "*" and "?", without regard to case; "*.*" means everything. Parts (see OpenPart) are listed by
+    // patterns alone that begin with a dot, too. A missing folder holds nothing.
     [[nodiscard]] virtual std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern,
                                                        Kind kind) const = 0;
 
@@ -67,13 +88,18 @@ class Files {
     // Opens for writing from `offset` on (0 to the file's length) and cuts off what lies behind it; makes the file
     // when it is missing.
     [[nodiscard]] virtual std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) = 0;
+    // Opens a part, and makes it when it is missing; null when another writer has it. Its name begins with a dot and
+    // ends with ".part". Parts that nobody has written for a day are removed from a folder when it is first written to.
+    [[nodiscard]] virtual std::unique_ptr<PartFile> OpenPart(std::string_view path) = 0;
+    // Waits until the disk has what was written in that folder, so that a power cut cannot take it any more.
+    virtual void Flush(std::string_view folder) = 0;
     // Makes an empty file that only its owner may read, or leaves an existing one as it is.
     virtual void MakePrivateFile(std::string_view path) = 0;
 
     virtual void DeleteFile(std::string_view path) = 0;
     // One level only.
     virtual void MakeFolder(std::string_view path) = 0;
-    // The folder must be empty.
+    // The folder must be empty but for parts, which go with it unless they are being written.
     virtual void RemoveFolder(std::string_view path) = 0;
 
     // Free bytes for the calling user on the drive that holds `path`, which need not exist itself; nothing when the

@@ -14,6 +14,7 @@ namespace vell::test {
 namespace {
 
 using testing::ElementsAre;
+using testing::Field;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
@@ -146,20 +147,83 @@ TEST_F(PosixFilesTest, aWholeFileThatCouldNotBeWrittenLeavesTheOldOneAndNothingE
     EXPECT_EQ(entriesOnDisk(), 1u);
 }
 
-TEST_F(PosixFilesTest, aKilledWritersPartsGoWithTheNextWriteOrTheFolder) {
-    const pid_t dead = fork();
-    if (dead == 0) _exit(0);
-    waitpid(dead, nullptr, 0);
-    const auto part = ".vell-" + std::to_string(dead) + "-1.part";
-    const auto living = ".vell-" + std::to_string(getppid()) + "-1.part";
-    folder_.put(part, "half");
-    folder_.put(living, "half");
-    files_.WriteWhole(at("a"), "x", Durability::Flushed);
-    EXPECT_FALSE(folder_.has(part));
-    EXPECT_TRUE(folder_.has(living));
-    folder_.put("day/" + part, "half");
-    files_.RemoveFolder(at("DAY"));
-    EXPECT_FALSE(folder_.has("day"));
+TEST_F(PosixFilesTest, leftOverPartsGoAfterADayOrWithTheirFolderButNeverUnderTheirWriter) {
+    const auto leave = [&](const std::string& name, int hours) {
+        folder_.put(name, "half");
+        const auto then = std::filesystem::file_time_type::clock::now() - std::chrono::hours{hours};
+        std::filesystem::last_write_time(folder_.path() / name, then);
+    };
+    for (const char* day : {"day/", "other/"})
+        for (const auto& [name, hours] : {std::pair{".A.PDF.1.part", 25}, {".B.PDF.1.part", 23}, {".C.PDF.1.part", 25}})
+            leave(std::string(day) + name, hours);
+    PosixFiles writer;
+    const auto written = writer.OpenPart(at("day\\.C.PDF.1.part"));
+    files_.WriteWhole(at("day\\a"), "x", Durability::Flushed);
+    const auto parts = files_.Enumerate(at("day"), ".*", Files::Kind::Files);
+    EXPECT_THAT(parts,
+                ElementsAre(Field(&Files::Entry::Name, ".B.PDF.1.part"), Field(&Files::Entry::Name, ".C.PDF.1.part")));
+    EXPECT_EQ(folder_.get("day/.C.PDF.1.part"), "half");
+    files_.RemoveFolder(at("OTHER"));
+    EXPECT_FALSE(folder_.has("other"));
+}
+
+TEST_F(PosixFilesTest, aPartIsOneWritersUntilItTakesItsPlace) {
+    folder_.put("A.PDF", "old");
+    std::filesystem::permissions(folder_.path() / "A.PDF", std::filesystem::perms{0640});
+    auto part = files_.OpenPart(at(".a.part"));
+    part->Write("0123456789");
+    EXPECT_EQ(PosixFiles().OpenPart(at(".a.part")), nullptr);
+    part.reset();  // as a kill leaves it
+    part = PosixFiles().OpenPart(at(".A.part"));
+    EXPECT_EQ(part->Length(), 10);
+    part->StartAt(4);
+    part->Write("new");
+    EXPECT_EQ(part->Beginning(6), "0123ne");
+    EXPECT_EQ(folder_.get("A.PDF"), "old");
+    part->MoveTo(at("a.pdf"));
+    EXPECT_EQ(folder_.get("A.PDF"), "0123new");
+    EXPECT_EQ(std::filesystem::status(folder_.path() / "A.PDF").permissions(), std::filesystem::perms{0640});
+    files_.OpenPart(at(".a.part"))->Write("x");
+    files_.OpenPart(at(".a.part"))->Discard();
+    files_.OpenPart(at(".b.part")).reset();  // nothing came
+    files_.Flush(folder_.text());
+    EXPECT_EQ(entriesOnDisk(), 1u);
+}
+
+TEST_F(PosixFilesTest, whatIsNoFileDoesNotGiveWayToAPartButALinkDoes) {
+    folder_.put("real", "theirs");
+    folder_.put("folder/x", "");
+    std::filesystem::create_symlink("real", folder_.path() / "LINK.PDF");
+    std::filesystem::create_symlink("real", folder_.path() / ".l.part");
+    ASSERT_EQ(mkfifo((folder_.path() / ".f.part").c_str(), 0600), 0);
+    const auto part = files_.OpenPart(at(".a.part"));
+    part->Write("ours");
+    EXPECT_EQ(errorOf([&] { part->MoveTo(at("folder")); }).Number, error_number::PathAccess);
+    part->MoveTo(at("LINK.PDF"));
+    EXPECT_EQ(folder_.get("LINK.PDF") + folder_.get("real"), "ourstheirs");
+    for (const char* name : {".l.part", ".f.part"})
+        EXPECT_NE(errorOf([&] { (void)files_.OpenPart(at(name)); }).Number, 0) << name;
+}
+
+TEST_F(PosixFilesTest, aWriteToAFullDiskCanBeMadeAgain) {
+    const pid_t child = fork();  // the limit is the child's own
+    if (child == 0) {
+        signal(SIGXFSZ, SIG_IGN);
+        const auto part = files_.OpenPart(at(".a.part"));
+        part->Write(std::string(600, 'a'));
+        const rlimit few{1000, 2000}, more{2000, 2000};
+        setrlimit(RLIMIT_FSIZE, &few);
+        const auto error = errorOf([&] { part->Write(std::string(600, 'b')); });
+        const auto length = part->Length();
+        setrlimit(RLIMIT_FSIZE, &more);
+        part->Write(std::string(600, 'b'));
+        part->MoveTo(at("A.PDF"));
+        _exit(error.Number == error_number::DiskFull && length == 600 ? 0 : 1);
+    }
+    int result = -1;
+    waitpid(child, &result, 0);
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(folder_.get("A.PDF"), std::string(600, 'a') + std::string(600, 'b'));
 }
 
 TEST_F(PosixFilesTest, replacingAFileKeepsItsPermissionsAndTheLinkToIt) {

@@ -52,6 +52,15 @@ class FaultyFiles : public Files {
         faults_->count();
         return std::make_unique<Output>(real_.OpenForWriting(path, offset), faults_);
     }
+    std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
+        faults_->count();
+        auto real = real_.OpenPart(path);
+        return real ? std::make_unique<Part>(std::move(real), faults_) : nullptr;
+    }
+    void Flush(std::string_view folder) override {
+        faults_->count();
+        real_.Flush(folder);
+    }
     void MakePrivateFile(std::string_view path) override {
         faults_->count();
         real_.MakePrivateFile(path);
@@ -92,6 +101,28 @@ class FaultyFiles : public Files {
 
       private:
         std::unique_ptr<OutputFile> real_;
+        std::shared_ptr<Faults> faults_;
+    };
+
+    class Part : public PartFile {
+      public:
+        Part(std::unique_ptr<PartFile> real, std::shared_ptr<Faults> faults)
+            : real_(std::move(real)), faults_(std::move(faults)) {}
+        std::int64_t Length() const override { return real_->Length(); }
+        std::string Beginning(std::size_t most) const override { return counted().Beginning(most); }
+        void StartAt(std::int64_t offset) override { counted().StartAt(offset); }
+        void Write(std::string_view bytes) override { counted().Write(bytes); }
+        void Close() override { counted().Close(); }
+        void MoveTo(std::string_view path) override { counted().MoveTo(path); }
+        void Discard() override { counted().Discard(); }
+
+      private:
+        [[nodiscard]] PartFile& counted() const {
+            faults_->count();
+            return *real_;
+        }
+
+        std::unique_ptr<PartFile> real_;
         std::shared_ptr<Faults> faults_;
     };
 

@@ -17,6 +17,9 @@ class TroubledFiles : public PosixFiles {
     void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
         PosixFiles::ReplaceByte(checked(path), offset, byte);
     }
+    [[nodiscard]] std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
+        return PosixFiles::OpenPart(checked(path));
+    }
     void DeleteFile(std::string_view path) override { PosixFiles::DeleteFile(checked(path)); }
     [[nodiscard]] std::optional<std::uint64_t> FreeBytes(std::string_view path) const override {
         return Free ? Free() : PosixFiles::FreeBytes(path);

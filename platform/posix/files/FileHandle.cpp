@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -47,6 +48,19 @@ void FileHandle::writeAll(std::string_view bytes, const FilePlace& place) {
     }
 }
 
+void FileHandle::writeAllAt(std::int64_t offset, std::string_view bytes, const FilePlace& place) {
+    while (!bytes.empty()) {
+        const auto written = uninterrupted([&] { return ::pwrite(descriptor_, bytes.data(), bytes.size(), offset); });
+        if (written < 0) raiseFileError(place);
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+        offset += written;
+    }
+}
+
+bool FileHandle::tryLock() {
+    return uninterrupted([&] { return ::flock(descriptor_, LOCK_EX | LOCK_NB); }) == 0 || errno != EWOULDBLOCK;
+}
+
 std::string FileHandle::readAll(const FilePlace& place) {
     struct stat status {};
     if (fstat(descriptor_, &status) != 0) raiseFileError(place);
@@ -71,6 +85,12 @@ std::string FileHandle::readAll(const FilePlace& place) {
 void FileHandle::flushToDisk(const FilePlace& place) {
     // EINVAL: what this is has no disk behind it.
     if (uninterrupted([&] { return ::fsync(descriptor_); }) != 0 && errno != EINVAL) raiseFileError(place);
+}
+
+void FileHandle::reportLateErrors(const FilePlace& place) const {
+    const int copy = uninterrupted([&] { return ::fcntl(descriptor_, F_DUPFD_CLOEXEC, 0); });
+    if (copy < 0) raiseFileError(place);
+    FileHandle(copy).close(place);
 }
 
 void FileHandle::close(const FilePlace& place) {

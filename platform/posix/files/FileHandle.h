@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -25,11 +26,18 @@ class FileHandle {
     [[nodiscard]] int get() const { return descriptor_; }
     [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
 
+    // False when another handle, of whatever process or machine, has the lock. It goes with the handle. Where the
+    // file system knows no locks everybody gets one.
+    [[nodiscard]] bool tryLock();
+
     void writeAll(std::string_view bytes, const FilePlace& place);
+    void writeAllAt(std::int64_t offset, std::string_view bytes, const FilePlace& place);
     [[nodiscard]] std::string readAll(const FilePlace& place);
     // Waits until the disk has it.
     void flushToDisk(const FilePlace& place);
-    // Raises what a late write failed with.
+    // Raises what a late write failed with, which a network file system tells no sooner; the file stays open.
+    void reportLateErrors(const FilePlace& place) const;
+    // Raises that, too.
     void close(const FilePlace& place);
 
   private:

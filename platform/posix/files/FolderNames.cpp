@@ -64,6 +64,11 @@ void FolderNames::Folder::add(const std::string& name) {
     if (name < known->second) known->second = name;  // whatever order the system lists them in
 }
 
+void FolderNames::Folder::remove(const std::string& name) {
+    if (HasDoubles) Modified = 0;  // the other one is not known any more
+    Names.erase(Upper(codePageFromUtf8(name).value_or(name)));
+}
+
 std::string FolderNames::realPath(const std::string& wanted) {
     if (exists(wanted) || wanted == "/" || wanted == ".") return wanted;
     const auto folder = realPath(folderOf(wanted));
@@ -77,9 +82,15 @@ void FolderNames::adding(const std::string& path, const std::function<void()>& o
 
 void FolderNames::removing(const std::string& path, const std::function<void()>& operation) {
     changing(path, operation, [this, &path](Folder& folder, const std::string& name) {
-        if (folder.HasDoubles) folder.Modified = 0;  // the other one is not known any more
-        folder.Names.erase(Upper(codePageFromUtf8(name).value_or(name)));
+        folder.remove(name);
         folders_.erase(path);
+    });
+}
+
+void FolderNames::moving(const std::string& from, const std::string& to, const std::function<void()>& operation) {
+    changing(to, operation, [&from](Folder& folder, const std::string& name) {
+        folder.remove(nameOf(from));
+        folder.add(name);
     });
 }
 

@@ -21,6 +21,8 @@ class FolderNames {
     // Nothing is remembered when the operation raises.
     void adding(const std::string& path, const std::function<void()>& operation);
     void removing(const std::string& path, const std::function<void()>& operation);
+    // The same for one that renames `from` to `to` in the same folder.
+    void moving(const std::string& from, const std::string& to, const std::function<void()>& operation);
 
   private:
     struct Folder {
@@ -32,6 +34,7 @@ class FolderNames {
 
         [[nodiscard]] bool isTrusted(std::int64_t modified) const;
         void add(const std::string& name);
+        void remove(const std::string& name);
     };
 
     [[nodiscard]] std::optional<std::string> findName(const std::string& folder, const std::string& name);

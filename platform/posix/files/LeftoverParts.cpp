@@ -1,58 +1,54 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/files/LeftoverParts.h"
 
-#include <cerrno>
-#include <charconv>
 #include <filesystem>
-#include <optional>
+#include <random>
 #include <vector>
 
-#include <signal.h>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include "platform/posix/files/FileHandle.h"
 
 namespace vell {
 
 namespace {
 
-// ".vell-<process>-<number>.part": the service's names never begin with a dot.
-constexpr std::string_view prefix = ".vell-";
-constexpr std::string_view suffix = ".part";
-
-std::optional<pid_t> writerOf(std::string_view name) {
-    if (!name.starts_with(prefix) || !name.ends_with(suffix)) return std::nullopt;
-    name.remove_prefix(prefix.size());
-    pid_t writer = 0;
-    const auto [end, problem] = std::from_chars(name.data(), name.data() + name.size(), writer);
-    if (problem != std::errc{} || *end != '-' || writer <= 0) return std::nullopt;
-    return writer;
+bool isOlder(const struct stat& status, std::chrono::hours age) {
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    return now - std::chrono::seconds{status.st_mtim.tv_sec} >= age;
 }
 
-bool isLeftOver(pid_t writer) {
-    return writer == getpid() || (kill(writer, 0) != 0 && errno == ESRCH);
+void removeIfLeftOver(const FilePlace& part, std::chrono::hours age) {
+    FileHandle file(part, O_RDWR | O_NOFOLLOW | O_NONBLOCK);
+    struct stat status {};
+    if (fstat(file.get(), &status) == 0 && isOlder(status, age) && file.tryLock()) unlink(part.System.c_str());
 }
 
 }  // namespace
 
-std::string newPartName() {
-    static unsigned last = 0;
-    return std::string(prefix) + std::to_string(getpid()) + '-' + std::to_string(++last) + std::string(suffix);
-}
-
 bool isPartName(std::string_view name) {
-    return writerOf(name).has_value();
+    return name.starts_with('.') && name.ends_with(".part");
 }
 
-void removeLeftoverParts(const std::string& folder) {
-    std::vector<std::filesystem::path> leftOver;
+std::string newPartName() {
+    static std::random_device random;  // the process number would not do: another machine may share the folder
+    return ".vell-" + std::to_string(random()) + '-' + std::to_string(random()) + ".part";
+}
+
+void removeLeftoverParts(const std::string& folder, std::chrono::hours age) {
+    std::vector<std::string> parts;
     std::error_code unreadable;  // then there is nothing to clear, and the write itself tells what is wrong
     for (std::filesystem::directory_iterator entry(folder, unreadable), end; !unreadable && entry != end;
-         entry.increment(unreadable)) {
-        const auto writer = writerOf(entry->path().filename().string());
-        if (writer && isLeftOver(*writer)) leftOver.push_back(entry->path());
-    }
-    for (const auto& part : leftOver) {
-        std::error_code notOurs;  // a part of another user's stays
-        std::filesystem::remove(part, notOurs);
+         entry.increment(unreadable))
+        if (isPartName(entry->path().filename().string())) parts.push_back(entry->path());
+    for (const auto& part : parts) {
+        try {
+            removeIfLeftOver({part, part}, age);
+        } catch (const RunTimeError&) {
+            continue;  // a part of another user's stays
+        }
     }
 }
 

@@ -1,19 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <chrono>
 #include <string>
 #include <string_view>
 
 namespace vell {
 
-// Files that are being written beside the one they will replace: how they are named, and how those that a killed
-// program left behind are known and removed.
+// Files that are being written beside the one they will replace, called parts: how they are named, and how those that
+// a killed program left behind are known and removed. A part that is being written is locked.
 
-// A name that no other writer has, of this process or another.
-[[nodiscard]] std::string newPartName();
+// ".<anything>.part": the service's names never begin with a dot.
 [[nodiscard]] bool isPartName(std::string_view name);
-// Removes the parts in a folder whose writer lives no more. Ours count as left over too: to be called while none is
-// being written there.
-void removeLeftoverParts(const std::string& folder);
+// A name that no other writer has, in this process or elsewhere.
+[[nodiscard]] std::string newPartName();
+// Removes the parts in a folder that nobody writes and nobody has written for that long.
+void removeLeftoverParts(const std::string& folder, std::chrono::hours age);
 
 }  // namespace vell

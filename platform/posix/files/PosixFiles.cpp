@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <climits>
+#include <cstdio>
 #include <cstdlib>
 
 #include <dirent.h>
@@ -15,12 +17,16 @@
 #include "platform/posix/files/LeftoverParts.h"
 #include "platform/posix/files/NamePattern.h"
 #include "platform/posix/files/PosixOutputFile.h"
+#include "platform/posix/files/PosixPartFile.h"
 #include "platform/posix/files/WholeFile.h"
 #include "platform/posix/files/paths.h"
+#include "platform/posix/files/replacing.h"
 
 namespace vell {
 
 namespace {
+
+constexpr std::chrono::hours leftOverAfter{24};
 
 struct CloseFolder {
     void operator()(DIR* folder) const { closedir(folder); }
@@ -78,10 +84,11 @@ std::vector<Files::Entry> PosixFiles::Enumerate(std::string_view folder, std::st
         raiseFileError(place);
     }
     const NamePattern wanted(pattern);
+    const bool wantsParts = pattern.starts_with('.');
     std::vector<Entry> entries;
     while (const dirent* found = readdir(reader.get())) {
         const std::string_view name = found->d_name;
-        if (name == "." || name == ".." || isPartName(name)) continue;
+        if (name == "." || name == ".." || (isPartName(name) && !wantsParts)) continue;
         const auto inCodePage = codePageFromUtf8(name);
         if (!inCodePage || !wanted.fits(*inCodePage)) continue;
         Entry entry{*inCodePage, 0};
@@ -104,7 +111,7 @@ std::string PosixFiles::ReadFile(std::string_view path) const {
 void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durability durability) {
     auto place = locate(path);
     place.System = behindLink(place.System);
-    if (const auto folder = folderOf(place.System); clearedFolders_.insert(folder).second) removeLeftoverParts(folder);
+    clearFolderOf(place);
     names_.adding(place.System, [&] {
         WholeFile file(place);
         file.write(bytes, durability);
@@ -143,6 +150,21 @@ std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(std::string_view path, st
     return std::make_unique<PosixOutputFile>(std::move(file), place);
 }
 
+std::unique_ptr<PartFile> PosixFiles::OpenPart(std::string_view path) {
+    const auto place = locate(path);
+    std::unique_ptr<PartFile> part;
+    mayMake(place, [&] { part = PosixPartFile::open(*this, place); });
+    clearFolderOf(place);  // not before: its lock keeps an old part that is to be gone on with
+    return part;
+}
+
+void PosixFiles::Flush(std::string_view folder) {
+    const auto place = locate(folder);
+    const FileHandle handle(place, O_RDONLY | O_DIRECTORY);
+    // One call for all that lies there; asking for each file would cost a wait each.
+    if (syncfs(handle.get()) != 0) raiseFileError(place);
+}
+
 void PosixFiles::MakePrivateFile(std::string_view path) {
     const auto place = locate(path);
     if (PathExists(path)) return;
@@ -150,7 +172,10 @@ void PosixFiles::MakePrivateFile(std::string_view path) {
 }
 
 void PosixFiles::DeleteFile(std::string_view path) {
-    const auto place = locate(path);
+    remove(locate(path));
+}
+
+void PosixFiles::remove(const FilePlace& place) {
     names_.removing(place.System, [&] {
         if (unlink(place.System.c_str()) != 0) raiseFileError(place);
     });
@@ -168,7 +193,7 @@ void PosixFiles::MakeFolder(std::string_view path) {
 void PosixFiles::RemoveFolder(std::string_view path) {
     const auto place = locate(path);
     // Nobody sees them, so nobody can make the folder empty but us.
-    removeLeftoverParts(place.System);
+    removeLeftoverParts(place.System, std::chrono::hours{0});
     names_.removing(place.System, [&] {
         if (rmdir(place.System.c_str()) == 0) return;
         throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
@@ -190,6 +215,14 @@ std::string PosixFiles::realPath(std::string_view path) const {
     return names_.realPath(systemPath(path));
 }
 
+void PosixFiles::putInPlace(const FilePlace& part, const FileHandle& file, std::string_view path) {
+    const auto target = locate(path);
+    if (const auto permissions = permissionsToKeep(target)) setPermissions(file, *permissions, target);
+    names_.moving(part.System, target.System, [&] {
+        if (std::rename(part.System.c_str(), target.System.c_str()) != 0) raiseFileError(target);
+    });
+}
+
 FilePlace PosixFiles::locate(std::string_view path) const {
     return {std::string(path), realPath(path)};
 }
@@ -208,6 +241,11 @@ void PosixFiles::mayMake(const FilePlace& place, Operation&& operation) {
         operation();
     else
         names_.adding(place.System, operation);
+}
+
+void PosixFiles::clearFolderOf(const FilePlace& place) {
+    const auto folder = folderOf(place.System);
+    if (clearedFolders_.insert(folder).second) removeLeftoverParts(folder, leftOverAfter);
 }
 
 }  // namespace vell

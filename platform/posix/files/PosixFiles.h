@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "platform/Files.h"
+#include "platform/posix/files/FileHandle.h"
 #include "platform/posix/files/FolderNames.h"
 #include "platform/posix/files/fileErrors.h"
 
@@ -17,7 +18,7 @@ class PosixFiles : public Files {
     [[nodiscard]] bool PathExists(std::string_view path) const override;
     [[nodiscard]] std::optional<std::int64_t> FileSize(std::string_view path) const override;
     [[nodiscard]] std::optional<FileStamp> Stamp(std::string_view path) const override;
-    // Names on disk that code page 1253 cannot express are left out, as are the parts of unfinished writes.
+    // Names on disk that code page 1253 cannot express are left out.
     [[nodiscard]] std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern,
                                                Kind kind) const override;
     [[nodiscard]] std::string ReadFile(std::string_view path) const override;
@@ -26,6 +27,8 @@ class PosixFiles : public Files {
     void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override;
     void Append(std::string_view path, std::string_view bytes) override;
     [[nodiscard]] std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) override;
+    [[nodiscard]] std::unique_ptr<PartFile> OpenPart(std::string_view path) override;
+    void Flush(std::string_view folder) override;
     void MakePrivateFile(std::string_view path) override;
     void DeleteFile(std::string_view path) override;
     void MakeFolder(std::string_view path) override;
@@ -35,12 +38,17 @@ class PosixFiles : public Files {
     // The path in the system's form, of the file that is meant.
     [[nodiscard]] std::string realPath(std::string_view path) const;
 
+    // What a part that is whole, or of no use, does. Both raise.
+    void putInPlace(const FilePlace& part, const FileHandle& file, std::string_view path);
+    void remove(const FilePlace& place);
+
   private:
     [[nodiscard]] FilePlace locate(std::string_view path) const;
     // Nothing when the attributes cannot be read.
     [[nodiscard]] std::optional<struct stat> status(std::string_view path) const;
     template <class Operation>
     void mayMake(const FilePlace& place, Operation&& operation);
+    void clearFolderOf(const FilePlace& place);
 
     mutable FolderNames names_;
     std::unordered_set<std::string> clearedFolders_;  // of leftover parts

@@ -1,44 +1,28 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/files/WholeFile.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <optional>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "platform/posix/files/LeftoverParts.h"
 #include "platform/posix/files/paths.h"
+#include "platform/posix/files/replacing.h"
 
 namespace vell {
 
-namespace {
-
-constexpr mode_t permissionBits = 07777;
-
-// The permissions of the file that is to be replaced; nothing when there is none. Raises when it must not be written.
-std::optional<mode_t> permissionsOf(const FilePlace& target) {
-    struct stat status {};
-    if (stat(target.System.c_str(), &status) != 0) return std::nullopt;
-    // A folder or a device must not give way to a file.
-    if (!S_ISREG(status.st_mode)) throw fileError(EEXIST, target);
-    // Renaming asks for the folder's permission alone; a file that its owner has made read-only is meant to stay.
-    if (faccessat(AT_FDCWD, target.System.c_str(), W_OK, AT_EACCESS) != 0) raiseFileError(target);
-    return status.st_mode & permissionBits;
-}
-
-}  // namespace
-
 WholeFile::WholeFile(const FilePlace& target)
     : target_(target), part_{target.Text, joined(folderOf(target.System), newPartName())} {
-    const auto permissions = permissionsOf(target);
+    const auto permissions = permissionsToKeep(target);
     file_ = FileHandle(part_, O_WRONLY | O_CREAT | O_EXCL, permissions ? 0600 : 0666);
-    if (permissions && fchmod(file_.get(), *permissions) != 0) {
-        const auto error = fileError(errno, target);
+    try {
+        // Locked, it is not taken for left over. Nobody else can know its name yet.
+        (void)file_.tryLock();
+        if (permissions) setPermissions(file_, *permissions, target);
+    } catch (const RunTimeError&) {
         unlink(part_.System.c_str());
-        throw error;
+        throw;
     }
 }
 
@@ -48,8 +32,10 @@ WholeFile::~WholeFile() {
 
 void WholeFile::write(std::string_view bytes, Durability durability) {
     file_.writeAll(bytes, target_);
-    if (durability == Durability::Flushed) file_.flushToDisk(target_);
-    file_.close(target_);
+    if (durability == Durability::Flushed)
+        file_.flushToDisk(target_);
+    else
+        file_.reportLateErrors(target_);
 }
 
 void WholeFile::takePlace(Durability durability) {

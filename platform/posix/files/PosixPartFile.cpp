@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/files/PosixPartFile.h"
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "platform/posix/files/PosixFiles.h"
+
+namespace vell {
+
+namespace {
+
+struct stat statusOf(const FileHandle& file, const FilePlace& place) {
+    struct stat status {};
+    if (fstat(file.get(), &status) != 0) raiseFileError(place);
+    return status;
+}
+
+// Who had the lock before may have moved or removed what was opened meanwhile.
+bool isStillThere(const struct stat& opened, const FilePlace& place) {
+    struct stat now {};
+    return lstat(place.System.c_str(), &now) == 0 && now.st_ino == opened.st_ino && now.st_dev == opened.st_dev;
+}
+
+// A share of the other system's kind refuses to open what is in use there.
+bool isInUse(const RunTimeError& error) {
+    return error.LastSystemError == EBUSY || error.LastSystemError == ETXTBSY;
+}
+
+}  // namespace
+
+std::unique_ptr<PosixPartFile> PosixPartFile::open(PosixFiles& files, const FilePlace& place) {
+    try {
+        while (true) {
+            FileHandle file(place, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
+            const struct stat opened = statusOf(file, place);
+            if (!S_ISREG(opened.st_mode)) throw fileError(EEXIST, place);
+            if (!file.tryLock()) return nullptr;
+            if (isStillThere(opened, place)) return std::make_unique<PosixPartFile>(files, std::move(file), place);
+        }
+    } catch (const RunTimeError& error) {
+        if (isInUse(error)) return nullptr;
+        throw;
+    }
+}
+
+PosixPartFile::PosixPartFile(PosixFiles& files, FileHandle file, FilePlace place)
+    : files_(files), file_(std::move(file)), place_(std::move(place)), length_(statusOf(file_, place_).st_size) {}
+
+PosixPartFile::~PosixPartFile() {
+    try {
+        if (file_.isOpen() && length_ == 0) Discard();
+    } catch (const RunTimeError&) {
+        return;  // an empty part takes no harm, and goes with the left-over ones
+    }
+}
+
+std::string PosixPartFile::Beginning(std::size_t most) const {
+    std::string bytes(most, '\0');
+    const auto got = pread(file_.get(), bytes.data(), bytes.size(), 0);
+    if (got < 0) raiseFileError(place_);
+    bytes.resize(static_cast<std::size_t>(got));
+    return bytes;
+}
+
+void PosixPartFile::StartAt(std::int64_t offset) {
+    if (offset < 0 || offset > length_) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
+    if (ftruncate(file_.get(), offset) != 0) raiseFileError(place_);
+    length_ = offset;
+}
+
+void PosixPartFile::Write(std::string_view bytes) {
+    try {
+        file_.writeAllAt(length_, bytes, place_);
+    } catch (const RunTimeError&) {
+        StartAt(length_);  // without the piece that may have come through
+        throw;
+    }
+    length_ += static_cast<std::int64_t>(bytes.size());
+}
+
+void PosixPartFile::Close() {
+    if (file_.isOpen()) std::exchange(file_, FileHandle()).close(place_);
+}
+
+void PosixPartFile::MoveTo(std::string_view path) {
+    file_.reportLateErrors(place_);
+    files_.putInPlace(place_, file_, path);
+    Close();
+}
+
+void PosixPartFile::Discard() {
+    files_.remove(place_);
+    Close();
+}
+
+}  // namespace vell
