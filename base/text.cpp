@@ -158,17 +158,26 @@ std::string_view leadingNumber(std::string_view text) {
     return text.substr(0, i);
 }
 
-double numberOf(std::string_view text) {
+// Nothing when the number is beyond the type's range.
+std::optional<double> numberOf(std::string_view text) {
     if (text.starts_with('+')) text.remove_prefix(1);
     double value = 0;
     const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (problem == std::errc::result_out_of_range) throw RunTimeError(error_number::Overflow, "Overflow");
-    return value;
+    return problem == std::errc::result_out_of_range ? std::nullopt : std::optional(value);
+}
+
+double nearestTo(std::string_view outOfRange) {
+    using Limits = std::numeric_limits<double>;
+    const auto exponent = outOfRange.find_first_of("eE");
+    if (exponent != std::string_view::npos && outOfRange[exponent + 1] == '-') return 0;
+    return outOfRange.starts_with('-') ? Limits::lowest() : Limits::max();
 }
 
 double wholeNumber(std::string_view text) {
     if (!isNumeric(text)) throw RunTimeError(error_number::TypeMismatch, "Type mismatch");
-    return numberOf(Trim(text));
+    const auto value = numberOf(Trim(text));
+    if (!value) throw RunTimeError(error_number::Overflow, "Overflow");
+    return *value;
 }
 
 template <class Int>
@@ -265,7 +274,9 @@ std::vector<std::string_view> Split(std::string_view text, std::string_view sepa
 double Val(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const auto number = leadingNumber(text);
-    return number.empty() ? 0 : numberOf(number);
+    if (number.empty()) return 0;
+    const auto value = numberOf(number);
+    return value ? *value : nearestTo(number);
 }
 
 bool isNumeric(std::string_view text) {

@@ -36,7 +36,8 @@ namespace vell {
 // The pieces point into `text`. An empty text has no pieces.
 [[nodiscard]] std::vector<std::string_view> Split(std::string_view text, std::string_view separator);
 
-// The number that a text begins with, leading blanks skipped; 0 when it begins with none. The decimal point is ".".
+// The number that a text begins with, leading blanks skipped; 0 when it begins with none. The decimal point is ".". A
+// number too large for the type becomes the largest.
 [[nodiscard]] double Val(std::string_view text);
 // Rounds half to even. Raises error 6 "Overflow" outside the type's range.
 [[nodiscard]] std::int16_t CInt16(double value);

@@ -14,8 +14,14 @@ namespace vell {
 
 namespace {
 
-std::string keyOf(SetupField field) {
-    return std::string(frmSetup::rowOf(field).Key);
+std::string keyOf(const SettingRow& row) {
+    return std::string(row.Key);
+}
+
+const SettingRow* rowWithKey(std::string_view key) {
+    for (const SettingRow& row : setupRows())
+        if (equalNoCase(row.Key, key)) return &row;
+    return nullptr;
 }
 
 bool isFullPath(std::string_view path) {
@@ -23,19 +29,11 @@ bool isFullPath(std::string_view path) {
 }
 
 // What is wrong with a value before the dialog's own checks see it; empty when nothing is.
-std::string mistakeIn(SetupField field, std::string_view value) {
-    switch (frmSetup::rowOf(field).Kind) {
-        case SetupKind::Flag:
-            return value == "0" || value == "1" ? "" : keyOf(field) + " takes 0 or 1.";
-        case SetupKind::Protocol:
-            return value == "HTTP" || value == "FTP" ? "" : "Protocol takes HTTP or FTP.";
-        case SetupKind::Number:
-            return isNumeric(value) ? "" : keyOf(field) + " takes a number.";
-        case SetupKind::Text:
-        case SetupKind::Password:
-            break;
-    }
-    if (field == SetupField::LocalDir && !isFullPath(value))
+std::string mistakeIn(const SettingRow& row, std::string_view value) {
+    if (isFlag(row) && value != "0" && value != "1") return keyOf(row) + " takes 0 or 1.";
+    if (isNumber(row) && !isNumeric(value)) return keyOf(row) + " takes a number.";
+    if (row.Kind == SettingKind::Protocol && value != "HTTP" && value != "FTP") return "Protocol takes HTTP or FTP.";
+    if (row.Kind == SettingKind::Folder && !isFullPath(value))
         return "LocalDir takes a full path, such as /home/ann/clippings.";
     return {};
 }
@@ -52,62 +50,62 @@ int SetupCommand::run(const CommandLine& line) {
         showAll();
         return exit_code::Good;
     }
-    const auto field = frmSetup::fieldOf(*line.Key);
-    if (!field) return wrong("There is no setting '" + *line.Key + "'. 'vell-console setup' shows them all.");
-    if (line.Value) return change(*field, *line.Value);
-    screen_.print(shown(*field));
+    const SettingRow* row = rowWithKey(*line.Key);
+    if (row == nullptr) return wrong("There is no setting '" + *line.Key + "'. 'vell-console setup' shows them all.");
+    if (line.Value) return change(*row, *line.Value);
+    screen_.print(shown(*row));
     return exit_code::Good;
 }
 
-int SetupCommand::change(SetupField field, const std::string& value) {
-    const auto wanted = valueOf(field, value);
-    if (!wanted) return wrong("The value of " + keyOf(field) + " has a character that is neither Latin nor Greek.");
-    if (const std::string mistake = mistakeIn(field, *wanted); !mistake.empty()) return wrong(mistake);
-    dialog_.setEntry(field, *wanted);
-    dialog_.normalise(field);
-    if (const auto problem = dialog_.problemOf(field)) return wrong(utf8FromCodePage(problem->Message));
-    if (const auto problem = dialog_.saveOnly(field)) {
+int SetupCommand::change(const SettingRow& row, const std::string& value) {
+    const auto wanted = valueOf(row, value);
+    if (!wanted) return wrong("The value of " + keyOf(row) + " has a character that is neither Latin nor Greek.");
+    if (const std::string mistake = mistakeIn(row, *wanted); !mistake.empty()) return wrong(mistake);
+    dialog_.setEntry(row.Field, *wanted);
+    dialog_.normalise(row.Field);
+    if (const auto problem = dialog_.problemOf(row.Field)) return wrong(utf8FromCodePage(problem->Message));
+    if (const auto problem = dialog_.saveOnly(row.Field)) {
         tell(utf8FromCodePage(problem->Message));
         return exit_code::Failed;
     }
-    const std::string saved = dialog_.entry(field);
+    const std::string saved = dialog_.entry(row.Field);
     dialog_.Form_Load();
     if (!dialog_.isWhole()) {
-        screen_.print(keyOf(field) + " was saved.");
+        screen_.print(keyOf(row) + " was saved.");
         tell(std::string(damagedSettings));
         return exit_code::Good;
     }
-    screen_.print(keyOf(field) + " = " + shown(field));
-    if (dialog_.entry(field) != saved) tell("Of the value given, only this much takes effect: " + shown(field));
+    screen_.print(keyOf(row) + " = " + shown(row));
+    if (dialog_.entry(row.Field) != saved) tell("Of the value given, only this much takes effect: " + shown(row));
     return exit_code::Good;
 }
 
-std::optional<std::string> SetupCommand::valueOf(SetupField field, const std::string& utf8) {
+std::optional<std::string> SetupCommand::valueOf(const SettingRow& row, const std::string& utf8) {
     std::string typed = utf8;
     if (typed == "-") {
-        const bool secret = frmSetup::rowOf(field).Kind == SetupKind::Password;
+        const bool secret = row.Kind == SettingKind::Password;
         if (terminal_.canAsk())
-            typed = boxes_.askForLine(keyOf(field) + ": ", secret).value_or("");
+            typed = boxes_.askForLine(keyOf(row) + ": ", secret).value_or("");
         else
             typed = terminal_.ReadLine().value_or("");
     }
     auto value = codePageFromUtf8(typed);
     if (!value) return std::nullopt;
-    if (frmSetup::rowOf(field).Kind == SetupKind::Protocol) *value = Upper(*value);
-    if (field == SetupField::LocalDir)
+    if (row.Kind == SettingKind::Protocol) *value = Upper(*value);
+    if (row.Kind == SettingKind::Folder)
         while (value->size() > 1 && (value->back() == '/' || value->back() == '\\'))
             value->pop_back();
     return value;
 }
 
-std::string SetupCommand::shown(SetupField field) const {
-    if (frmSetup::rowOf(field).Kind == SetupKind::Password) return dialog_.entry(field).empty() ? "(not set)" : "(set)";
-    return shownText(dialog_.entry(field));
+std::string SetupCommand::shown(const SettingRow& row) const {
+    if (row.Kind == SettingKind::Password) return dialog_.entry(row.Field).empty() ? "(not set)" : "(set)";
+    return shownText(dialog_.entry(row.Field));
 }
 
 void SetupCommand::showAll() {
-    for (const SetupRow& row : frmSetup::rows()) {
-        const std::string setting = std::string(row.Key) + " = " + shown(row.Field);
+    for (const SettingRow& row : setupRows()) {
+        const std::string setting = std::string(row.Key) + " = " + shown(row);
         constexpr std::size_t meaningColumn = 40;
         const std::size_t width = columns(setting);
         screen_.print(setting + std::string(width < meaningColumn ? meaningColumn - width : 2, ' ') + "# " +
@@ -118,14 +116,14 @@ void SetupCommand::showAll() {
 
 void SetupCommand::askForLogin() {
     dialog_.Form_Load();
-    const auto user = boxes_.askForLine("User name [" + dialog_.entry(SetupField::Uid) + "]: ", false);
+    const auto user = boxes_.askForLine("User name [" + dialog_.entry(&Settings::Uid) + "]: ", false);
     if (!user) {
         screen_.tell("Change them with 'vell-console setup Uid NAME' and 'vell-console setup Pwd -'.");
         return;
     }
-    if (!user->empty()) (void)change(SetupField::Uid, *user);
+    if (!user->empty()) (void)change(rowOf(&Settings::Uid), *user);
     const auto password = boxes_.askForLine("Password: ", true);
-    if (password && !password->empty()) (void)change(SetupField::Pwd, *password);
+    if (password && !password->empty()) (void)change(rowOf(&Settings::Pwd), *password);
 }
 
 int SetupCommand::wrong(const std::string& message) {

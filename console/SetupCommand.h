@@ -30,9 +30,9 @@ class SetupCommand {
     void askForLogin();
 
   private:
-    [[nodiscard]] int change(SetupField field, const std::string& value);
-    [[nodiscard]] std::optional<std::string> valueOf(SetupField field, const std::string& utf8);
-    [[nodiscard]] std::string shown(SetupField field) const;
+    [[nodiscard]] int change(const SettingRow& row, const std::string& value);
+    [[nodiscard]] std::optional<std::string> valueOf(const SettingRow& row, const std::string& utf8);
+    [[nodiscard]] std::string shown(const SettingRow& row) const;
     void showAll();
     [[nodiscard]] int wrong(const std::string& message);
     void tell(const std::string& utf8);

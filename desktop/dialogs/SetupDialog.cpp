@@ -46,8 +46,9 @@ wxArrayString shownLines(std::span<const std::string_view> texts) {
 }
 
 // These become plain numbers while they are typed, the other numbers when the user leaves them.
-bool isNormalisedWhileTyped(SetupField field) {
-    return field == SetupField::Port || field == SetupField::TimeOut || field == SetupField::PrintAllDelay;
+bool isNormalisedWhileTyped(const SettingField& field) {
+    constexpr std::array<SettingField, 3> fields{&Settings::Port, &Settings::TimeOut, &Settings::PrintAllDelay};
+    return std::ranges::find(fields, field) != fields.end();
 }
 
 }  // namespace
@@ -80,11 +81,11 @@ wxWindow* SetupDialog::generalPage(wxWindow* parent) {
     auto* page = new wxPanel(parent);
     auto* grid = entryGrid(*page);
     addFolder(page, *grid);
-    addText(page, *grid, SetupField::AutoPlayDelay, "&Auto play delay (seconds):");
-    addText(page, *grid, SetupField::PrintAllDelay, "Print a&ll delay (seconds):");
+    addText(page, *grid, &Settings::AutoPlayDelay, "&Auto play delay (seconds):");
+    addText(page, *grid, &Settings::PrintAllDelay, "Print a&ll delay (seconds):");
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(grid, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
-    addBox(page, *content, SetupField::PrintOnDownload, "&Print clippings when they are downloaded");
+    addBox(page, *content, &Settings::PrintOnDownload, "&Print clippings when they are downloaded");
     return finishPage(page, content);
 }
 
@@ -92,30 +93,30 @@ wxWindow* SetupDialog::connectionPage(wxWindow* parent, const std::vector<std::s
     auto* page = new wxPanel(parent);
     auto* grid = entryGrid(*page);
     addProtocol(page, *grid);
-    addCombo(page, *grid, SetupField::Host, "&Host:", shownLines(frmSetup::hosts()));
-    addText(page, *grid, SetupField::Port, "Po&rt:");
-    addText(page, *grid, SetupField::Uid, "&User name:");
-    addText(page, *grid, SetupField::Pwd, "&Password:");
-    addText(page, *grid, SetupField::RetryOnFailure, "Number of re&tries:");
-    addText(page, *grid, SetupField::RetryDelay, "Retr&y delay (seconds):");
-    addText(page, *grid, SetupField::TimeOut, "Ti&me-out (seconds):");
-    addText(page, *grid, SetupField::ProxyUsername, "Pro&xy user name:");
-    addText(page, *grid, SetupField::ProxyPwd, "Prox&y password:");
+    addCombo(page, *grid, &Settings::Host, "&Host:", shownLines(frmSetup::hosts()));
+    addText(page, *grid, &Settings::Port, "Po&rt:");
+    addText(page, *grid, &Settings::Uid, "&User name:");
+    addText(page, *grid, &Settings::Pwd, "&Password:");
+    addText(page, *grid, &Settings::RetryOnFailure, "Number of re&tries:");
+    addText(page, *grid, &Settings::RetryDelay, "Retr&y delay (seconds):");
+    addText(page, *grid, &Settings::TimeOut, "Ti&me-out (seconds):");
+    addText(page, *grid, &Settings::proxyUsername, "Pro&xy user name:");
+    addText(page, *grid, &Settings::proxyPwd, "Prox&y password:");
     const std::vector<std::string_view> names(dialUps.begin(), dialUps.end());
-    addCombo(page, *grid, SetupField::Dialup, "&Dial-up connection:", shownLines(names));
+    addCombo(page, *grid, &Settings::DialUp, "&Dial-up connection:", shownLines(names));
     auto* content = new wxBoxSizer(wxVERTICAL);
     content->Add(grid, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
-    addBox(page, *content, SetupField::Passive, "Passi&ve FTP");
-    addBox(page, *content, SetupField::CloseConnection, "&Close the connection after a download");
+    addBox(page, *content, &Settings::Passive, "Passi&ve FTP");
+    addBox(page, *content, &Settings::CloseConnection, "&Close the connection after a download");
     return finishPage(page, content);
 }
 
 wxWindow* SetupDialog::autoUpdatePage(wxWindow* parent) {
     auto* page = new wxPanel(parent);
     auto* content = new wxBoxSizer(wxVERTICAL);
-    addBox(page, *content, SetupField::AutoUpdateCheck, "&Look for a newer version after each download");
-    addBox(page, *content, SetupField::AutoUpdateServer, "&Fetch updates for the other computers, too");
-    addBox(page, *content, SetupField::AutoUpdateNotify, "&Tell me of a newer version");
+    addBox(page, *content, &Settings::AutoUpdateCheck, "&Look for a newer version after each download");
+    addBox(page, *content, &Settings::AutoUpdateServer, "&Fetch updates for the other computers, too");
+    addBox(page, *content, &Settings::AutoUpdateNotify, "&Tell me of a newer version");
     return finishPage(page, content);
 }
 
@@ -124,7 +125,7 @@ void SetupDialog::addProtocol(wxWindow* page, wxFlexGridSizer& sizer) {
     auto* label = new wxStaticText(page, wxID_ANY, "Protocol:");
     http_ = new wxRadioButton(page, wxID_ANY, "HTTP", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
     ftp_ = new wxRadioButton(page, wxID_ANY, "FTP");
-    (rules_.entry(SetupField::Protocol) == "FTP" ? ftp_ : http_)->SetValue(true);
+    (rules_.entry(&Settings::Protocol) == "FTP" ? ftp_ : http_)->SetValue(true);
     http_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { chooseProtocol("HTTP"); });
     ftp_->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent& /*event*/) { chooseProtocol("FTP"); });
     choice->Add(http_, wxSizerFlags().Border(wxRIGHT, FromDIP(16)));
@@ -135,24 +136,24 @@ void SetupDialog::addProtocol(wxWindow* page, wxFlexGridSizer& sizer) {
 
 void SetupDialog::addFolder(wxWindow* page, wxFlexGridSizer& sizer) {
     auto* label = new wxStaticText(page, wxID_ANY, "&Download folder:");
-    auto* text = new wxTextCtrl(page, wxID_ANY, shownLine(rules_.entry(SetupField::LocalDir)));
+    auto* text = new wxTextCtrl(page, wxID_ANY, shownLine(rules_.entry(&Settings::LocalDir)));
     auto* cmdSelDirectory = new wxButton(page, wxID_ANY, "&Browse...", wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     row->Add(text, wxSizerFlags(1).CentreVertical().Border(wxRIGHT));
     row->Add(cmdSelDirectory, wxSizerFlags().CentreVertical());
     sizer.Add(label, wxSizerFlags().CentreVertical());
     sizer.Add(row, wxSizerFlags().Expand());
-    keepText(SetupField::LocalDir, label, text, text);
+    keepText(&Settings::LocalDir, label, text, text);
     cmdSelDirectory->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { chooseFolder(); }); });
 }
 
-void SetupDialog::addText(wxWindow* page, wxFlexGridSizer& sizer, SetupField field, const wxString& label) {
-    const SetupKind kind = frmSetup::rowOf(field).Kind;
+void SetupDialog::addText(wxWindow* page, wxFlexGridSizer& sizer, const SettingField& field, const wxString& label) {
+    const SettingRow& row = rowOf(field);
     auto* caption = new wxStaticText(page, wxID_ANY, label);
     auto* text = new wxTextCtrl(page, wxID_ANY, shownLine(rules_.entry(field)), wxDefaultPosition, wxDefaultSize,
-                                kind == SetupKind::Password ? wxTE_PASSWORD : 0);
+                                row.Kind == SettingKind::Password ? wxTE_PASSWORD : 0);
     wxSizerFlags flags = wxSizerFlags().CentreVertical();
-    if (kind == SetupKind::Number)
+    if (isNumber(row))
         text->SetInitialSize(text->GetSizeFromTextSize(text->GetTextExtent("0000000")));
     else
         flags.Expand();
@@ -161,7 +162,7 @@ void SetupDialog::addText(wxWindow* page, wxFlexGridSizer& sizer, SetupField fie
     keepText(field, caption, text, text);
 }
 
-void SetupDialog::addCombo(wxWindow* page, wxFlexGridSizer& sizer, SetupField field, const wxString& label,
+void SetupDialog::addCombo(wxWindow* page, wxFlexGridSizer& sizer, const SettingField& field, const wxString& label,
                            const wxArrayString& offered) {
     auto* caption = new wxStaticText(page, wxID_ANY, label);
     auto* combo = new wxComboBox(page, wxID_ANY, shownLine(rules_.entry(field)), wxDefaultPosition, wxDefaultSize,
@@ -172,9 +173,9 @@ void SetupDialog::addCombo(wxWindow* page, wxFlexGridSizer& sizer, SetupField fi
     keepText(field, caption, combo, combo);
 }
 
-void SetupDialog::keepText(SetupField field, wxWindow* label, wxWindow* control, wxTextEntry* text) {
+void SetupDialog::keepText(const SettingField& field, wxWindow* label, wxWindow* control, wxTextEntry* text) {
     setAccessibleName(*control, wxControl::RemoveMnemonics(label->GetLabel()).BeforeFirst(':'));
-    entries_[field] = {control, text, nullptr, label, static_cast<int>(pages_->GetPageCount())};
+    entries_[&rowOf(field)] = {control, text, nullptr, label, static_cast<int>(pages_->GetPageCount())};
     control->Bind(wxEVT_TEXT, [this, field](wxCommandEvent& /*event*/) { typed(field); });
     control->Bind(wxEVT_KILL_FOCUS, [this, field](wxFocusEvent& event) {
         event.Skip();
@@ -182,35 +183,35 @@ void SetupDialog::keepText(SetupField field, wxWindow* label, wxWindow* control,
     });
 }
 
-void SetupDialog::addBox(wxWindow* page, wxSizer& sizer, SetupField field, const wxString& label) {
+void SetupDialog::addBox(wxWindow* page, wxSizer& sizer, const SettingField& field, const wxString& label) {
     auto* box = new wxCheckBox(page, wxID_ANY, label);
     box->SetValue(rules_.entry(field) == "1");
     box->Bind(wxEVT_CHECKBOX,
               [this, field](wxCommandEvent& event) { rules_.setEntry(field, event.IsChecked() ? "1" : "0"); });
     sizer.Add(box, wxSizerFlags().Border(wxBOTTOM));
-    entries_[field] = {box, nullptr, box, nullptr, static_cast<int>(pages_->GetPageCount())};
+    entries_[&rowOf(field)] = {box, nullptr, box, nullptr, static_cast<int>(pages_->GetPageCount())};
 }
 
-void SetupDialog::typed(SetupField field) {
-    rules_.setEntry(field, typedText(entries_.at(field).Text->GetValue()));
+void SetupDialog::typed(const SettingField& field) {
+    rules_.setEntry(field, typedText(entryOf(field).Text->GetValue()));
     if (isNormalisedWhileTyped(field)) normalise(field);
 }
 
-void SetupDialog::left(SetupField field) {
+void SetupDialog::left(const SettingField& field) {
     if (!isNormalisedWhileTyped(field)) normalise(field);
 }
 
-void SetupDialog::normalise(SetupField field) {
+void SetupDialog::normalise(const SettingField& field) {
     rules_.normalise(field);
-    wxTextEntry& text = *entries_.at(field).Text;
+    wxTextEntry& text = *entryOf(field).Text;
     const wxString plain = shownLine(rules_.entry(field));
-    if (frmSetup::rowOf(field).Kind != SetupKind::Number || text.GetValue() == plain) return;
+    if (!isNumber(rowOf(field)) || text.GetValue() == plain) return;
     text.ChangeValue(plain);
     text.SetInsertionPointEnd();
 }
 
 void SetupDialog::chooseFolder() {
-    wxTextEntry& text = *entries_.at(SetupField::LocalDir).Text;
+    wxTextEntry& text = *entryOf(&Settings::LocalDir).Text;
     const wxString start = text.GetValue().empty() ? wxString("c:\\") : text.GetValue();
     wxDirDialog browser(this, "Select Download Folder", start);
     const wxString chosen = browser.ShowModal() == wxID_OK ? browser.GetPath() : wxString();
@@ -219,20 +220,20 @@ void SetupDialog::chooseFolder() {
 }
 
 void SetupDialog::chooseProtocol(const std::string& protocol) {
-    rules_.setEntry(SetupField::Protocol, protocol);
+    rules_.setEntry(&Settings::Protocol, protocol);
     showEnabled();
 }
 
 void SetupDialog::showEnabled() {
-    for (const auto& [field, entry] : entries_) {
-        entry.Control->Enable(rules_.isEnabled(field));
-        if (entry.Label) entry.Label->Enable(rules_.isEnabled(field));
+    for (const auto& [row, entry] : entries_) {
+        entry.Control->Enable(rules_.isEnabled(row->Field));
+        if (entry.Label) entry.Label->Enable(rules_.isEnabled(row->Field));
     }
 }
 
 void SetupDialog::ok() {
-    for (const auto& [field, entry] : entries_)
-        if (entry.Text) left(field);
+    for (const auto& [row, entry] : entries_)
+        if (entry.Text) left(row->Field);
     if (!isExpressible()) return;
     if (const auto problem = rules_.cmdOk_Click())
         complain(problem->Message, problem->Field);
@@ -242,18 +243,18 @@ void SetupDialog::ok() {
 
 // A name that the code page cannot hold would be stored as another one.
 bool SetupDialog::isExpressible() {
-    for (const auto& [field, entry] : entries_) {
+    for (const auto& [row, entry] : entries_) {
         if (!entry.Text || codePageFromUtf8(entry.Text->GetValue().utf8_string())) continue;
-        complain("Error! There is a character that is neither Latin nor Greek", field);
+        complain("Error! There is a character that is neither Latin nor Greek", row->Field);
         return false;
     }
     return true;
 }
 
-void SetupDialog::complain(const std::string& message, SetupField field) {
+void SetupDialog::complain(const std::string& message, const SettingField& field) {
     boxes_.Show(message, programCaption, Buttons::Ok, BoxIcon::None);
-    pages_->SetSelection(static_cast<std::size_t>(entries_.at(field).Page));
-    entries_.at(field).Control->SetFocus();
+    pages_->SetSelection(static_cast<std::size_t>(entryOf(field).Page));
+    entryOf(field).Control->SetFocus();
 }
 
 }  // namespace vell

@@ -42,28 +42,29 @@ class SetupDialog : public wxDialog {
     [[nodiscard]] wxWindow* autoUpdatePage(wxWindow* parent);
     void addProtocol(wxWindow* page, wxFlexGridSizer& sizer);
     void addFolder(wxWindow* page, wxFlexGridSizer& sizer);
-    void addText(wxWindow* page, wxFlexGridSizer& sizer, SetupField field, const wxString& label);
-    void addCombo(wxWindow* page, wxFlexGridSizer& sizer, SetupField field, const wxString& label,
+    void addText(wxWindow* page, wxFlexGridSizer& sizer, const SettingField& field, const wxString& label);
+    void addCombo(wxWindow* page, wxFlexGridSizer& sizer, const SettingField& field, const wxString& label,
                   const wxArrayString& offered);
-    void addBox(wxWindow* page, wxSizer& sizer, SetupField field, const wxString& label);
-    void keepText(SetupField field, wxWindow* label, wxWindow* control, wxTextEntry* text);
+    void addBox(wxWindow* page, wxSizer& sizer, const SettingField& field, const wxString& label);
+    void keepText(const SettingField& field, wxWindow* label, wxWindow* control, wxTextEntry* text);
 
-    void typed(SetupField field);
-    void left(SetupField field);
-    void normalise(SetupField field);
+    [[nodiscard]] Entry& entryOf(const SettingField& field) { return entries_.at(&rowOf(field)); }
+    void typed(const SettingField& field);
+    void left(const SettingField& field);
+    void normalise(const SettingField& field);
     void chooseFolder();
     void chooseProtocol(const std::string& protocol);
     void showEnabled();
     void ok();
     [[nodiscard]] bool isExpressible();
-    void complain(const std::string& message, SetupField field);
+    void complain(const std::string& message, const SettingField& field);
 
     frmSetup rules_;
     MessageBoxes& boxes_;
     wxNotebook* pages_ = nullptr;
     wxRadioButton* http_ = nullptr;
     wxRadioButton* ftp_ = nullptr;
-    std::map<SetupField, Entry> entries_;
+    std::map<const SettingRow*, Entry> entries_;
 };
 
 }  // namespace vell

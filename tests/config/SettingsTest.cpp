@@ -7,8 +7,6 @@
 
 namespace vell::test {
 
-using enum SetupField;
-
 class SettingsTest : public testing::Test, protected SettingsRig {
   protected:
     // The fields that are not as in a program without settings.
@@ -38,8 +36,9 @@ class SettingsTest : public testing::Test, protected SettingsRig {
         loader.GetSetup();
     }
     void fillIn(std::initializer_list<const char*> entries) {
-        for (std::size_t i = 0; i < setupFieldCount; ++i)
-            dialog.setEntry(SetupField{i}, entries.begin()[i]);
+        const char* const* entry = entries.begin();
+        for (const SettingRow& row : setupRows())
+            dialog.setEntry(row.Field, *entry++);
     }
     std::string scrambled(std::string_view clear) {
         std::string key;
@@ -88,32 +87,38 @@ TEST_F(SettingsTest, aDamagedPasswordEndsTheLoadWhereItStands) {
 
 TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAreRight) {
     const struct {
-        SetupField field;
+        SettingField field;
         std::vector<std::string> wrong;
         std::string message, right;
     } steps[] = {
-        {Host, {"", "   "}, "Host not specified", "h"},
-        {Port, {"", " "}, "Port not specified", "0"},
-        {Uid, {" "}, "Username not specified", "u"},
-        {Pwd, {"", " "}, "Password not specified", "p"},
-        {RetryOnFailure, {"", "0", "-1", "abc", "0.5"}, "Number of retries not specified", "12"},
-        {RetryDelay, {" ", "0", "abc"}, "Retry delay not specified", "50"},
-        {RetryDelay, {"50", "49.5", "999999"}, "Retry delay value set too high", "49"},
-        {AutoPlayDelay, {"", "0"}, "Auto play delay not specified", "50"},
-        {AutoPlayDelay, {"50"}, "Auto play delay set too high", "1"},
-        {TimeOut, {"", "-5"}, "Timeout not specified", "500"},
-        {PrintAllDelay, {"", "0"}, "Print All delay not specified", "50"},
-        {PrintAllDelay, {"50"}, "Print All delay set too high", "49"},
-        {Uid, {"a\r\n[x]", "a\tb"}, "Uid must be one line without control characters", "u"},  // the file could not
-        {ProxyPwd, {std::string(167, 'p')}, "proxyPwd is too long", std::string(166, 'p')},   // give these back
-        {LocalDir, {std::string(250, 'd')}, "LocalDir is too long", std::string(249, 'd')},
+        {&Settings::Host, {"", "   "}, "Host not specified", "h"},
+        {&Settings::Port, {"", " "}, "Port not specified", "0"},
+        {&Settings::Uid, {" "}, "Username not specified", "u"},
+        {&Settings::Pwd, {"", " "}, "Password not specified", "p"},
+        {&Settings::RetryOnFailure, {"", "0", "-1", "abc", "0.5"}, "Number of retries not specified", "12"},
+        {&Settings::RetryDelay, {" ", "0", "abc"}, "Retry delay not specified", "50"},
+        {&Settings::RetryDelay, {"50", "49.5", "999999"}, "Retry delay value set too high", "49"},
+        {&Settings::AutoPlayDelay, {"", "0"}, "Auto play delay not specified", "50"},
+        {&Settings::AutoPlayDelay, {"50"}, "Auto play delay set too high", "1"},
+        {&Settings::TimeOut, {"", "-5"}, "Timeout not specified", "500"},
+        {&Settings::PrintAllDelay, {"", "0"}, "Print All delay not specified", "50"},
+        {&Settings::PrintAllDelay, {"50"}, "Print All delay set too high", "49"},
+        {&Settings::Uid,
+         {"a\r\n[x]", "a\tb"},
+         "Uid must be one line without control characters",
+         "u"},  // the file could not
+        {&Settings::proxyPwd,
+         {std::string(167, 'p')},
+         "proxyPwd is too long",
+         std::string(166, 'p')},  // give these back
+        {&Settings::LocalDir, {std::string(250, 'd')}, "LocalDir is too long", std::string(249, 'd')},
     };
     for (const auto& step : steps)
         dialog.setEntry(step.field, step.wrong.back());
     for (const auto& step : steps) {
         for (const std::string& wrong : step.wrong) {
             dialog.setEntry(step.field, wrong);
-            const auto problem = dialog.cmdOk_Click().value_or(SetupProblem{Count, "none"});
+            const auto problem = dialog.cmdOk_Click().value_or(SetupProblem{{}, "none"});
             EXPECT_TRUE(problem.Message == "Error! " + step.message && problem.Field == step.field) << problem.Message;
         }
         dialog.setEntry(step.field, step.right);
@@ -125,8 +130,8 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
 
 TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
     folder.put("vell.ini", "; mine\r\n[General]\r\nDebug=2\r\n");
-    fillIn({"FTP",    "service.example", "2121", "ann", "3", "49", "99", "1", "p\xE1", "proxy",
-            "/clips", "Modem",           "1",    "0",   "0", "1",  "1",  "7", "1",     "sec ret"});
+    fillIn({"FTP",     "service.example", "2121",  "ann", "3", "49", "99", "1", "p\xE1", "proxy",
+            "sec ret", "/clips",          "Modem", "1",   "0", "0",  "1",  "1", "7",     "1"});
     ASSERT_FALSE(dialog.cmdOk_Click().has_value());
     EXPECT_EQ(folder.get("vell.ini"),
               "; mine\r\n[General]\r\nDebug=2\r\nAutoPlayDelay=7\r\nPrintAllDelay=1\r\n"
@@ -137,23 +142,24 @@ TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
                   "AutoUpdateCheck=0\r\nAutoUpdateServer=1\r\nAutoUpdateNotify=1\r\n");
     frmSetup again(setup, loader, ini, log);
     again.Form_Load();
-    for (const SetupRow& row : frmSetup::rows())
-        EXPECT_EQ(again.entry(row.Field), row.Field == Passive ? "0" : dialog.entry(row.Field)) << row.Key;
+    for (const SettingRow& row : setupRows())
+        EXPECT_EQ(again.entry(row.Field), row.Key == "Passive" ? "0" : dialog.entry(row.Field)) << row.Key;
 }
 
 TEST_F(SettingsTest, theDialogChangesTheSettingsAtOnceOnlyUntilItIsClosed) {
     load("[Host]\r\nProtocol=HTTP\r\n");
     dialog.Form_Load();
-    EXPECT_FALSE(dialog.isEnabled(Port) || dialog.isEnabled(TimeOut) || dialog.isEnabled(Passive));
-    dialog.setEntry(Protocol, "FTP");
-    EXPECT_TRUE(dialog.isEnabled(Port) && !setup.UseHTTP);
+    EXPECT_FALSE(dialog.isEnabled(&Settings::Port) || dialog.isEnabled(&Settings::TimeOut) ||
+                 dialog.isEnabled(&Settings::Passive));
+    dialog.setEntry(&Settings::Protocol, "FTP");
+    EXPECT_TRUE(dialog.isEnabled(&Settings::Port) && !setup.UseHTTP);
     dialog.Form_Unload();
     EXPECT_TRUE(setup.UseHTTP);
-    dialog.setEntry(RetryDelay, " 7.50x");
-    dialog.setEntry(Pwd, "007");
-    dialog.normalise(RetryDelay);
-    dialog.normalise(Pwd);
-    EXPECT_EQ(dialog.entry(RetryDelay) + dialog.entry(Pwd), "7.5007");
+    dialog.setEntry(&Settings::RetryDelay, " 7.50x");
+    dialog.setEntry(&Settings::Pwd, "007");
+    dialog.normalise(&Settings::RetryDelay);
+    dialog.normalise(&Settings::Pwd);
+    EXPECT_EQ(dialog.entry(&Settings::RetryDelay) + dialog.entry(&Settings::Pwd), "7.5007");
 }
 
 }  // namespace vell::test
