@@ -10,8 +10,8 @@
 #include <asio/steady_timer.hpp>
 #include <asio/use_awaitable.hpp>
 
-#include "demo/FtpSession.h"
-#include "demo/HttpSession.h"
+#include "demo/ftp/FtpSession.h"
+#include "demo/http/HttpSession.h"
 
 namespace vell::demo {
 

@@ -8,12 +8,12 @@
 #include <asio/io_context.hpp>
 #include <asio/ip/tcp.hpp>
 
-#include "demo/ClippingsTree.h"
-#include "demo/FtpTree.h"
-#include "demo/HttpSite.h"
 #include "demo/Journal.h"
 #include "demo/Options.h"
 #include "demo/SlowLine.h"
+#include "demo/days/ClippingsTree.h"
+#include "demo/ftp/FtpTree.h"
+#include "demo/http/HttpSite.h"
 
 namespace vell::demo {
 

@@ -21,6 +21,7 @@ enum class ListForm { Unix, Dos };
 // What the command line asks for.
 struct Options {
     std::filesystem::path Root;
+    std::filesystem::path Samples;  // empty: those that came with the program
     Endpoint Http;
     Endpoint Ftp;
     std::filesystem::path ReadyFile;              // empty: none is written

@@ -10,10 +10,10 @@
 #include <asio/signal_set.hpp>
 #include <asio/steady_timer.hpp>
 
-#include "demo/ClippingsTree.h"
 #include "demo/DemoService.h"
 #include "demo/Options.h"
-#include "demo/SampleDays.h"
+#include "demo/days/ClippingsTree.h"
+#include "demo/days/SampleDays.h"
 
 namespace vell::demo {
 
@@ -47,11 +47,16 @@ void introduce(const ClippingsTree& tree, const DemoService& service) {
     std::cout << "HTTP  " << service.http().text() << "\nFTP   " << service.ftp().text() << std::endl;
 }
 
-void prepare(const std::filesystem::path& root) {
+void prepare(const Options& options) {
+    const auto samples = options.Samples.empty() ? installedSamples() : options.Samples;
     try {
-        prepareTree(root, today());
+        prepareTree(options.Root, today(), samples);
     } catch (const std::filesystem::filesystem_error& problem) {
-        throw std::runtime_error("cannot prepare the folder " + root.string() + ": " + problem.code().message() +
+        const std::string reason = problem.code().message();
+        if (problem.path1().string().starts_with(samples.string()))
+            throw std::runtime_error("cannot read the sample " + problem.path1().string() + ": " + reason +
+                                     "; name the folder of the sample clippings with --samples");
+        throw std::runtime_error("cannot prepare the folder " + options.Root.string() + ": " + reason +
                                  "; give another one with --root");
     }
 }
@@ -59,7 +64,7 @@ void prepare(const std::filesystem::path& root) {
 int serve(const Options& options) {
     asio::io_context loop(1);
     const ClippingsTree tree(options.Root);
-    prepare(options.Root);
+    prepare(options);
     const DemoService service(loop, options, tree);
     asio::signal_set signals(loop, SIGINT, SIGTERM);
     signals.async_wait([&](const asio::error_code&, int) { loop.stop(); });
