@@ -15,36 +15,45 @@ namespace {
 
 constexpr std::string_view digits = "0123456789";
 
-// Small letters of code page 1253 with a capital of another code. Iota and upsilon with dialytika and tonos (192,
-// 224), and the final sigma (242), which has the capital of the other sigma, are told apart in upperOf.
-struct CasePair {
-    unsigned char Small;
+// The accented Greek letters of code page 1253 that have a capital. The letters with dialytika and tonos (192, 224)
+// have none.
+struct AccentedLetter {
     unsigned char Capital;
+    unsigned char Small;
+    unsigned char Bare;  // the capital under the accent
 };
-constexpr std::array<CasePair, 7> accentedPairs{{
-    {220, 162},  // alpha with tonos
-    {221, 184},  // epsilon with tonos
-    {222, 185},  // eta with tonos
-    {223, 186},  // iota with tonos
-    {252, 188},  // omicron with tonos
-    {253, 190},  // upsilon with tonos
-    {254, 191},  // omega with tonos
+constexpr std::array<AccentedLetter, 9> accentedLetters{{
+    {162, 220, 193},  // alpha with tonos
+    {184, 221, 197},  // epsilon with tonos
+    {185, 222, 199},  // eta with tonos
+    {186, 223, 201},  // iota with tonos
+    {188, 252, 207},  // omicron with tonos
+    {190, 253, 213},  // upsilon with tonos
+    {191, 254, 217},  // omega with tonos
+    {218, 250, 201},  // iota with dialytika
+    {219, 251, 213},  // upsilon with dialytika
 }};
 
 constexpr unsigned char upperOf(unsigned char c) {
-    if (c >= 'a' && c <= 'z') return static_cast<unsigned char>(c - 32);
-    if (c == 242) return 211;
-    if (c >= 225 && c <= 251) return static_cast<unsigned char>(c - 32);
-    for (auto pair : accentedPairs)
-        if (pair.Small == c) return pair.Capital;
-    return c;
+    constexpr unsigned char sigma = 211, finalSigma = 242;
+    if (c == finalSigma) return sigma;
+    for (const auto& letter : accentedLetters)
+        if (letter.Small == c) return letter.Capital;
+    const bool isSmall = (c >= 'a' && c <= 'z') || (c >= 225 && c <= 249);
+    return isSmall ? static_cast<unsigned char>(c - 32) : c;
 }
 
 constexpr unsigned char lowerOf(unsigned char c) {
-    if (c >= 'A' && c <= 'Z') return static_cast<unsigned char>(c + 32);
-    if (c >= 193 && c <= 219 && c != 210) return static_cast<unsigned char>(c + 32);
-    for (auto pair : accentedPairs)
-        if (pair.Capital == c) return pair.Small;
+    constexpr unsigned char undefined = 210;
+    for (const auto& letter : accentedLetters)
+        if (letter.Capital == c) return letter.Small;
+    const bool isCapital = (c >= 'A' && c <= 'Z') || (c >= 193 && c <= 217 && c != undefined);
+    return isCapital ? static_cast<unsigned char>(c + 32) : c;
+}
+
+constexpr unsigned char bareOf(unsigned char c) {
+    for (const auto& letter : accentedLetters)
+        if (letter.Capital == c) return letter.Bare;
     return c;
 }
 
@@ -57,6 +66,7 @@ constexpr std::array<char, 256> tableOf(Map map) {
 }
 constexpr auto upperTable = tableOf(upperOf);
 constexpr auto lowerTable = tableOf(lowerOf);
+constexpr auto bareTable = tableOf(bareOf);
 
 char mapped(const std::array<char, 256>& table, char c) {
     return table[static_cast<unsigned char>(c)];
@@ -204,6 +214,10 @@ std::string Upper(std::string_view text) {
 }
 std::string Lower(std::string_view text) {
     return mappedText(lowerTable, text);
+}
+
+std::string withoutAccents(std::string_view capitals) {
+    return mappedText(bareTable, capitals);
 }
 
 bool equalNoCase(std::string_view a, std::string_view b) {

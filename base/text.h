@@ -15,10 +15,12 @@ namespace vell {
 // Takes off blanks (the character 32 only) at both ends.
 [[nodiscard]] std::string_view Trim(std::string_view text);
 
-// Letters by the rules of code page 1253. ToLower is the reverse for every letter that has one.
+// Letters by the rules of code page 1253. Lower undoes Upper, but for the final sigma.
 [[nodiscard]] char UpperChar(char c);
 [[nodiscard]] std::string Upper(std::string_view text);
 [[nodiscard]] std::string Lower(std::string_view text);
+// Greek capitals with an accent become the bare letters; for text that is in capitals already.
+[[nodiscard]] std::string withoutAccents(std::string_view capitals);
 [[nodiscard]] bool equalNoCase(std::string_view a, std::string_view b);
 // Orders by upper-cased bytes; negative, 0 or positive.
 [[nodiscard]] int compareNoCase(std::string_view a, std::string_view b);

@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "platform/ConnectionApi.h"
 #include "platform/MessageBoxes.h"
+#include "platform/internetErrors.h"
 
 namespace vell {
 
@@ -17,7 +18,6 @@ constexpr std::uint32_t stateConnected = 1;
 constexpr std::uint32_t stateDisconnectedByUser = 16;
 constexpr std::uint32_t forced = 1;
 constexpr std::uint32_t dialShowOffline = 0x4000;
-constexpr std::int32_t firstInternetError = 12001;
 
 // Runs a member's body; an unexpected error goes on to the caller as one of the object's own.
 template <class Body>
@@ -126,7 +126,7 @@ std::string CWinInetConnection::GetWinInetDesc(std::int32_t code) const {
 void CWinInetConnection::ReportApiError(std::string_view member) {
     const std::int32_t code = api_.LastError();
     if (code <= 0) return;
-    const bool ofSystem = code < firstInternetError;
+    const bool ofSystem = code < internet_error::First;
     const std::string text = std::string(member) + (ofSystem ? " Win32API Error: " : " WinInet API Error: ") +
                              std::to_string(code) + " [" + (ofSystem ? GetWinApiDesc(code) : GetWinInetDesc(code)) +
                              "]";

@@ -36,11 +36,12 @@ class ConnectionApi {
     // that happen meanwhile. Later calls are not concerned.
     virtual void CancelWaits() = 0;
 
-    // The number of the last failure; 0 when the system reported none.
+    // The number of the last failure, below internet_error::First the operating system's; 0 when the system reported
+    // none.
     [[nodiscard]] virtual std::int32_t LastError() const = 0;
     // Why the last call failed, where the system tells it in words and not by a number; empty otherwise.
     [[nodiscard]] virtual std::string LastReason() const = 0;
-    // The system's text for one of its own errors, and the internet library's for one from 12001 up. Both as
+    // The system's text for one of its own errors, and the internet library's for an internet_error. Both as
     // delivered, the line end included.
     [[nodiscard]] virtual std::string SystemErrorText(std::int32_t code) const = 0;
     [[nodiscard]] virtual std::string InternetErrorText(std::int32_t code) const = 0;

@@ -49,12 +49,12 @@ class InternetApi {
     // The announced length of the body, -1 when the answer names none. A hint for the reader's memory, no promise.
     [[nodiscard]] virtual std::int64_t ContentLength(Object& request) = 0;
 
-    // Ends what is under way, with error 12017 for whoever waits: requests that have had no byte for a second
-    // (Stalled), or every request (All). Requests opened later are not concerned.
+    // Ends what is under way, with internet_error::Cancelled for whoever waits: requests that have had no byte for a
+    // second (Stalled), or every request (All). Requests opened later are not concerned.
     enum class Cancel { Stalled, All };
     virtual void CancelRequests(Cancel which) = 0;
 
-    // The number of the last failure: below 12001 the operating system's, from there on the library's, as in WinInet.
+    // The number of the last failure: an internet_error, or the operating system's where it is lower.
     [[nodiscard]] virtual std::int32_t LastError() const = 0;
 };
 

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "service/ListMerge.h"
 
-#include <array>
 #include <unordered_set>
 #include <utility>
 
@@ -15,16 +14,6 @@ namespace {
 constexpr std::string_view lineEnd = "\r\n";
 constexpr std::size_t changeField = 5;
 constexpr std::size_t markField = 6;
-
-// Greek capitals with tonos or dialytika, by their bytes, and the bare letters.
-constexpr std::array<std::pair<unsigned char, unsigned char>, 9> accents{
-    {{162, 193}, {184, 197}, {185, 199}, {186, 201}, {188, 207}, {190, 213}, {191, 217}, {218, 201}, {219, 213}}};
-
-char withoutAccent(char c) {
-    for (const auto& [accented, plain] : accents)
-        if (static_cast<unsigned char>(c) == accented) return static_cast<char>(plain);
-    return c;
-}
 
 std::string lineBreaksMade(std::string_view answer) {
     std::string text;
@@ -53,9 +42,7 @@ void markFetched(std::string& record) {
 }  // namespace
 
 std::vector<std::string> answerRecords(std::string_view answer) {
-    std::string text = Upper(Trim(lineBreaksMade(answer)));
-    for (char& c : text)
-        c = withoutAccent(c);
+    const std::string text = withoutAccents(Upper(Trim(lineBreaksMade(answer))));
     const auto pieces = Split(text, lineEnd);
     return {pieces.begin(), pieces.end()};
 }

@@ -18,22 +18,21 @@ struct OpeningError {
 };
 
 constexpr std::array<OpeningError, 13> openingErrors{{
-    {0, "The operating system is out of memory or resources."},
-    {2, "The specified file was not found."},
-    {3, "The specified path was not found."},
-    {5, "The operating system denied access to the specified file."},
-    {8, "There was not enough memory to complete the operation."},
-    {11, "The .exe file is invalid (non-Win32\xAE .exe or error in .exe image)."},
-    {26, "A sharing violation occurred."},
-    {27, "The file name association is incomplete or invalid."},
-    {28, "The DDE transaction could not be completed because the request timed out."},
-    {29, "The DDE transaction failed."},
-    {30, "The DDE transaction could not be completed because other DDE transactions were being processed."},
-    {31, "There is no application associated with the given file name extension."},
-    {32, "The specified dynamic-link library was not found."},
+    {shell_code::NoResources, "The operating system is out of memory or resources."},
+    {shell_code::FileNotFound, "The specified file was not found."},
+    {shell_code::PathNotFound, "The specified path was not found."},
+    {shell_code::AccessDenied, "The operating system denied access to the specified file."},
+    {shell_code::OutOfMemory, "There was not enough memory to complete the operation."},
+    {shell_code::NoValidProgram, "The .exe file is invalid (non-Win32\xAE .exe or error in .exe image)."},
+    {shell_code::SharingViolation, "A sharing violation occurred."},
+    {shell_code::AssociationIncomplete, "The file name association is incomplete or invalid."},
+    {shell_code::DdeTimeout, "The DDE transaction could not be completed because the request timed out."},
+    {shell_code::DdeFailed, "The DDE transaction failed."},
+    {shell_code::DdeBusy,
+     "The DDE transaction could not be completed because other DDE transactions were being processed."},
+    {shell_code::NoAssociation, "There is no application associated with the given file name extension."},
+    {shell_code::LibraryNotFound, "The specified dynamic-link library was not found."},
 }};
-
-constexpr int lastFailure = 32;
 
 std::string_view openingErrorText(int code) {
     for (const OpeningError& error : openingErrors)
@@ -51,10 +50,11 @@ bool Articles::ShellExec(const std::string& file, const std::string& parameters)
         const std::string message = "Error opening file '" + file + " " + parameters + "'.";
         const int result = shell_.Open(file, parameters);
         loop_.DoEvents();
-        const std::string_view reason = result <= lastFailure ? openingErrorText(result) : std::string_view{};
+        const std::string_view reason =
+            result <= shell_code::LastFailure ? openingErrorText(result) : std::string_view{};
         if (!reason.empty())
             boxes_.Show(std::string(message).append("\r\n").append(reason), programCaption, Buttons::Ok, BoxIcon::None);
-        return result > lastFailure;
+        return result > shell_code::LastFailure;
     });
 }
 

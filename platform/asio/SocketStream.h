@@ -8,8 +8,8 @@
 
 #include <asio/ip/tcp.hpp>
 
+#include "base/ByteQueue.h"
 #include "base/errors.h"
-#include "platform/asio/ByteQueue.h"
 
 namespace vell {
 

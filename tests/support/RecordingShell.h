@@ -15,7 +15,7 @@ class RecordingShell : public Shell {
         return Result;
     }
 
-    int Result = 33;
+    int Result = shell_code::Started;
     std::string Opened;  // what it was asked for: a file and its parameters in each line
 };
 

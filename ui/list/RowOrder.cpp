@@ -10,10 +10,6 @@ namespace vell {
 
 namespace {
 
-// The accented Greek capitals of the code page and the letters under their accents.
-constexpr std::string_view accented = "\xA2\xB8\xB9\xBA\xBC\xBE\xBF\xDA\xDB\xC0\xE0";
-constexpr std::string_view plain = "\xC1\xC5\xC7\xC9\xCF\xD5\xD9\xC9\xD5\xC9\xD5";
-
 std::string sortKey(const ClippingRow& row, GridColumn column) {
     // Rows with marks come in the order of the pictures, those without at the end.
     if (column == GridColumn::Marks)
@@ -24,9 +20,10 @@ std::string sortKey(const ClippingRow& row, GridColumn column) {
 }  // namespace
 
 std::string lookUpKey(std::string_view text) {
-    std::string key = Upper(text);
-    for (char& c : key)
-        if (const auto at = accented.find(c); at != std::string_view::npos) c = plain[at];
+    std::string key = withoutAccents(Upper(text));
+    // Iota and upsilon with both accents have no capital.
+    std::ranges::replace(key, '\xC0', '\xC9');
+    std::ranges::replace(key, '\xE0', '\xD5');
     return key;
 }
 

@@ -5,10 +5,10 @@
 #include <ctime>
 #include <memory>
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include "base/text.h"
+#include "platform/posix/files/FolderReader.h"
 #include "platform/posix/files/paths.h"
 
 namespace vell {
@@ -43,10 +43,6 @@ bool exists(const std::string& path) {
     struct stat status {};
     return lstat(path.c_str(), &status) == 0;
 }
-
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
 
 }  // namespace
 
@@ -110,7 +106,7 @@ FolderNames::Folder* FolderNames::namesOf(const std::string& folder) {
     if (known != folders_.end() && known->second.isTrusted(*now)) return &known->second;
 
     Folder names{*now, systemNow(), 0, false, {}};
-    const std::unique_ptr<DIR, CloseFolder> reader(opendir(folder.c_str()));
+    const FolderReader reader(opendir(folder.c_str()));
     if (!reader) return nullptr;
     while (const dirent* entry = readdir(reader.get()))
         names.add(entry->d_name);

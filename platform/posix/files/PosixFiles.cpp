@@ -8,12 +8,12 @@
 #include <cstdio>
 #include <cstdlib>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
 
 #include "base/text.h"
+#include "platform/posix/files/FolderReader.h"
 #include "platform/posix/files/LeftoverParts.h"
 #include "platform/posix/files/NamePattern.h"
 #include "platform/posix/files/PosixOutputFile.h"
@@ -27,11 +27,6 @@ namespace vell {
 namespace {
 
 constexpr std::chrono::hours leftOverAfter{24};
-
-struct CloseFolder {
-    void operator()(DIR* folder) const { closedir(folder); }
-};
-using FolderReader = std::unique_ptr<DIR, CloseFolder>;
 
 // False when `entry` is not of that kind. Asks the file itself only where its folder does not tell enough.
 bool describe(const FolderReader& folder, const dirent& entry, Files::Kind kind, Files::Entry& description) {

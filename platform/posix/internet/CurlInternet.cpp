@@ -10,16 +10,13 @@
 #include "base/text.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
+#include "platform/internetErrors.h"
 #include "platform/posix/internet/CurlTransfer.h"
 
 namespace vell {
 
 namespace {
 
-constexpr std::int32_t invalidUrl = 12005;
-constexpr std::int32_t wrongScheme = 12006;
-constexpr std::int32_t cancelled = 12017;
-constexpr std::int32_t redirectFailed = 12156;
 constexpr std::int32_t outOfMemory = 8;
 constexpr int usualPort = 80;
 constexpr std::chrono::milliseconds step{10};
@@ -84,7 +81,7 @@ InternetApi::Handle CurlInternet::InternetOpen(std::string_view agent) {
 InternetApi::Handle CurlInternet::InternetConnect(Object& session, std::string_view host, int port,
                                                   std::string_view userName, std::string_view password) {
     if (Trim(host).empty()) {
-        lastError_ = invalidUrl;
+        lastError_ = internet_error::InvalidUrl;
         return nullptr;
     }
     auto connection = std::make_unique<Connection>();
@@ -132,7 +129,7 @@ InternetApi::Handle CurlInternet::InternetOpenUrl(Object& session, std::string_v
         start(request->Transfer);
         const std::int32_t error = request->Transfer.error();
         // An answer that breaks off is an answer; a redirect that leads nowhere is none.
-        const bool ledNowhere = error == redirectFailed || error == wrongScheme;
+        const bool ledNowhere = error == internet_error::RedirectFailed || error == internet_error::UnknownScheme;
         const bool answered = !request->Transfer.rawHeaders().empty() && !ledNowhere;
         if (!failed(error) || answered) return request;
         return nullptr;
@@ -145,7 +142,7 @@ InternetApi::Handle CurlInternet::InternetOpenUrl(Object& session, std::string_v
 bool CurlInternet::InternetReadFile(Object& request, char* buffer, std::size_t size, std::size_t& read) {
     CurlTransfer& transfer = dynamic_cast<Request&>(request).Transfer;
     read = 0;
-    if (transfer.isAbandoned()) return !failed(cancelled);
+    if (transfer.isAbandoned()) return !failed(internet_error::Cancelled);
     if (!transfer.hasBytes()) waitForBytes(transfer);
     if (transfer.hasBytes()) {
         read = transfer.take(buffer, size);

@@ -2,10 +2,10 @@
 #include "platform/posix/internet/CurlTransfer.h"
 
 #include <algorithm>
-#include <cstring>
 #include <new>
 
 #include "base/errors.h"
+#include "platform/internetErrors.h"
 
 namespace vell {
 
@@ -17,41 +17,40 @@ constexpr long receiveSize = 256L << 10;
 // A reader that falls behind makes the server wait, not the memory grow.
 constexpr std::size_t mostBuffered = 2U << 20;
 
-// The numbers that WinInet has for the same misfortunes (wininet.h).
 std::int32_t errorOf(CURLcode result) {
     switch (result) {
         case CURLE_OK:
             return 0;
         case CURLE_URL_MALFORMAT:
-            return 12005;
+            return internet_error::InvalidUrl;
         case CURLE_UNSUPPORTED_PROTOCOL:
-            return 12006;
+            return internet_error::UnknownScheme;
         case CURLE_COULDNT_RESOLVE_HOST:
         case CURLE_COULDNT_RESOLVE_PROXY:
-            return 12007;
+            return internet_error::NameNotResolved;
         case CURLE_COULDNT_CONNECT:
-            return 12029;
+            return internet_error::CannotConnect;
         case CURLE_OPERATION_TIMEDOUT:
-            return 12002;
+            return internet_error::Timeout;
         case CURLE_PARTIAL_FILE:
         case CURLE_GOT_NOTHING:
         case CURLE_SEND_ERROR:
-            return 12030;
+            return internet_error::ConnectionAborted;
         case CURLE_RECV_ERROR:
-            return 12031;
+            return internet_error::ConnectionReset;
         case CURLE_WEIRD_SERVER_REPLY:
         case CURLE_HTTP2:
-            return 12152;
+            return internet_error::InvalidResponse;
         case CURLE_TOO_MANY_REDIRECTS:
-            return 12156;
+            return internet_error::RedirectFailed;
         case CURLE_SSL_CONNECT_ERROR:
-            return 12157;
+            return internet_error::SecureChannel;
         case CURLE_PEER_FAILED_VERIFICATION:
-            return 12175;
+            return internet_error::CertificateRefused;
         case CURLE_OUT_OF_MEMORY:
             return 8;
         default:
-            return 12004;
+            return internet_error::Internal;
     }
 }
 
@@ -129,16 +128,10 @@ void CurlTransfer::begin() {
 }
 
 std::size_t CurlTransfer::take(char* target, std::size_t most) {
-    const std::size_t count = std::min(most, buffer_.size() - taken_);
-    std::memcpy(target, buffer_.data() + taken_, count);
-    taken_ += count;
-    if (taken_ == buffer_.size()) {
-        buffer_.clear();
-        taken_ = 0;
-        if (paused_ && !hasEnded()) {
-            paused_ = false;
-            curl_easy_pause(easy_.get(), CURLPAUSE_CONT);  // hands over what waits, at once
-        }
+    const std::size_t count = buffer_.take({target, most});
+    if (buffer_.isEmpty() && paused_ && !hasEnded()) {
+        paused_ = false;
+        curl_easy_pause(easy_.get(), CURLPAUSE_CONT);  // hands over what waits, at once
     }
     return count;
 }
@@ -159,10 +152,8 @@ void CurlTransfer::cancelAfterSilenceOf(std::chrono::milliseconds patience) {
 }
 
 std::int32_t CurlTransfer::outOfPatience() const {
-    constexpr std::int32_t timedOut = 12002;
-    constexpr std::int32_t cancelled = 12017;
     if (silence() < patience_) return 0;
-    return cancelled_ ? cancelled : timedOut;
+    return cancelled_ ? internet_error::Cancelled : internet_error::Timeout;
 }
 
 std::size_t CurlTransfer::onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self) {
@@ -172,7 +163,7 @@ std::size_t CurlTransfer::onBody(const char* bytes, std::size_t size, std::size_
         return CURL_WRITEFUNC_PAUSE;
     }
     try {
-        self->buffer_.append(bytes, size * count);
+        self->buffer_.append({bytes, size * count});
     } catch (const std::bad_alloc&) {
         return 0;  // which the library takes for a failed write and ends the transfer
     }

@@ -9,6 +9,7 @@
 
 #include <curl/curl.h>
 
+#include "base/ByteQueue.h"
 #include "platform/Clock.h"
 
 namespace vell {
@@ -33,7 +34,7 @@ class CurlTransfer {
 
     [[nodiscard]] CURL* handle() const { return easy_.get(); }
 
-    [[nodiscard]] bool hasBytes() const { return taken_ < buffer_.size(); }
+    [[nodiscard]] bool hasBytes() const { return !buffer_.isEmpty(); }
     [[nodiscard]] std::size_t take(char* target, std::size_t most);
     [[nodiscard]] bool hasEnded() const { return result_.has_value(); }
     // 0 for an answer that came whole.
@@ -45,7 +46,7 @@ class CurlTransfer {
     [[nodiscard]] std::int64_t announcedLength() const;
     [[nodiscard]] std::chrono::milliseconds silence() const { return clock_.Steady() - lastByte_; }
 
-    // Fails with 12017 once it has been silent for so long; at once when that is no time at all.
+    // Fails as cancelled once it has been silent for so long; at once when that is no time at all.
     void cancelAfterSilenceOf(std::chrono::milliseconds patience);
     [[nodiscard]] bool isAbandoned() const { return patience_.count() == 0; }
     // The number to fail with now; 0 to go on waiting.
@@ -69,8 +70,7 @@ class CurlTransfer {
     std::unique_ptr<curl_slist, ListDeleter> headerList_;  // the handle uses it to its end
     std::unique_ptr<CURL, EasyDeleter> easy_;
     std::string headers_;
-    std::string buffer_;
-    std::size_t taken_ = 0;
+    ByteQueue buffer_;
     bool paused_ = false;
     std::optional<std::int32_t> result_;
     SteadyTime lastByte_{};

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "base/text.h"
+#include "platform/internetErrors.h"
 #include "platform/posix/network/NetworkManagerClient.h"
 
 namespace vell {
@@ -14,7 +15,6 @@ namespace vell {
 namespace {
 
 constexpr std::uint32_t stateConnected = 1;
-constexpr std::int32_t internetDisconnected = 12163;
 constexpr std::uint32_t noConnection = 668;
 
 struct ErrorText {
@@ -22,11 +22,11 @@ struct ErrorText {
     const char* Text;
 };
 constexpr std::array<ErrorText, 5> internetErrors{{
-    {12002, "The operation timed out\r\n"},
-    {12007, "The server name or address could not be resolved\r\n"},
-    {12017, "The operation has been canceled\r\n"},
-    {12029, "A connection with the server could not be established\r\n"},
-    {internetDisconnected, "The internet connection has been lost\r\n"},
+    {internet_error::Timeout, "The operation timed out\r\n"},
+    {internet_error::NameNotResolved, "The server name or address could not be resolved\r\n"},
+    {internet_error::Cancelled, "The operation has been canceled\r\n"},
+    {internet_error::CannotConnect, "A connection with the server could not be established\r\n"},
+    {internet_error::Disconnected, "The internet connection has been lost\r\n"},
 }};
 
 }  // namespace
@@ -74,7 +74,7 @@ bool PosixConnection::SetConnectedState(std::uint32_t state, std::uint32_t /*fla
 bool PosixConnection::InternetGoOnline(std::string_view /*url*/, std::uintptr_t /*parentWindow*/) {
     std::uint32_t flags = 0;
     if (SetConnectedState(stateConnected, 0) && InternetGetConnectedState(flags)) return true;
-    lastError_ = internetDisconnected;
+    lastError_ = internet_error::Disconnected;
     return false;
 }
 

@@ -4,11 +4,11 @@
 #include <string_view>
 
 #include "base/text.h"
+#include "platform/Shell.h"
 #include "platform/posix/printing/CupsOptions.h"
 #include "platform/posix/program/GlibPointers.h"
 #include "platform/posix/program/desktopApplications.h"
 #include "platform/posix/program/programOutput.h"
-#include "platform/posix/program/shellCodes.h"
 #include "platform/posix/program/startProgram.h"
 
 namespace vell {

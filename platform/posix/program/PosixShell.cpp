@@ -11,7 +11,6 @@
 #include "base/text.h"
 #include "platform/posix/files/paths.h"
 #include "platform/posix/program/desktopApplications.h"
-#include "platform/posix/program/shellCodes.h"
 #include "platform/posix/program/startProgram.h"
 
 namespace vell {

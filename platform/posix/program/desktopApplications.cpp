@@ -13,7 +13,7 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
-#include "platform/posix/program/shellCodes.h"
+#include "platform/Shell.h"
 
 namespace vell {
 

@@ -5,7 +5,7 @@
 
 namespace vell {
 
-// Both hand something to the application that the desktop has for it, and give a result of shellCodes.h.
+// Both hand something to the application that the desktop has for it, and give a shell_code.
 
 // A document, which must exist, or a folder. What can be run is refused.
 [[nodiscard]] int openWithApplication(const std::string& systemPath);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,9 +12,14 @@ class ByteQueue {
   public:
     void append(std::string_view bytes);
     [[nodiscard]] std::string take(std::size_t most);
+    // The same into memory that is there; gives how many came.
+    [[nodiscard]] std::size_t take(std::span<char> target);
+    [[nodiscard]] bool isEmpty() const { return size() == 0; }
     [[nodiscard]] std::size_t size() const { return bytes_.size() - taken_; }
 
   private:
+    void drop(std::size_t count);
+
     std::string bytes_;
     std::size_t taken_ = 0;  // of them, at the front
 };
