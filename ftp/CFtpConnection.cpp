@@ -106,7 +106,7 @@ CFtpFiles CFtpConnection::EnumFilesCriteria(std::string_view criteria) {
         const bool listed = code == 0 ? data_.ended() : (code == 226 || code == 250) && data_.awaitEnd();
         if (!listed) return CFtpFiles{};
         CFtpFiles files = ParseListing(data_.listing(), context_.Services.Time.Now().Day.Year);
-        context_.Events.StateChanged(8);
+        context_.Events.StateChanged(FtpState::ListingReceived);
         return files;
     });
 }
@@ -152,7 +152,7 @@ bool CFtpConnection::downloadFile(std::string_view remoteName, std::string_view 
         };
         if (!receive(remoteName, open, startOffset)) return false;
         file->Close();
-        context_.Events.StateChanged(10);
+        context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });
 }
@@ -162,7 +162,7 @@ bool CFtpConnection::downloadFile(std::string_view remoteName, OutputFile& file,
         if (!receive(
                 remoteName, [&]() -> OutputFile& { return file; }, startOffset))
             return false;
-        context_.Events.StateChanged(10);
+        context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });
 }
@@ -179,7 +179,7 @@ bool CFtpConnection::UploadFile(std::string_view localPath, std::string_view rem
         const DataScope data(data_);
         if (commands_.SendType() != 200 || !commands_.openDataConnection()) return false;
         if (!arrived(commands_.SendStor(localPath, remoteName))) return false;
-        context_.Events.StateChanged(10);
+        context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });
 }

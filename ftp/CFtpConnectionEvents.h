@@ -6,15 +6,28 @@
 
 namespace vell {
 
+// How far a connection is. The numbers are told and logged.
+enum class FtpState : std::int32_t {
+    ResolvingHost = 0,
+    HostResolved = 1,  // connecting
+    Connected = 2,     // waiting for the greeting
+    LoggingIn = 3,
+    LoggedIn = 4,  // never raised
+    OpeningData = 5,
+    DataReady = 6,
+    ListingRequested = 7,
+    ListingReceived = 8,
+    TransferAccepted = 9,
+    TransferFinished = 10,
+};
+
 // What a connection tells its owner. It does so while an operation of the owner's waits or works; a handler may let
 // events happen, and may call CancelTransfer, BreakeConnection and CloseConnection.
 class CFtpConnectionEvents {
   public:
     virtual ~CFtpConnectionEvents() = default;
 
-    // 0 resolving the name, 1 connecting, 2 waiting for the greeting, 3 logging in, 5 opening a data connection,
-    // 6 data connection ready, 7 listing requested, 8 listing received, 9 transfer accepted, 10 transfer finished.
-    virtual void StateChanged(std::int32_t state) = 0;
+    virtual void StateChanged(FtpState state) = 0;
     // Bytes of the file that are here, those from before a resumed download included.
     virtual void DownloadProgress(std::int32_t bytes) = 0;
     virtual void UploadProgress(std::int32_t bytes) = 0;

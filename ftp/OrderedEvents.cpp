@@ -8,7 +8,7 @@
 
 namespace vell {
 
-void OrderedEvents::StateChanged(std::int32_t state) {
+void OrderedEvents::StateChanged(FtpState state) {
     raise([this, state] { owner_.StateChanged(state); });
 }
 

@@ -14,7 +14,7 @@ class OrderedEvents final : public CFtpConnectionEvents {
   public:
     explicit OrderedEvents(CFtpConnectionEvents& owner) : owner_(owner) {}
 
-    void StateChanged(std::int32_t state) override;
+    void StateChanged(FtpState state) override;
     void DownloadProgress(std::int32_t bytes) override;
     void UploadProgress(std::int32_t bytes) override;
     void ReplyMessage(std::string_view text) override;

@@ -13,14 +13,14 @@ namespace vell {
 namespace {
 
 constexpr std::string_view origin = "FTP-->";
-constexpr std::int32_t transferFinished = 10;
 
 struct StateText {
     std::string_view Text;
     bool InStatusLine;
 };
 
-constexpr std::array<StateText, 10> stateTexts{{
+// Of the states before the last one, whose text names the file.
+constexpr std::array<StateText, static_cast<std::size_t>(FtpState::TransferFinished)> stateTexts{{
     {"Resolving host...", true},
     {"Host resolved", true},
     {"Connected", true},
@@ -39,16 +39,17 @@ FtpProgress::FtpProgress(Session& session, TransferProgress& progress, EventLoop
                          EventLog& log, std::chrono::milliseconds paintInterval)
     : session_(session), progress_(progress), loop_(loop), log_(log), pacer_(clock, paintInterval) {}
 
-void FtpProgress::StateChanged(std::int32_t state) {
+void FtpProgress::StateChanged(FtpState state) {
     loop_.DoEvents();
-    std::string text = "State: " + std::to_string(state);
+    const auto number = static_cast<std::size_t>(state);
+    std::string text = "State: " + std::to_string(static_cast<std::int32_t>(state));
     bool inStatusLine = false;
-    if (state == transferFinished) {
+    if (state == FtpState::TransferFinished) {
         text = "Transfer of " + fileCounter() + " " + session_.currentFile() + " completed.";
         inStatusLine = true;
-    } else if (state >= 0 && state < transferFinished) {
-        text = stateTexts[static_cast<std::size_t>(state)].Text;
-        inStatusLine = stateTexts[static_cast<std::size_t>(state)].InStatusLine;
+    } else if (number < stateTexts.size()) {
+        text = stateTexts[number].Text;
+        inStatusLine = stateTexts[number].InStatusLine;
     }
     log_.WriteLog(std::string(origin) + text);
     if (inStatusLine) progress_.StatusBar(text);

@@ -22,7 +22,7 @@ class FtpProgress : public CFtpConnectionEvents {
     FtpProgress(Session& session, TransferProgress& progress, EventLoop& loop, const Clock& clock, EventLog& log,
                 std::chrono::milliseconds paintInterval);
 
-    void StateChanged(std::int32_t state) override;
+    void StateChanged(FtpState state) override;
     // The showing is thinned to what an eye can follow; with the log on every report is shown, as it is logged.
     void DownloadProgress(std::int32_t bytes) override;
     void UploadProgress(std::int32_t /*bytes*/) override {}

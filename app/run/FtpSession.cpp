@@ -20,7 +20,6 @@ constexpr std::string_view clippingsFolder = "torvoarchive";
 // The service's one FTP account; the user's own name and password go with the list request alone.
 constexpr const char* ftpUser = "vell";
 constexpr const char* ftpPassword = "ruxo";
-constexpr std::int32_t transferInProgress = 59;
 
 }  // namespace
 
@@ -102,7 +101,7 @@ bool FtpSession::isWhole(const std::string& name, const std::string& localPath) 
 bool FtpSession::StopFTP(bool ask) {
     const BusyMoment busy(view_);
     if (m_objFTP_.CloseConnection()) return true;
-    if (m_objFTP_.FtpGetLastError() == transferInProgress) {
+    if (m_objFTP_.FtpGetLastError() == ftp_error::TransferInProgress) {
         if (!ask) return false;
         const Answer answer =
             platform_.Boxes.Show("Data transfer in progress. Do you want to cancel the data transfer?", programCaption,

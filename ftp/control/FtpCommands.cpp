@@ -30,7 +30,7 @@ int FtpCommands::SendUser() {
         if (settings.UserName != anonymousUser) return 0;
         settings.Password = anonymousPassword;
     }
-    context_.Events.StateChanged(3);
+    context_.Events.StateChanged(FtpState::LoggingIn);
     return control_.command(line("USER", settings.UserName), {230, 331}, codeAndMark);
 }
 
@@ -63,9 +63,9 @@ int FtpCommands::SendType() {
 }
 
 bool FtpCommands::openDataConnection() {
-    context_.Events.StateChanged(5);
+    context_.Events.StateChanged(FtpState::OpeningData);
     const bool opened = context_.Settings.PassiveMode ? SendPasv() == 227 : SendPort() == 200;
-    if (opened) context_.Events.StateChanged(6);
+    if (opened) context_.Events.StateChanged(FtpState::DataReady);
     return opened;
 }
 
@@ -90,7 +90,7 @@ int FtpCommands::SendPort() {
 
 int FtpCommands::SendList(std::string_view criteria) {
     data_.begin(FtpDataChannel::Transfer::Listing);
-    context_.Events.StateChanged(7);
+    context_.Events.StateChanged(FtpState::ListingRequested);
     const int code = control_.command(criteria.empty() ? "LIST" : line("LIST", criteria), {125, 150});
     if (!accepted(code)) return code;
     data_.receiveListing();
@@ -102,7 +102,7 @@ int FtpCommands::SendRetr(std::string_view remoteName, const OpenFile& open, std
     const int code = control_.command(line("RETR", remoteName), {125, 150});
     if (!accepted(code)) return code;
     data_.receiveFile(open(), startOffset);
-    context_.Events.StateChanged(9);
+    context_.Events.StateChanged(FtpState::TransferAccepted);
     return finalReply();
 }
 
@@ -112,7 +112,7 @@ int FtpCommands::SendStor(std::string_view localPath, std::string_view remoteNam
     const int code = control_.command(line("STOR", remoteName), {125, 150});
     if (!accepted(code)) return code;
     data_.sendBytes(std::move(bytes));
-    context_.Events.StateChanged(9);
+    context_.Events.StateChanged(FtpState::TransferAccepted);
     return finalReply();
 }
 

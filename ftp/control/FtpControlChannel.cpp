@@ -54,9 +54,11 @@ bool FtpControlChannel::open(std::string_view host, std::uint16_t port) {
 void FtpControlChannel::raiseProgress() {
     const SocketState state = socket_->State();
     if (state < SocketState::ResolvingHost || state > SocketState::Connected) return;
-    const int reached = state == SocketState::ResolvingHost ? 0 : isOpen() ? 2 : 1;
-    while (nextStep_ <= reached)
-        context_.Events.StateChanged(nextStep_++);
+    const FtpState reached = state == SocketState::ResolvingHost ? FtpState::ResolvingHost
+                             : isOpen()                          ? FtpState::Connected
+                                                                 : FtpState::HostResolved;
+    while (nextStep_ <= static_cast<int>(reached))
+        context_.Events.StateChanged(static_cast<FtpState>(nextStep_++));
 }
 
 void FtpControlChannel::Connected() {

@@ -33,7 +33,7 @@ class FtpControlChannel : private TcpSocketEvents {
     // `transferAborted` is called when a reply 426 arrives, before the connection is closed for it.
     FtpControlChannel(FtpContext& context, std::function<void()> transferAborted);
 
-    // Connects, raising StateChanged 0 to 2. False: the error is recorded.
+    // Connects, raising StateChanged up to Connected. False: the error is recorded.
     [[nodiscard]] bool open(std::string_view host, std::uint16_t port);
     void close();
     [[nodiscard]] bool isOpen() const { return socket_->State() == SocketState::Connected; }

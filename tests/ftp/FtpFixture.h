@@ -56,7 +56,7 @@ class FtpFixture : public testing::Test, private CFtpConnectionEvents, MessageBo
         told.push_back(what);
         onTold(what);
     }
-    void StateChanged(std::int32_t state) override { tell("State " + std::to_string(state)); }
+    void StateChanged(FtpState state) override { tell("State " + std::to_string(static_cast<int>(state))); }
     void DownloadProgress(std::int32_t bytes) override { tell("Down " + std::to_string(bytes)); }
     void UploadProgress(std::int32_t bytes) override { tell("Up " + std::to_string(bytes)); }
     void ReplyMessage(std::string_view text) override { tell(std::string(text.substr(0, text.size() - 2))); }
