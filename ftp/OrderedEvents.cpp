@@ -12,6 +12,12 @@ void OrderedEvents::StateChanged(FtpState state) {
     raise([this, state] { owner_.StateChanged(state); });
 }
 
+void OrderedEvents::StatesChanged(FtpState first, FtpState last) {
+    for (auto state = static_cast<std::int32_t>(first); state <= static_cast<std::int32_t>(last); ++state)
+        due_.push_back([this, state] { owner_.StateChanged(static_cast<FtpState>(state)); });
+    tell();
+}
+
 void OrderedEvents::DownloadProgress(std::int32_t bytes) {
     raise([this, bytes] { owner_.DownloadProgress(bytes); });
 }
@@ -26,6 +32,10 @@ void OrderedEvents::ReplyMessage(std::string_view text) {
 
 void OrderedEvents::raise(std::function<void()> event) {
     due_.push_back(std::move(event));
+    tell();
+}
+
+void OrderedEvents::tell() {
     if (raising_) return;
     const ScopedFlag raising(raising_);
     while (!due_.empty()) {

@@ -18,9 +18,12 @@ class OrderedEvents final : public CFtpConnectionEvents {
     void DownloadProgress(std::int32_t bytes) override;
     void UploadProgress(std::int32_t bytes) override;
     void ReplyMessage(std::string_view text) override;
+    // Several states at once, from `first` to `last`: nothing that happens meanwhile comes between them.
+    void StatesChanged(FtpState first, FtpState last);
 
   private:
     void raise(std::function<void()> event);
+    void tell();
 
     CFtpConnectionEvents& owner_;
     std::deque<std::function<void()>> due_;

@@ -48,7 +48,8 @@ class TcpSocket {
 
     [[nodiscard]] virtual SocketState State() const = 0;
 
-    // Starts resolving and connecting; the states tell how far it is. Allowed when closed.
+    // Starts resolving and connecting; the states tell how far it is. A name stands for its IPv4 addresses, which are
+    // all tried. Allowed when closed.
     virtual void Connect(std::string_view host, std::uint16_t port) = 0;
     // Listens at `localAddress` (empty: every one) on a port of the system's choice. Allowed when closed.
     virtual void Listen(std::string_view localAddress) = 0;

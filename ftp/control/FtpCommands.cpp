@@ -101,8 +101,8 @@ int FtpCommands::SendRetr(std::string_view remoteName, const OpenFile& open, std
     data_.begin(FtpDataChannel::Transfer::Download);
     const int code = control_.command(line("RETR", remoteName), {125, 150});
     if (!accepted(code)) return code;
-    data_.receiveFile(open(), startOffset);
     context_.Events.StateChanged(FtpState::TransferAccepted);
+    if (accepted(code)) data_.receiveFile(open(), startOffset);  // unless it was stopped in that event
     return finalReply();
 }
 

@@ -57,8 +57,9 @@ void FtpControlChannel::raiseProgress() {
     const FtpState reached = state == SocketState::ResolvingHost ? FtpState::ResolvingHost
                              : isOpen()                          ? FtpState::Connected
                                                                  : FtpState::HostResolved;
-    while (nextStep_ <= static_cast<int>(reached))
-        context_.Events.StateChanged(static_cast<FtpState>(nextStep_++));
+    if (nextStep_ > static_cast<std::int32_t>(reached)) return;
+    const auto first = static_cast<FtpState>(std::exchange(nextStep_, static_cast<std::int32_t>(reached) + 1));
+    context_.Events.StatesChanged(first, reached);
 }
 
 void FtpControlChannel::Connected() {

@@ -73,7 +73,7 @@ class FtpControlChannel : private TcpSocketEvents {
     FtpContext& context_;
     std::function<void()> transferAborted_;
     std::unique_ptr<TcpSocket> socket_;
-    int nextStep_ = 0;  // of those of connecting, to be told
+    std::int32_t nextStep_ = 0;  // of those of connecting, to be told
     FtpReplyReader reader_;
     std::deque<FtpReply> replies_;
     bool restBelongsToTaken_ = false;  // the reply being read was judged already

@@ -34,10 +34,7 @@ struct AsioEventLoop::Anchor {
 };
 
 AsioEventLoop::AsioEventLoop(Clock& clock)
-    : clock_(clock),
-      context_(std::make_unique<asio::io_context>()),
-      anchor_(std::make_unique<Anchor>(*context_)),
-      errorSink_(tellStandardError) {}
+    : clock_(clock), context_(std::make_unique<asio::io_context>()), anchor_(std::make_unique<Anchor>(*context_)) {}
 
 AsioEventLoop::~AsioEventLoop() = default;
 
@@ -75,9 +72,6 @@ void AsioEventLoop::KillTimer(TimerId timer) {
     timersChanged();
 }
 
-void AsioEventLoop::setErrorSink(std::function<void(const RunTimeError&)> sink) {
-    errorSink_ = std::move(sink);
-}
 void AsioEventLoop::setPump(std::function<void()> pump) {
     pump_ = std::move(pump);
 }
@@ -127,7 +121,7 @@ void AsioEventLoop::guarded(Body&& body) {
     try {
         body();
     } catch (...) {
-        errorSink_(currentError());
+        tellStandardError(currentError());
     }
 }
 

@@ -17,7 +17,8 @@ class io_context;
 namespace vell {
 
 // The event loop on one Asio context. Timers and the length of waits go by the clock it is given; sockets are the
-// context's. Belongs to the thread that made it and outlives everything that works on its context.
+// context's. An error that a handler lets escape is told on standard error. Belongs to the thread that made it and
+// outlives everything that works on its context.
 class AsioEventLoop : public EventLoop {
   public:
     explicit AsioEventLoop(Clock& clock);
@@ -31,8 +32,6 @@ class AsioEventLoop : public EventLoop {
     [[nodiscard]] TimerId SetTimer(int periodMilliseconds, std::function<void()> tick) override;
     void KillTimer(TimerId timer) override;
 
-    // Told of an error that a handler let escape; the loop goes on. Without one it is written to standard error.
-    void setErrorSink(std::function<void(const RunTimeError&)> sink);
     // Handles a window system's pending messages; called by every DoEvents and WaitForEvents.
     void setPump(std::function<void()> pump);
     // For a window system that owns the outer loop: it calls DoEvents when untilNextTimer has gone by, and is told
@@ -58,7 +57,6 @@ class AsioEventLoop : public EventLoop {
     std::unique_ptr<asio::io_context> context_;
     std::unique_ptr<Anchor> anchor_;
     TimerQueue timers_;
-    std::function<void(const RunTimeError&)> errorSink_;
     std::function<void()> pump_;
     std::function<void()> onTimersChanged_;
 };

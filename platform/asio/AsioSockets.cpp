@@ -11,7 +11,7 @@ namespace vell {
 AsioSockets::AsioSockets(AsioEventLoop& loop, HostResolver resolver) : loop_(loop), resolver_(std::move(resolver)) {}
 
 std::unique_ptr<TcpSocket> AsioSockets::Make(TcpSocketEvents& events) {
-    return std::make_unique<AsioTcpSocket>(loop_.context(), resolver_, events);
+    return std::make_unique<AsioTcpSocket>(loop_, resolver_, events);
 }
 
 }  // namespace vell

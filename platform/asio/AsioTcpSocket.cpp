@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/SocketNumbers.h"
 
 namespace vell {
@@ -34,8 +35,8 @@ std::string textOf(const std::optional<tcp::endpoint>& end) {
 
 }  // namespace
 
-AsioTcpSocket::AsioTcpSocket(asio::io_context& context, HostResolver resolver, TcpSocketEvents& events)
-    : context_(context), resolver_(std::move(resolver)), events_(events) {}
+AsioTcpSocket::AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, TcpSocketEvents& events)
+    : loop_(loop), resolver_(std::move(resolver)), events_(events) {}
 
 AsioTcpSocket::~AsioTcpSocket() {
     AsioTcpSocket::Close();
@@ -45,7 +46,7 @@ void AsioTcpSocket::Connect(std::string_view host, std::uint16_t port) {
     mustBe(SocketState::Closed, socket_number::InvalidOp);
     // Systems differ in what they make of these two.
     if (host.empty() || port == 0) throw socketError(socket_number::AddressNotAvailable);
-    auto connector = std::make_shared<SocketConnector>(context_, *this);
+    auto connector = std::make_shared<SocketConnector>(loop_, *this);
     connector->start(std::string(host), port, resolver_);
     connector_ = std::move(connector);
     state_ = SocketState::ResolvingHost;
@@ -54,7 +55,7 @@ void AsioTcpSocket::Connect(std::string_view host, std::uint16_t port) {
 void AsioTcpSocket::Listen(std::string_view localAddress) {
     mustBe(SocketState::Closed, socket_number::InvalidOp);
     const auto address = localAddress.empty() ? asio::ip::address(asio::ip::address_v4::any()) : numeric(localAddress);
-    auto listener = std::make_shared<SocketListener>(context_, *this);
+    auto listener = std::make_shared<SocketListener>(loop_.context(), *this);
     local_ = listener->start(address);
     listener_ = std::move(listener);
     state_ = SocketState::Listening;

@@ -4,7 +4,6 @@
 #include <memory>
 #include <optional>
 
-#include <asio/io_context.hpp>
 #include <asio/ip/tcp.hpp>
 
 #include "platform/TcpSocket.h"
@@ -14,6 +13,8 @@
 
 namespace vell {
 
+class AsioEventLoop;
+
 // A socket that is first a connector or a listener and then a stream. Each of them lives until its last operation has
 // come back; stopped, it is silent, so that the socket may be closed or destroyed at any time, its own events included.
 class AsioTcpSocket final : public TcpSocket,
@@ -21,7 +22,7 @@ class AsioTcpSocket final : public TcpSocket,
                             public SocketListener::Owner,
                             public SocketStream::Owner {
   public:
-    AsioTcpSocket(asio::io_context& context, HostResolver resolver, TcpSocketEvents& events);
+    AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, TcpSocketEvents& events);
     ~AsioTcpSocket() override;
     AsioTcpSocket(const AsioTcpSocket&) = delete;
     AsioTcpSocket& operator=(const AsioTcpSocket&) = delete;
@@ -53,7 +54,7 @@ class AsioTcpSocket final : public TcpSocket,
     void mustBe(SocketState state, std::int32_t otherwise) const;
     void adopt(asio::ip::tcp::socket socket);
 
-    asio::io_context& context_;
+    AsioEventLoop& loop_;
     HostResolver resolver_;
     TcpSocketEvents& events_;
     SocketState state_ = SocketState::Closed;

@@ -20,7 +20,7 @@ std::vector<std::string> resolveBySystem(const std::string& host) {
     asio::ip::tcp::resolver resolver(context);
     std::error_code problem;
     // Without address_configured, which finds no localhost on a machine without a network.
-    const auto found = resolver.resolve(host, "", asio::ip::tcp::resolver::flags{}, problem);
+    const auto found = resolver.resolve(asio::ip::tcp::v4(), host, "", asio::ip::tcp::resolver::flags{}, problem);
     if (problem) throw socketError(problem);
     std::vector<std::string> addresses;
     for (const auto& entry : found)

@@ -15,7 +15,7 @@ class io_context;
 
 namespace vell {
 
-// Gives a host's numeric addresses, the best first, or raises RunTimeError. Blocks; called on a thread of its own.
+// Gives a host's numeric IPv4 addresses, the best first, or raises RunTimeError. Blocks; called on a thread of its own.
 using HostResolver = std::function<std::vector<std::string>(const std::string& host)>;
 [[nodiscard]] std::vector<std::string> resolveBySystem(const std::string& host);
 

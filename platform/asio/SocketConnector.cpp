@@ -5,6 +5,7 @@
 
 #include <asio/post.hpp>
 
+#include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/SocketHandles.h"
 #include "platform/asio/SocketNumbers.h"
 
@@ -14,9 +15,8 @@ using asio::ip::tcp;
 
 namespace {
 
-// Each state lasts for this many turns of the context's queue. One wait and one yield of the event loop take at most
-// seven, so that whoever looks at the state between them sees every one, however fast the answers come.
-constexpr int turnsOfAState = 8;
+// Longer than a good line takes to answer; short enough for every address of a host to have its turn in a time-out.
+constexpr int headStartMilliseconds = 250;
 
 }  // namespace
 
@@ -25,11 +25,12 @@ void SocketConnector::start(const std::string& host, std::uint16_t port, const H
     std::error_code isName;
     asio::ip::make_address(host, isName);
     if (!isName && host.find('\0') == std::string::npos) {
-        addresses_ = {host};
-        later(&SocketConnector::tellResolved, turnsOfAState);
+        asio::post(loop_.context(), [self = shared_from_this(), host] {
+            if (!self->stopped_) self->onLookedUp({{host}, std::nullopt});
+        });
         return;
     }
-    lookup_.emplace(context_, host, resolver, [weak = weak_from_this()](const HostAddresses& found) {
+    lookup_.emplace(loop_.context(), host, resolver, [weak = weak_from_this()](const HostAddresses& found) {
         if (const auto self = weak.lock()) self->onLookedUp(found);
     });
 }
@@ -37,19 +38,10 @@ void SocketConnector::start(const std::string& host, std::uint16_t port, const H
 void SocketConnector::stop() {
     stopped_ = true;
     lookup_.reset();
+    endHeadStart();
     std::error_code ignored;
-    socket_.close(ignored);
-}
-
-void SocketConnector::later(Step step, int turns) {
-    asio::post(context_, [self = shared_from_this(), step, turns] {
-        if (self->stopped_) return;
-        if (turns > 1) {
-            self->later(step, turns - 1);
-        } else {
-            (*self.*step)();
-        }
-    });
+    for (const Try& socket : std::exchange(underWay_, {}))
+        socket->close(ignored);
 }
 
 void SocketConnector::onLookedUp(const HostAddresses& found) {
@@ -58,41 +50,57 @@ void SocketConnector::onLookedUp(const HostAddresses& found) {
         return;
     }
     addresses_ = found.Numeric;
-    later(&SocketConnector::tellResolved, turnsOfAState);
-}
-
-void SocketConnector::tellResolved() {
     owner_.onProgress(SocketState::HostResolved);
-    later(&SocketConnector::tellConnecting, turnsOfAState);
+    asio::post(loop_.context(), [self = shared_from_this()] {
+        if (!self->stopped_) self->beginTrying();
+    });
 }
 
-void SocketConnector::tellConnecting() {
+void SocketConnector::beginTrying() {
     owner_.onProgress(SocketState::Connecting);
-    later(&SocketConnector::tryNext, turnsOfAState);
+    tryNext();
 }
 
 void SocketConnector::tryNext() {
+    endHeadStart();
     while (next_ < addresses_.size()) {
-        const tcp::endpoint peer(asio::ip::make_address(addresses_[next_++], problem_), port_);
-        socket_ = tcp::socket(context_);
-        if (!problem_) socket_.open(peer.protocol(), problem_);
-        if (problem_) continue;
-        keepFromChildren(socket_.native_handle());
-        socket_.async_connect(peer, [self = shared_from_this()](const std::error_code& problem) {
-            if (!self->stopped_) self->onTried(problem);
-        });
+        if (!begin(addresses_[next_++])) continue;
+        if (next_ < addresses_.size())
+            headStart_ = loop_.SetTimer(headStartMilliseconds, [weak = weak_from_this()] {
+                if (const auto self = weak.lock()) self->tryNext();
+            });
         return;
     }
-    owner_.onFailed(problem_ ? socketError(problem_) : socketError(socket_number::HostNotFound));
+    if (underWay_.empty()) owner_.onFailed(problem_ ? socketError(problem_) : socketError(socket_number::HostNotFound));
 }
 
-void SocketConnector::onTried(const std::error_code& problem) {
+bool SocketConnector::begin(const std::string& address) {
+    const tcp::endpoint peer(asio::ip::make_address(address, problem_), port_);
+    if (problem_) return false;
+    const auto socket = std::make_shared<tcp::socket>(loop_.context());
+    socket->open(peer.protocol(), problem_);
+    if (problem_) return false;
+    keepFromChildren(socket->native_handle());
+    underWay_.push_back(socket);
+    socket->async_connect(peer, [self = shared_from_this(), socket](const std::error_code& problem) {
+        if (!self->stopped_) self->onTried(socket, problem);
+    });
+    return true;
+}
+
+void SocketConnector::onTried(const Try& socket, const std::error_code& problem) {
+    std::erase(underWay_, socket);
     if (!problem) {
-        owner_.onConnected(std::move(socket_));
+        stop();
+        owner_.onConnected(std::move(*socket));
         return;
     }
     problem_ = problem;
     tryNext();
+}
+
+void SocketConnector::endHeadStart() {
+    if (headStart_ != 0) loop_.KillTimer(std::exchange(headStart_, 0));
 }
 
 }  // namespace vell

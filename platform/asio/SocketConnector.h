@@ -8,15 +8,19 @@
 #include <system_error>
 #include <vector>
 
-#include <asio/io_context.hpp>
 #include <asio/ip/tcp.hpp>
 
+#include "platform/EventLoop.h"
 #include "platform/TcpSocket.h"
 #include "platform/asio/HostLookup.h"
 
 namespace vell {
 
-// The way from a host's name to a connection. Tries all of the host's addresses in turn.
+class AsioEventLoop;
+
+// The way from a host's name to a connection. The host's addresses are tried in their order, each with a short head
+// start on the next, so that one that never answers does not use up the time of the others; the first that answers is
+// taken.
 class SocketConnector : public std::enable_shared_from_this<SocketConnector> {
   public:
     class Owner {
@@ -28,30 +32,31 @@ class SocketConnector : public std::enable_shared_from_this<SocketConnector> {
         virtual void onFailed(const RunTimeError& error) = 0;
     };
 
-    SocketConnector(asio::io_context& context, Owner& owner) : context_(context), owner_(owner), socket_(context) {}
+    SocketConnector(AsioEventLoop& loop, Owner& owner) : loop_(loop), owner_(owner) {}
 
     void start(const std::string& host, std::uint16_t port, const HostResolver& resolver);
     // At once: the owner is not spoken to again.
     void stop();
 
   private:
-    using Step = void (SocketConnector::*)();
+    using Try = std::shared_ptr<asio::ip::tcp::socket>;
 
-    void later(Step step, int turns);
     void onLookedUp(const HostAddresses& found);
-    void tellResolved();
-    void tellConnecting();
+    void beginTrying();
     void tryNext();
-    void onTried(const std::error_code& problem);
+    [[nodiscard]] bool begin(const std::string& address);
+    void onTried(const Try& socket, const std::error_code& problem);
+    void endHeadStart();
 
-    asio::io_context& context_;
+    AsioEventLoop& loop_;
     Owner& owner_;
     std::optional<HostLookup> lookup_;
     std::uint16_t port_ = 0;
     std::vector<std::string> addresses_;
     std::size_t next_ = 0;
-    std::error_code problem_;  // of the address tried last
-    asio::ip::tcp::socket socket_;
+    std::vector<Try> underWay_;
+    EventLoop::TimerId headStart_ = 0;
+    std::error_code problem_;  // of the address that failed last
     bool stopped_ = false;
 };
 

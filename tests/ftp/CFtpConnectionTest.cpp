@@ -34,7 +34,7 @@ class CFtpConnectionTest : public FtpFixture {
 
 TEST_F(CFtpConnectionTest, tellsTheWholeDialogueInItsOrderWithThePasswordMasked) {
     ScriptedServer server(sockets, loop);
-    server.on("RETR", "150 Coming|+hello|=|226 Sent");
+    server.on("RETR", "150 Coming|~9|+hello|=|~9|226 Sent");
     ftp.Port = server.port();
     ASSERT_TRUE(ftp.Connect() && ftp.downloadFile("a.pdf", local("a.pdf"), 0) && ftp.CloseConnection());
     EXPECT_EQ(ftp.CurrentDirectory(), "/home");

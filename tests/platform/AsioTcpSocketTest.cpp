@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <functional>
 #include <future>
@@ -97,6 +98,23 @@ class RawPeer {
     bool connected_ = false;
 };
 
+// An address that never answers: its queue of connections is full, so the system drops whoever else comes.
+class SilentPort {
+  public:
+    SilentPort(const char* address, std::uint16_t port) {
+        const auto here = at(address, port);
+        EXPECT_EQ(bind(fds_[0], reinterpret_cast<const sockaddr*>(&here), sizeof here), 0);
+        EXPECT_EQ(listen(fds_[0], 0), 0);
+        for (const int fd : {fds_[1], fds_[2]})
+            (void)connect(fd, reinterpret_cast<const sockaddr*>(&here), sizeof here);
+    }
+    ~SilentPort() { std::ranges::for_each(fds_, ::close); }
+
+  private:
+    static int open() { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
+    std::array<int, 3> fds_{open(), open(), open()};
+};
+
 class AsioTcpSocketTest : public testing::Test {
   protected:
     // As the program waits: wait, yield, look.
@@ -143,7 +161,7 @@ std::int32_t numberOf(const std::function<void()>& call) {
     return 0;
 }
 
-TEST_F(AsioTcpSocketTest, showsEveryStateOnTheWayToAConnection) {
+TEST_F(AsioTcpSocketTest, goesTheStatesWayToAConnection) {
     const std::pair<const char*, const char*> hosts[] = {
         {"127.0.0.1", "127.0.0.1"}, {"::1", "::1"}, {"localhost", "127.0.0.1"}};
     for (const auto& [host, address] : hosts) {
@@ -156,8 +174,10 @@ TEST_F(AsioTcpSocketTest, showsEveryStateOnTheWayToAConnection) {
             if (client.Socket->State() != states.back()) states.push_back(client.Socket->State());
             return !client.Events.empty() && !server.Events.empty();
         })) << host;
-        EXPECT_THAT(states, ElementsAre(SocketState::ResolvingHost, SocketState::HostResolved, SocketState::Connecting,
-                                        SocketState::Connected));
+        EXPECT_THAT(states, testing::IsSubsetOf({SocketState::ResolvingHost, SocketState::HostResolved,
+                                                 SocketState::Connecting, SocketState::Connected}));
+        EXPECT_EQ(states.front(), SocketState::ResolvingHost);
+        EXPECT_EQ(states.back(), SocketState::Connected);
         EXPECT_EQ(server.Socket->RemoteHostIP(), address);
         EXPECT_EQ(client.Socket->LocalIP(), address);
     }
@@ -178,15 +198,19 @@ TEST_F(AsioTcpSocketTest, tellsNothingBeforeAYield) {
 
 TEST_F(AsioTcpSocketTest, triesAllAddressesAndTellsWhyNoneWillDo) {
     server_.Socket->Listen("127.0.0.1");
+    const SilentPort silent("127.0.0.4", server_.Socket->LocalPort());
     const std::pair<std::vector<std::string>, const char*> hosts[] = {
-        {{"127.0.0.3", "127.0.0.1"}, "Connected"}, {{"127.0.0.3"}, "SocketError 10061"}, {{}, "SocketError 11001"}};
+
+        {{"127.0.0.4", "127.0.0.3", "127.0.0.1"}, "Connected"},
+        {{"127.0.0.3"}, "SocketError 10061"},
+        {{}, "SocketError 11001"}};
     for (const auto& [addresses, told] : hosts) {
         AsioSockets sockets(loop_, [found = addresses](const std::string&) { return found; });
         End client(sockets);
         client.Socket->Connect("ftp.example", server_.Socket->LocalPort());
         EXPECT_TRUE(untilTold(client, told)) << told;
         EXPECT_THAT(client.Events, ElementsAre(told));
-        EXPECT_EQ(client.Socket->State(), addresses.size() == 2 ? SocketState::Connected : SocketState::Error);
+        EXPECT_EQ(client.Socket->State(), addresses.size() > 1 ? SocketState::Connected : SocketState::Error);
     }
     client_.Socket->Connect("localhost\0.example"s, 21);
     EXPECT_TRUE(untilTold(client_, "SocketError 11001"));
