@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <vector>
 
 #include "base/text.h"
 #include "config/Settings.h"
@@ -18,16 +19,27 @@ int twoDigits(std::string_view text) {
     return std::ranges::all_of(text, isDigit) ? (text[0] - '0') * 10 + (text[1] - '0') : -1;
 }
 
+// The place of a day in the week, 7 for what is no day.
+std::size_t dayOf(std::string_view name) {
+    const auto found = std::ranges::find_if(scheduleDays, [&](auto day) { return equalNoCase(day, name); });
+    return static_cast<std::size_t>(found - scheduleDays.begin());
+}
+
+std::vector<std::string_view> words(std::string_view text) {
+    auto pieces = Split(text, " ");
+    std::erase(pieces, "");
+    return pieces;
+}
+
 }  // namespace
 
 ScheduleEntry scheduleEntryOf(std::string_view stored) {
     ScheduleEntry entry;
     for (const std::string_view piece : Split(stored, " ")) {
-        const auto day = std::ranges::find_if(scheduleDays, [&](auto name) { return equalNoCase(name, piece); });
-        if (day == scheduleDays.end())
-            entry.Time = piece;
+        if (const std::size_t day = dayOf(piece); day < scheduleDays.size())
+            entry.Days[day] = true;
         else
-            entry.Days[static_cast<std::size_t>(day - scheduleDays.begin())] = true;
+            entry.Time = piece;
     }
     return entry;
 }
@@ -37,6 +49,26 @@ std::string storedTextOf(const ScheduleEntry& entry) {
     for (std::size_t day = 0; day < scheduleDays.size(); ++day)
         if (entry.Days[day]) text.append(scheduleDays[day]).append(" ");
     return text + entry.Time;
+}
+
+std::string mistakeInTyped(std::string_view entry) {
+    int times = 0;
+    for (const std::string_view word : words(entry)) {
+        if (dayOf(word) < scheduleDays.size()) continue;
+        if (!IsTimeValid(word))
+            return "'" + std::string(word) + "' is neither a day (Mon Tue Wed Thu Fri Sat Sun) nor a time (HH:MM).";
+        ++times;
+    }
+    return times == 1 ? "" : "An entry has one time, such as \"Mon Wed 07:30\".";
+}
+
+ScheduleEntry scheduleEntryTyped(std::string_view entry) {
+    std::string single;
+    for (const std::string_view word : words(entry))
+        single.append(single.empty() ? "" : " ").append(word);
+    ScheduleEntry typed = scheduleEntryOf(single);
+    if (std::ranges::find(typed.Days, true) == typed.Days.end()) typed.Days.fill(true);
+    return typed;
 }
 
 bool IsTimeValid(std::string_view text) {

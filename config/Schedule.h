@@ -18,6 +18,12 @@ struct Settings;
 // The text under which an entry is stored.
 [[nodiscard]] std::string storedTextOf(const ScheduleEntry& entry);
 
+// The complaint about an entry as somebody types it, such as "wed mon 07:30": days if any, in any order, and one time.
+// Empty when there is none.
+[[nodiscard]] std::string mistakeInTyped(std::string_view entry);
+// The entry that such a text stands for; one without days is active on all of them.
+[[nodiscard]] ScheduleEntry scheduleEntryTyped(std::string_view entry);
+
 // True for five characters "HH:MM" between blanks, digits only. The hour 24 is accepted.
 [[nodiscard]] bool IsTimeValid(std::string_view text);
 

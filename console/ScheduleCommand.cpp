@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "console/ScheduleCommand.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -17,23 +16,6 @@ namespace {
 
 constexpr std::array<std::string_view, 7> longDayNames{"Monday", "Tuesday",  "Wednesday", "Thursday",
                                                        "Friday", "Saturday", "Sunday"};
-
-bool isDayName(std::string_view word) {
-    return std::any_of(scheduleDays.begin(), scheduleDays.end(),
-                       [&](std::string_view day) { return equalNoCase(day, word); });
-}
-
-// What is wrong with an entry as it was typed; empty when nothing is.
-std::string mistakeIn(std::string_view typed) {
-    int times = 0;
-    for (const std::string_view word : Split(Trim(typed), " ")) {
-        if (word.empty() || isDayName(word)) continue;
-        if (!IsTimeValid(word))
-            return "'" + std::string(word) + "' is neither a day (Mon Tue Wed Thu Fri Sat Sun) nor a time (HH:MM).";
-        ++times;
-    }
-    return times == 1 ? "" : "An entry has one time, such as \"Mon Wed 07:30\".";
-}
 
 }  // namespace
 
@@ -66,21 +48,11 @@ void ScheduleCommand::show() {
 }
 
 int ScheduleCommand::add(std::string_view typed) {
-    if (const std::string mistake = mistakeIn(typed); !mistake.empty()) {
+    if (const std::string mistake = mistakeInTyped(typed); !mistake.empty()) {
         screen_.tell(mistake);
         return exit_code::Usage;
     }
-    ScheduleEntry entry;
-    for (const std::string_view word : Split(Trim(typed), " ")) {
-        const auto day = std::find_if(scheduleDays.begin(), scheduleDays.end(),
-                                      [&](std::string_view name) { return equalNoCase(name, word); });
-        if (day != scheduleDays.end())
-            entry.Days[static_cast<std::size_t>(day - scheduleDays.begin())] = true;
-        else if (!word.empty())
-            entry.Time = word;
-    }
-    if (std::find(entry.Days.begin(), entry.Days.end(), true) == entry.Days.end()) entry.Days.fill(true);
-    dialog_.add(std::move(entry));
+    dialog_.add(scheduleEntryTyped(typed));
     return save();
 }
 

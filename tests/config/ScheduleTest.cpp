@@ -59,6 +59,15 @@ TEST_F(ScheduleTest, takesFiveCharactersOfATimeOfDay) {
         EXPECT_FALSE(IsTimeValid(bad)) << bad;
 }
 
+TEST_F(ScheduleTest, takesTypedEntriesInAnyOrderWithOneTime) {
+    EXPECT_EQ(storedTextOf(scheduleEntryTyped(" 07:30  fri mon ")), "Mon Fri 07:30");
+    EXPECT_EQ(storedTextOf(scheduleEntryTyped("24:30")), "Mon Tue Wed Thu Fri Sat Sun 24:30");
+    EXPECT_EQ(mistakeInTyped("wed 07:30"), "");
+    for (const char* wrong : {"", "Mon", "07:30 08:30"})
+        EXPECT_EQ(mistakeInTyped(wrong), "An entry has one time, such as \"Mon Wed 07:30\".");
+    EXPECT_EQ(mistakeInTyped("Mo 07:30"), "'Mo' is neither a day (Mon Tue Wed Thu Fri Sat Sun) nor a time (HH:MM).");
+}
+
 TEST_F(ScheduleTest, addsOnlyAValidTimeOnEveryDay) {
     const std::string prompt = "Schedule Time: Enter a valid time in the format HH:MM ie. 15:30|";
     const std::pair<const char*, Lines> cases[] = {
