@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <string>
 
+#include "app/run/ClippingBooks.h"
+#include "app/run/FileTurns.h"
 #include "log/EventLog.h"
-#include "store/DayIndex.h"
 
 namespace vell {
 
@@ -48,35 +48,17 @@ class DownloadRun {
     void StartDownload();
 
   private:
-    // What one file's turn in the run knows.
-    struct FileTurn {
-        std::int32_t Index;
-        std::string Name;
-        std::int64_t Start;  // bytes of it that were there before
-        bool IsAdvertisement;
-    };
-
     void run();
     [[nodiscard]] bool prepare();
     void reportNothingToDownload();
     void fetchAll();
-    void fetchOne(std::int32_t index);
-    [[nodiscard]] bool attempt(const FileTurn& turn);
-    [[nodiscard]] bool retry(const FileTurn& turn);
-    [[nodiscard]] bool adownloadFile(const std::string& name, const std::string& localPath);
-    void keepBooks(const std::string& name, bool ok);
-    void markDownloaded(const std::string& pdfName);
-    void printWhenNew(const FileTurn& turn);
     void finish();
 
     void say(const std::string& text);  // in the status line and the log
-    [[nodiscard]] std::string counter(std::int32_t index) const;
-    [[nodiscard]] std::int64_t localSize(const std::string& name) const;
 
     Parts p_;
-    DayIndex index_;
-    bool pdfOk_ = false;
-    bool textOk_ = false;
+    ClippingBooks books_;
+    FileTurns turns_;
     bool lastOk_ = true;
 };
 
