@@ -135,6 +135,25 @@ TEST_F(EndToEndTest, printsOpensAndDeletesWhatIsNamedAndAsksBeforeMore) {
     unsetenv("XDG_CONFIG_HOME");
 }
 
+TEST_F(EndToEndTest, saysWhatItMayNotWriteAndLeavesWhatIsThere) {
+    namespace fs = std::filesystem;
+    ASSERT_EQ(run(download_)[0], '0');
+    const auto before = tree();
+    for (const auto& [place, arguments, told] : std::vector<std::array<std::string, 3>>{
+             {"clips", "download,--date,08/03/2004", "!Error! Download folder not created."},
+             {"clips/07032004", "download,--date,07/03/2004", "\nError while getting list of files to download\n"},
+             {"", "setup,TimeOut,30", "The settings file could not be written"}}) {
+        fs::permissions(folder_.path() / place, fs::perms::owner_read | fs::perms::owner_exec);
+        if (access((folder_.path() / place).c_str(), W_OK) == 0) GTEST_SKIP() << "nothing is refused to this user";
+        const auto words = Split(arguments, ",");
+        const std::string answer = run({words.begin(), words.end()});
+        fs::permissions(folder_.path() / place, fs::perms::owner_all);
+        EXPECT_EQ(answer[0], '1') << place;
+        EXPECT_NE(answer.find(told), std::string::npos) << answer;
+        EXPECT_EQ(tree(), before) << place;
+    }
+}
+
 TEST_F(EndToEndTest, stopsAtSigintAfterTheFileUnderWayAndLetsNobodyElseWorkMeanwhile) {
     std::atomic<ConsoleProgram*> running = nullptr;
     int answered = 0;

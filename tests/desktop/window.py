@@ -98,9 +98,10 @@ class Window:
         """The id of the window or dialog in front, once there is one."""
         return wait(self.window_ids)[-1]
 
-    def click(self, node, times=1, offset=(8, 8)):
+    def click(self, node, times=1):
+        """On its middle."""
         place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
-        at = [str(place.x + offset[0]), str(place.y + offset[1])]
+        at = [str(place.x + place.width // 2), str(place.y + place.height // 2)]
         subprocess.run(["xdotool", "mousemove", *at, "click", "--repeat", str(times), "--delay", "60", "1"], check=True)
 
     def shoot(self, path):

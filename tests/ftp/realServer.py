@@ -3,7 +3,7 @@
 four digits, which is as many as the program's settings keep. Both let in "vell" with "ruxo"; CONFIG is a file to
 write. Prints 0 when the server is not there.
     realServer.py pyftpdlib|proftpd FOLDER CONFIG [PORT]"""
-import crypt, logging, os, random, socket, subprocess, sys  # noqa: E401
+import crypt, grp, logging, os, pwd, random, socket, subprocess, sys  # noqa: E401
 
 
 def listen(wanted):
@@ -36,8 +36,14 @@ me = os.stat(folder)
 with open(os.open(config + '.users', os.O_WRONLY | os.O_CREAT, 0o600), 'w') as file:
     file.write(f'vell:{crypt.crypt("ruxo")}:{me.st_uid}:{me.st_gid}::{folder}:/bin/sh\n')
 settings = ('ServerType inetd\nDefaultAddress 127.0.0.1\nRequireValidShell off\nRootLogin on\nUseIPv6 off\nWtmpLog off\nTransferLog none\n'
-            f'SystemLog none\nScoreboardFile {config}.board\nAuthOrder mod_auth_file.c\nDefaultRoot ~\n'
+            f'SystemLog none\nScoreboardFile {config}.board\nAuthOrder mod_auth_file.c\nDelayEngine off\n'
+            f'User {pwd.getpwuid(os.geteuid()).pw_name}\nGroup {grp.getgrgid(os.getegid()).gr_name}\n'
             f'AuthUserFile {config}.users\nAllowOverwrite on\nAllowStoreRestart on\n')
+try:
+    os.chroot('/')  # only who may do this can lock a session in
+    settings += 'DefaultRoot ~\n'
+except PermissionError:
+    pass
 with open(config, 'w') as file:
     file.write(settings)
 print(listener.getsockname()[1], flush=True)
