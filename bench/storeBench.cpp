@@ -120,5 +120,20 @@ void markAClipping(benchmark::State& state) {
 }
 BENCHMARK(markAClipping)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
+// The day has been fetched and every clipping is marked; it is fetched once more.
+void markAMarkedDayAgain(benchmark::State& state) {
+    const auto count = static_cast<int>(state.range(0));
+    Day day(count);
+    DayIndex index(day.Disk);
+    const auto markAll = [&] {
+        for (int number = 0; number < count; ++number)
+            index.markDownloaded(day.folder(), nameOf(number));
+    };
+    markAll();
+    for (auto _ : state)
+        markAll();
+}
+BENCHMARK(markAMarkedDayAgain)->Arg(3000)->Unit(benchmark::kMillisecond);
+
 }  // namespace
 }  // namespace vell
