@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 #include <utility>
 
 #include "base/text.h"
@@ -13,8 +12,10 @@
 #include "service/ListMerge.h"
 #include "service/RunFeedback.h"
 #include "service/modHTTP.h"
+#include "store/ClippingName.h"
 #include "store/DayState.h"
 #include "store/IndexFile.h"
+#include "store/IndexLine.h"
 #include "store/modGlobal.h"
 
 namespace vell {
@@ -28,21 +29,8 @@ constexpr int refusedLogin = 1001;
 constexpr int nothingForTheDay = 1002;
 constexpr std::size_t shownOfBadRecord = 80;
 
-constexpr std::size_t changeField = 5;
-// Fields with the sizes of a clipping's three forms.
-constexpr std::size_t pdfSizeField = 7;
-constexpr std::size_t textSizeField = 8;
-constexpr std::size_t companionSizeField = 9;
-
-// A size is of use for progress alone: an absurd one ("1E999") must not cost the user the day.
-std::int32_t sizeOf(std::string_view field) {
-    constexpr double most = std::numeric_limits<std::int32_t>::max();
-    try {
-        return CInt32(std::clamp(Val(field), 0.0, most));
-    } catch (const RunTimeError&) {
-        return 0;
-    }
-}
+// The fields with the sizes of a clipping's three forms.
+constexpr std::array sizeFields{IndexField::PdfSize, IndexField::TextSize, IndexField::CompanionSize};
 
 // The form fields that name a day: "dd", "mm" and "yyyy", each with this at its end.
 std::string dayFields(const Date& day, std::string_view suffix) {
@@ -136,8 +124,7 @@ DownloadList::Verdict DownloadList::judge(std::vector<std::string>& records) {
 
 void DownloadList::dropBadRecords(std::vector<std::string>& records) {
     std::erase_if(records, [&](const std::string& record) {
-        if (record.empty() || (record.find("||") != std::string::npos && isClippingName(indexKey(record))))
-            return false;
+        if (record.empty() || (indexFields(record).size() > 1 && isClippingName(indexKey(record)))) return false;
         log_.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" +
                       record.substr(0, shownOfBadRecord) + "'");
         return true;
@@ -156,7 +143,7 @@ std::unordered_set<std::string> DownloadList::storeIndex(std::vector<std::string
     }
     std::string text;
     for (const std::string& record : records)
-        text.append(record).append("\r\n");
+        appendIndexLine(text, record);
     files_.WriteWhole(path, text, Durability::Rename);
     state_.gClippingsCount = static_cast<std::int32_t>(
         records.size() - static_cast<std::size_t>(std::count_if(records.begin(), records.end(), isEmpty)));
@@ -169,11 +156,10 @@ void DownloadList::fillDownloadList(const std::vector<std::string>& records,
     for (const std::string& record : records) {
         if (record.empty()) continue;
         const std::string name(indexKey(record));
-        const std::string change(indexField(record, changeField));
-        const bool isOutdated = changed.contains(name);
-        append({name, sizeOf(indexField(record, pdfSizeField)), change, isOutdated});
-        append({Replace(name, ".PDF", ".TXT"), sizeOf(indexField(record, textSizeField)), change, isOutdated});
-        append({Replace(name, ".PDF", ".MT"), sizeOf(indexField(record, companionSizeField)), change, isOutdated});
+        const std::string change(indexField(record, IndexField::Change));
+        auto forms = clippingForms(name);
+        for (std::size_t i = 0; i < forms.size(); ++i)
+            append({std::move(forms[i]), indexSize(record, sizeFields[i]), change, changed.contains(name)});
     }
 }
 

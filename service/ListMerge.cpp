@@ -5,15 +5,11 @@
 #include <utility>
 
 #include "base/text.h"
-#include "store/IndexFile.h"
+#include "store/IndexLine.h"
 
 namespace vell {
 
 namespace {
-
-constexpr std::string_view lineEnd = "\r\n";
-constexpr std::size_t changeField = 5;
-constexpr std::size_t markField = 6;
 
 std::string lineBreaksMade(std::string_view answer) {
     std::string text;
@@ -24,26 +20,21 @@ std::string lineBreaksMade(std::string_view answer) {
         if (at == std::string_view::npos) break;
         answer.remove_prefix(at);
         const bool isBreak = equalNoCase(answer.substr(0, 4), "<BR>");
-        text.append(isBreak ? lineEnd : answer.substr(0, 1));
+        text.append(isBreak ? indexLineEnd : answer.substr(0, 1));
         answer.remove_prefix(isBreak ? 4 : 1);
     }
     return text;
 }
 
 bool sameVersion(std::string_view oldLine, std::string_view record) {
-    return indexField(oldLine, changeField) == indexField(record, changeField);
-}
-
-void markFetched(std::string& record) {
-    constexpr std::string_view openMark = "||-||";
-    if (const auto at = record.find(openMark); at != std::string::npos) record.replace(at, openMark.size(), "||d||");
+    return indexField(oldLine, IndexField::Change) == indexField(record, IndexField::Change);
 }
 
 }  // namespace
 
 std::vector<std::string> answerRecords(std::string_view answer) {
     const std::string text = withoutAccents(Upper(Trim(lineBreaksMade(answer))));
-    const auto pieces = Split(text, lineEnd);
+    const auto pieces = Split(text, indexLineEnd);
     return {pieces.begin(), pieces.end()};
 }
 
@@ -52,10 +43,7 @@ Merged mergeWithIndex(std::vector<std::string> records, std::string_view oldInde
     for (const std::string& record : records)
         listed.emplace(indexKey(record));
 
-    std::vector<std::string_view> old;
-    for (const std::string_view line : Split(oldIndex, lineEnd))
-        if (!line.empty()) old.push_back(line);
-
+    const auto old = indexLines(oldIndex);
     Merged merged;
     std::size_t position = 0;
     const auto passOld = [&] {
@@ -70,8 +58,8 @@ Merged mergeWithIndex(std::vector<std::string> records, std::string_view oldInde
         if (position < old.size() && name == indexKey(old[position])) {
             if (!sameVersion(old[position], record))
                 merged.ChangedFiles.emplace(name);
-            else if (indexField(old[position], markField) == "d")
-                markFetched(record);
+            else if (isMarked(old[position]))
+                markFirst(record);
             ++position;
         }
     }

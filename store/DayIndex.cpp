@@ -3,34 +3,26 @@
 
 #include <utility>
 
-#include "base/text.h"
 #include "store/IndexFile.h"
+#include "store/IndexLine.h"
 
 namespace vell {
-
-namespace {
-constexpr std::string_view lineEnd = "\r\n";
-constexpr std::string_view openMark = "||-||";
-constexpr std::size_t markOffset = 2;  // of the "-" that becomes "d"
-}  // namespace
 
 DayIndex::DayIndex(Files& files) : files_(files) {}
 
 int DayIndex::markDownloaded(const std::string& dayFolder, const std::string& pdfName) {
     load(dayFolder + std::string(indexFileName));
+    std::vector<std::size_t> changed;
     const auto lines = linesOf_.find(pdfName);
     if (lines == linesOf_.end()) {
-        store({});
+        store(changed);
         return 0;
     }
-    std::vector<std::size_t> changed;
-    for (const std::size_t begin : lines->second) {
-        const std::size_t end = text_.find(lineEnd, begin);
-        for (std::size_t at = text_.find(openMark, begin); at < end; at = text_.find(openMark, at + openMark.size())) {
-            changed.push_back(at + markOffset);
-            text_[changed.back()] = 'd';
+    for (const auto& [begin, length] : lines->second)
+        for (const std::size_t place : openMarks(std::string_view(text_).substr(begin, length))) {
+            changed.push_back(begin + place);
+            text_[changed.back()] = arrivedMark;
         }
-    }
     store(changed);
     return static_cast<int>(lines->second.size());
 }
@@ -54,12 +46,12 @@ void DayIndex::load(const std::string& path) {
     path_ = path;
     text_.clear();
     linesOf_.clear();
-    for (const std::string_view line : Split(content, lineEnd)) {
-        if (line.find("||") == std::string_view::npos) continue;
-        linesOf_[std::string(indexKey(line))].push_back(text_.size());
-        text_.append(line).append(lineEnd);
+    for (const std::string_view line : indexLines(content)) {
+        if (indexFields(line).size() < 2) continue;
+        linesOf_[std::string(indexKey(line))].push_back({text_.size(), line.size()});
+        appendIndexLine(text_, line);
     }
-    text_.append(lineEnd);
+    appendIndexLine(text_, "");
 }
 
 }  // namespace vell

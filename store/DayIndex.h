@@ -25,6 +25,12 @@ class DayIndex {
     int markDownloaded(const std::string& dayFolder, const std::string& pdfName);
 
   private:
+    // Where a line stands in text_.
+    struct Line {
+        std::size_t Begin;
+        std::size_t Length;
+    };
+
     void load(const std::string& path);
     void store(const std::vector<std::size_t>& changed);
 
@@ -33,7 +39,7 @@ class DayIndex {
     std::optional<FileStamp> stamp_;  // of the file as it was written last
     bool isOnDisk_ = false;           // the file was written from text_
     std::string text_;
-    std::unordered_map<std::string, std::vector<std::size_t>> linesOf_;  // where a clipping's lines begin in text_
+    std::unordered_map<std::string, std::vector<Line>> linesOf_;  // of a clipping
 };
 
 }  // namespace vell

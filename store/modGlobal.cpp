@@ -2,7 +2,6 @@
 #include "store/modGlobal.h"
 
 #include <algorithm>
-#include <array>
 #include <functional>
 #include <limits>
 #include <unordered_map>
@@ -14,6 +13,7 @@
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "store/ClippingName.h"
 
 namespace vell {
 
@@ -124,9 +124,7 @@ void modGlobal::DeleteContent(const Date& day) {
 }
 
 void modGlobal::DeleteArticleFiles(const std::string& fileName) {
-    const std::string textName = Replace(fileName, ".PDF", ".TXT");
-    const std::array<std::string, 3> forms{fileName, textName, Replace(textName, ".TXT", ".MT")};
-    deleteFromSelectedDay(forms, "DeleteArticleFiles()");
+    deleteFromSelectedDay(clippingForms(fileName), "DeleteArticleFiles()");
 }
 
 void modGlobal::DeleteDayFile(const std::string& fileName) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include "store/ClippingName.h"
 #include "store/DayIndex.h"
 #include "store/IndexFile.h"
 #include "tests/support/StoreRig.h"
@@ -39,13 +40,16 @@ TEST_F(IndexTest, readsEveryRecordThatAnotherLineFollows) {
 }
 
 TEST_F(IndexTest, letsNoNameLeadOutOfTheDayFolder) {
-    for (const auto name : Split("A.PDF|\xC1\xC2 1.PDF|A.B.PDF|CONX.PDF|COM.PDF|COM10.PDF|A=B;[1].PDF|.PDF", "|"))
+    const std::string good =
+        "A.PDF|\xC1\xC2 1.PDF|A.B.PDF|CONX.PDF|COM.PDF|COM10.PDF|A=B;[1].PDF|.PDF|" + std::string(98, '\xC1') + ".PDF";
+    for (const auto name : Split(good, "|"))
         EXPECT_TRUE(isClippingName(name)) << name;
     const std::string bad = Replace(
         "@.@..@..\\A.PDF@../A.PDF@A/B.PDF@A\\B.PDF@\\A.PDF@C:A.PDF@A:B.PDF@A..PDF@A.PDF.@A.PDF @ A.PDF@A\tB.PDF@"
-        "A\x7F.PDF@A*.PDF@A?.PDF@A<.PDF@A>.PDF@A|B.PDF@A\".PDF@CON@con.PDF@NUL.X.PDF@AUX .PDF@PRN@COM1.PDF@lpt9.TXT@"
-        "CONIN$@ALLFILES.DIR@allfiles.dir@ALERT.MSG@OPENED.DIR@PRINTED.DIR@A%.PDF@" +
-            std::string(201, 'A'),
+        "A\x7F.PDF@A*.PDF@A?.PDF@A<.PDF@A>.PDF@A|B.PDF@A\".PDF@CON.PDF@con.PDF@NUL.X.PDF@AUX "
+        ".PDF@PRN.PDF@COM1.PDF@lpt9.PDF@"
+        "CONIN$.PDF@ALLFILES.DIR@A.pdf@A.TXT@A%.PDF@" +
+            std::string(197, 'A') + ".PDF@" + std::string(99, '\xC1') + ".PDF",
         "%", std::string(1, '\0'));
     for (const auto name : Split(bad, "@"))
         EXPECT_FALSE(isClippingName(name)) << name;
