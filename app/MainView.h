@@ -24,7 +24,8 @@ class MainView : public BrowserView {
     virtual void displayInfoMessageBox(std::string_view text) = 0;
     // Opens the setup dialog and returns when it is closed.
     virtual void openSetup() = 0;
-    // A front-end that shows no other day than the one it downloads.
+    // True for a front-end that shows no other day than the one it downloads. Elsewhere a run leaves the chosen day
+    // alone.
     [[nodiscard]] virtual bool followsRun() const = 0;
 
     // Of a front-end that has a window.

@@ -4,40 +4,32 @@
 #include <cstdint>
 #include <string>
 
-#include "base/Date.h"
+#include "app/RunContext.h"
 #include "config/Settings.h"
 #include "service/DownloadState.h"
-#include "store/DayState.h"
 
 namespace vell {
 
-// How a download went, for whoever started it.
-struct RunOutcome {
-    bool FolderFailed = false;  // the day folder could not be made
-    bool ListFailed = false;
-    bool FtpFailed = false;     // no FTP session came up
-    bool NoConnection = false;  // the machine did not come on line
-    bool Stopped = false;
-    bool Broken = false;  // an unexpected error ended it
-    int FilesFailed = 0;
-
-    [[nodiscard]] bool isGood() const {
-        return !NoConnection && !FolderFailed && !ListFailed && !FtpFailed && !Broken && FilesFailed == 0;
-    }
-};
+// What the program is doing about downloads. All but Idle belong to one download, or to the end of the program.
+enum class Activity { Idle, Connecting, Running, BetweenDays, HangingUp };
 
 // The state of one session of the program: the only state that is shared. Owned by frmMain.
 struct Session {
     std::string gAppPath;  // the program's folder, backslash at its end
     std::string gVersion;  // "major.minor.revision"
     Settings Setup;
-    DayState Day;
     DownloadState Downloads;
 
-    bool gIsBusy = false;          // a download run is under way
-    bool gIsTransferring = false;  // it fetches files
-    bool gStopRequested = false;   // the user asked to stop
-    bool IsEnding = false;         // the program is to end: no run begins any more
+    Activity Doing = Activity::Idle;
+    RunContext Run;               // of the download under way, else of the last one
+    bool gStopRequested = false;  // the user asked the download under way to stop
+    bool IsEnding = false;        // the program is to end: no download begins any more
+
+    [[nodiscard]] bool isIdle() const { return Doing == Activity::Idle; }
+    // A download run is under way.
+    [[nodiscard]] bool gIsBusy() const { return Doing == Activity::Running; }
+    // Nobody is there whom what is under way could ask.
+    [[nodiscard]] bool isAlone() const { return !isIdle() && Run.BegunBy == Starter::Schedule; }
 
     std::int32_t gCurrentFileIndex = 0;     // one-based, in the download list
     std::int32_t gClippingsDownloaded = 0;  // newly marked in this run; a fetched advertisement counts one
@@ -47,13 +39,21 @@ struct Session {
     [[nodiscard]] DownloadEntry* currentEntry();
     [[nodiscard]] const DownloadEntry* currentEntry() const;
     [[nodiscard]] std::string currentFile() const;
+};
 
-    bool DownloadToday = true;  // else the days from dtFromDate to dtToDate
-    Date dtFromDate;
-    Date dtToDate;
+// Says what the program is doing for as long as it lives; after that it does again what it did before.
+class ActivityScope {
+  public:
+    ActivityScope(Session& session, Activity activity) : doing_(session.Doing), before_(session.Doing) {
+        doing_ = activity;
+    }
+    ~ActivityScope() { doing_ = before_; }
+    ActivityScope(const ActivityScope&) = delete;
+    ActivityScope& operator=(const ActivityScope&) = delete;
 
-    bool StartedByUser = true;  // the run under way, who can then be asked things; the schedule's runs are alone
-    RunOutcome Outcome;         // of the forced download or scheduled run under way, over all of its days
+  private:
+    Activity& doing_;
+    Activity before_;
 };
 
 }  // namespace vell

@@ -19,8 +19,6 @@
 namespace vell {
 
 namespace {
-// Twenty pictures a second are as many as an eye needs; more would cost the run its speed.
-constexpr std::chrono::milliseconds paintInterval{50};
 // The same for every front-end: they tell one story.
 constexpr std::string_view logFileName = "vell.log";
 }  // namespace
@@ -31,27 +29,10 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       log_(platform.Time, platform.Disk),
       ini_(platform.Ini, log_),
       loader_(session_.Setup, ini_, log_, log_),
-      store_(platform.Disk, platform.Loop, platform.Boxes, ini_, log_, session_.Setup, session_.Day),
-      articles_(platform.DesktopShell, platform.Boxes, platform.Loop, log_),
-      runBoxes_(session_, platform.Boxes, view),
-      runArticles_(platform.DesktopShell, runBoxes_, platform.Loop, log_),
-      progress_(session_, view, platform.Loop, platform.Time, log_, paintInterval),
-      http_(platform.Internet, platform.Disk, platform.Boxes, progress_, log_, session_.Setup),
-      ftp_(session_, platform_, view, progress_, log_, paintInterval),
-      list_(http_, store_, platform.Disk, runBoxes_, progress_, log_, session_.Setup, session_.Day, session_.Downloads,
-            version),
-      browser_(store_, platform.Disk, view, platform.Time, log_, session_.Setup, session_.Day),
-      gInet_(platform.Connection, platform.Boxes, log_),
-      ras_(platform.Ras, log_),
-      link_({session_.Setup, progress_, view, platform.Boxes, platform.Loop, log_, gInet_, ras_}),
-      opening_(browser_, store_, articles_, log_, [this](std::string_view text) { progress_.StatusBar(text); }),
-      printing_({browser_, store_, articles_, platform.Loop, platform.Boxes, platform.Printer, log_, session_.Setup},
-                [this](std::string_view text) { progress_.StatusBar(text); }),
-      autoView_(browser_, opening_, platform.Loop, session_.Setup),
-      days_(browser_, store_, platform.Boxes, log_),
-      run_({session_, view, platform.Loop, platform.Time, platform.Disk, log_, store_, runArticles_, http_, ftp_, list_,
-            browser_, progress_}),
-      scheduled_(session_, view, platform.Loop, platform.Time, log_, run_, link_, browser_) {
+      progress_(session_, view, platform.Loop, platform.Time, log_, usualPaintInterval),
+      reading_(
+          {platform_, view, ini_, log_, session_.Setup, [this](std::string_view text) { progress_.StatusBar(text); }}),
+      fetching_({platform_, view, session_, ini_, log_, progress_, reading_.Browser, version}) {
     session_.gVersion = std::move(version);
 }
 
@@ -77,18 +58,15 @@ bool frmMain::Form_Load(Start start) {
     loader_.GetSetup();
     if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
     GetSchedule(session_.Setup, ini_, log_);
-    browser_.PopulateDateCombo();
+    reading_.Browser.PopulateDateCombo();
     if (start == Start::Window) showFirstDay();
     return true;
 }
 
 void frmMain::showToday() {
     const Date today = platform_.Time.Now().Day;
-    session_.Day.gCurrentDate = today;
-    session_.dtFromDate = today;
-    session_.dtToDate = today;
-    session_.DownloadToday = true;
-    view_.showDateRange(today, today);
+    session_.Run.Day.gCurrentDate = today;
+    fetching_.Forced.reset(today);
 }
 
 bool frmMain::isRefused() {
@@ -109,61 +87,29 @@ void frmMain::findProgramFolder() {
 }
 
 void frmMain::showFirstDay() {
-    days_.chooseFirst(platform_.Time.Now().Day);
+    reading_.Days.chooseFirst(platform_.Time.Now().Day);
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
-    startSchedule();
+    fetching_.Scheduled.start();
 }
 
 void frmMain::Form_Unload() {
     if (mIsSecondInstance_ || mUpdatePending_) return;
-    platform_.Loop.KillTimer(tmrSchedule_);
+    fetching_.Scheduled.stop();
+    // Nothing begins any more; and whoever ends the program is there to be asked, also in the middle of a scheduled
+    // run.
+    const ActivityScope ending(session_, Activity::HangingUp);
+    session_.Run.BegunBy = Starter::Person;
     if (const auto place = view_.windowPlace()) saveWindowPlace(ini_, *place);
     if (isOnline_) closeConnections();
     log_.Stop();
 }
 
 void frmMain::closeConnections() {
-    (void)ftp_.StopFTP(true);
-    if (!session_.Setup.CloseConnection || link_.StopINET(true)) return;
+    (void)fetching_.Ftp.StopFTP(true);
+    if (!session_.Setup.CloseConnection || fetching_.Link.StopINET(true)) return;
     constexpr std::string_view failed = "Error! Could not close dial-up connection";
     platform_.Boxes.Show(failed, programCaption, Buttons::Ok, BoxIcon::None);
     log_.WriteLog(failed);
-}
-
-void frmMain::chooseToday() {
-    session_.DownloadToday = true;
-}
-
-void frmMain::chooseRange(const Date& from, const Date& to) {
-    session_.DownloadToday = false;
-    session_.dtFromDate = from;
-    session_.dtToDate = to;
-    view_.showDateRange(from, to);
-}
-
-void frmMain::chooseOtherFrom() {
-    session_.DownloadToday = false;
-}
-
-void frmMain::dtFromDate_Change(const Date& from) {
-    scheduled_.dtFromDate_Change(from);
-}
-
-void frmMain::dtToDate_Change(const Date& to) {
-    scheduled_.dtToDate_Change(to);
-}
-
-void frmMain::mnuForceDownload_Click() {
-    scheduled_.mnuForceDownload_Click();
-}
-
-void frmMain::cmdStopDownload_Click() {
-    session_.gStopRequested = true;
-    // A file that comes in is let come; one whose server has fallen silent would hold up the end of the run.
-    platform_.Internet.CancelRequests(InternetApi::Cancel::Stalled);
-    platform_.Loop.DoEvents();
-    (void)ftp_.StopFTP(true);
-    progress_.StatusBar("Download STOPED by user.");
 }
 
 void frmMain::endSession() {
@@ -171,16 +117,12 @@ void frmMain::endSession() {
     session_.gStopRequested = true;
     platform_.Connection.CancelWaits();
     platform_.Internet.CancelRequests(InternetApi::Cancel::All);
-    ftp_.breakOff();
-}
-
-void frmMain::startSchedule() {
-    tmrSchedule_ = platform_.Loop.SetTimer(ScheduledRuns::tickMilliseconds, [this] { scheduled_.tmrSchedule_Timer(); });
+    fetching_.Ftp.breakOff();
 }
 
 std::vector<std::string> frmMain::dialUpNames() {
     std::vector<std::string> names;
-    (void)ras_.VBRasGetAllEntries("", names);
+    (void)fetching_.Ras.VBRasGetAllEntries("", names);
     return names;
 }
 

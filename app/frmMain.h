@@ -1,35 +1,19 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/Reading.h"
 #include "app/Session.h"
-#include "app/run/DownloadRun.h"
-#include "app/run/FtpSession.h"
-#include "app/run/InternetLink.h"
-#include "app/run/RunBoxes.h"
-#include "app/run/ScheduledRuns.h"
+#include "app/run/Fetching.h"
 #include "app/run/TransferProgress.h"
 #include "config/SettingsLoader.h"
 #include "config/frmSchedule.h"
 #include "config/frmSetup.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
-#include "net/CWinInetConnection.h"
-#include "net/ModRAS.h"
-#include "platform/EventLoop.h"
 #include "platform/Platform.h"
-#include "service/DownloadList.h"
-#include "service/modHTTP.h"
-#include "store/Articles.h"
-#include "store/modGlobal.h"
-#include "ui/ClippingOpening.h"
-#include "ui/ClippingsBrowser.h"
-#include "ui/DayCommands.h"
-#include "ui/PrintCommands.h"
-#include "ui/dialogs/frmAutoView.h"
 
 namespace vell {
 
@@ -54,33 +38,17 @@ class frmMain {
     void Form_Unload();
     [[nodiscard]] bool isSecondInstance() const { return mIsSecondInstance_; }
 
-    // The user's download and its end. The outcome tells how it went.
-    void chooseToday();
-    void chooseRange(const Date& from, const Date& to);
-    void mnuForceDownload_Click();
-    void cmdStopDownload_Click();
     // The program is to end: what is under way is given up at once, and no run begins any more.
     void endSession();
 
-    // The schedule's timer; it ticks in the event loop from startSchedule on.
-    void startSchedule();
-    [[nodiscard]] std::optional<LocalTime> nextDue() const { return scheduled_.nextDue(); }
-    [[nodiscard]] bool isBusy() const { return session_.gIsBusy; }
-    // The user has changed one end of the range, or chosen between today and the range as it stands.
-    void chooseOtherFrom();
-    void dtFromDate_Change(const Date& from);
-    void dtToDate_Change(const Date& to);
-    [[nodiscard]] const RunOutcome& outcome() const { return session_.Outcome; }
+    [[nodiscard]] Downloads& downloads() { return fetching_.Forced; }
+    [[nodiscard]] ScheduledRuns& schedule() { return fetching_.Scheduled; }
+    [[nodiscard]] Reading& reading() { return reading_; }
 
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] frmSchedule scheduleDialog();
     // The dial-up connections that the setup dialog offers.
     [[nodiscard]] std::vector<std::string> dialUpNames();
-    [[nodiscard]] ClippingsBrowser& browser() { return browser_; }
-    [[nodiscard]] ClippingOpening& opening() { return opening_; }
-    [[nodiscard]] PrintCommands& printing() { return printing_; }
-    [[nodiscard]] frmAutoView& autoView() { return autoView_; }
-    [[nodiscard]] DayCommands& dayCommands() { return days_; }
     [[nodiscard]] const std::string& version() const { return session_.gVersion; }
     [[nodiscard]] const Settings& settings() const { return session_.Setup; }
     // False when the settings file is damaged and was read in part only.
@@ -100,28 +68,12 @@ class frmMain {
     EventLog log_;
     modIni ini_;
     SettingsLoader loader_;
-    modGlobal store_;
-    Articles articles_;
-    RunBoxes runBoxes_;
-    Articles runArticles_;  // printed by a run
     TransferProgress progress_;
-    modHTTP http_;
-    FtpSession ftp_;
-    DownloadList list_;
-    ClippingsBrowser browser_;
-    CWinInetConnection gInet_;
-    ModRAS ras_;
-    InternetLink link_;
-    ClippingOpening opening_;
-    PrintCommands printing_;
-    frmAutoView autoView_;
-    DayCommands days_;
-    DownloadRun run_;
-    ScheduledRuns scheduled_;
+    Reading reading_;
+    Fetching fetching_;
     bool mIsSecondInstance_ = false;
     bool mUpdatePending_ = false;
     bool isOnline_ = false;  // this session's connections are its to close
-    EventLoop::TimerId tmrSchedule_ = 0;
 };
 
 }  // namespace vell

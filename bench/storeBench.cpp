@@ -93,7 +93,7 @@ class Day {
     DayState State{{2004, 3, 7}, "", Date{2004, 3, 7}};
     modGlobal Store{Disk, Loop, Boxes, Inis, Log, settings_, State};
     NoView View;
-    ClippingsBrowser Browser{Store, Disk, View, Time, Log, settings_, State};
+    ClippingsBrowser Browser{{Store, Disk, View, Time, Log, settings_, State}};
 };
 
 void readIndexOfManyRecords(benchmark::State& state) {

@@ -39,7 +39,7 @@ ClippingCommands::ClippingCommands(frmMain& program, EventLoop& loop, const Cons
     : program_(program), loop_(loop), view_(view), terminal_(terminal), screen_(screen) {}
 
 bool ClippingCommands::chooseDay(const std::optional<Date>& day) {
-    ClippingsBrowser& browser = program_.browser();
+    ClippingsBrowser& browser = program_.reading().Browser;
     if (browser.days().empty() && !day) {
         screen_.tell("No day has been fetched yet. 'vell-console download' fetches today's clippings.");
         return false;
@@ -52,7 +52,7 @@ bool ClippingCommands::chooseDay(const std::optional<Date>& day) {
 
 int ClippingCommands::list(const CommandLine& line) {
     if (!chooseDay(line.Day)) return codeOf(!line.Day);
-    const ClippingsBrowser& browser = program_.browser();
+    const ClippingsBrowser& browser = program_.reading().Browser;
     if (line.Tsv) {
         for (const ClippingRow& row : browser.rows())
             screen_.print(clippingTsv(row));
@@ -69,8 +69,9 @@ int ClippingCommands::list(const CommandLine& line) {
 
 int ClippingCommands::open(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
-    return forEachFile(
-        line, [this](std::size_t row) { return program_.opening().open(program_.browser().rows().at(row).path()); });
+    return forEachFile(line, [this](std::size_t row) {
+        return program_.reading().Opening.open(program_.reading().Browser.rows().at(row).path());
+    });
 }
 
 int ClippingCommands::print(const CommandLine& line) {
@@ -80,14 +81,14 @@ int ClippingCommands::print(const CommandLine& line) {
 }
 
 int ClippingCommands::printAll(const CommandLine& line) {
-    const bool printed = program_.printing().mnuPrintAll_Click();
+    const bool printed = program_.reading().Printing.mnuPrintAll_Click();
     screen_.leaveStatus();
     if (!printed) tellUnasked(line);
     return codeOf(printed);
 }
 
 int ClippingCommands::printCategories(const CommandLine& line) {
-    frmPrint dialog = program_.printing().mnuPrintByCategory_Click();
+    frmPrint dialog = program_.reading().Printing.mnuPrintByCategory_Click();
     bool good = true;
     for (const std::string& name : line.Categories) {
         if (const auto entry = find(dialog.lstAllCategories(), name)) {
@@ -107,7 +108,7 @@ int ClippingCommands::printFiles(const CommandLine& line) {
     bool another = false;
     return forEachFile(line, [this, &another](std::size_t row) {
         if (another) printPause(loop_, program_.settings());
-        another = program_.printing().mnuPrintSel_Click(row);
+        another = program_.reading().Printing.mnuPrintSel_Click(row);
         return another;
     });
 }
@@ -124,23 +125,23 @@ int ClippingCommands::forEachFile(const CommandLine& line, const std::function<b
 
 std::optional<std::size_t> ClippingCommands::rowOf(const std::string& utf8Name) const {
     std::vector<std::string> names;
-    for (const ClippingRow& row : program_.browser().rows())
+    for (const ClippingRow& row : program_.reading().Browser.rows())
         names.push_back(row.File->FileName);
     const auto row = find(names, utf8Name);
     return row ? row : find(names, utf8Name + ".PDF");
 }
 
 void ClippingCommands::tellUnlisted(std::string_view kind, const std::string& utf8Name, const std::string& options) {
-    const std::string day = program_.browser().chosenDay()->dayName();
+    const std::string day = program_.reading().Browser.chosenDay()->dayName();
     screen_.tell("There is no " + std::string(kind) + " '" + codePageFromUtf8Lossy(utf8Name) + "' on " + day +
                  ". 'vell-console " + options + " --date " + day + "' shows what there is.");
 }
 
 int ClippingCommands::deleteDay(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
-    const std::optional<Date> day = program_.browser().chosenDay();
-    program_.dayCommands().mnuDeleteDay_Click();
-    const auto& days = program_.browser().days();
+    const std::optional<Date> day = program_.reading().Browser.chosenDay();
+    program_.reading().Days.mnuDeleteDay_Click();
+    const auto& days = program_.reading().Browser.days();
     const bool isGone = std::ranges::find(days, day) == days.end();
     if (!isGone) tellUnasked(line);
     return codeOf(isGone);

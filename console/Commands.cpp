@@ -83,33 +83,33 @@ int Commands::perform(const CommandLine& line) {
 }
 
 int Commands::download(const CommandLine& line) {
-    if (line.Day) program_.chooseRange(*line.Day, *line.Day);
-    if (line.From && line.To) program_.chooseRange(*line.From, *line.To);
-    program_.mnuForceDownload_Click();
+    if (line.Day) program_.downloads().chooseRange(*line.Day, *line.Day);
+    if (line.From && line.To) program_.downloads().chooseRange(*line.From, *line.To);
+    program_.downloads().mnuForceDownload_Click();
     screen_.leaveStatus();
     if (signal_ != 0) return signal_ == SIGINT ? exit_code::Interrupted : exit_code::Terminated;
-    if (program_.outcome().NoConnection) return exit_code::NoConnection;
-    return program_.outcome().isGood() ? exit_code::Good : exit_code::Failed;
+    if (program_.downloads().outcome().NoConnection) return exit_code::NoConnection;
+    return program_.downloads().outcome().isGood() ? exit_code::Good : exit_code::Failed;
 }
 
 int Commands::days() {
-    for (const Date& day : program_.browser().days())
+    for (const Date& day : program_.reading().Browser.days())
         screen_.print(day.dayName());
     return exit_code::Good;
 }
 
 int Commands::watch() {
-    if (!program_.nextDue()) {
+    if (!program_.schedule().nextDue()) {
         screen_.tell(
             "There is no schedule to keep. Add an entry, for example: vell-console schedule add Mon Wed 07:30");
         return exit_code::Usage;
     }
     constexpr int longestNap = 60000;  // milliseconds; the schedule's timer and signals end it
     watches_ = true;
-    program_.startSchedule();
+    program_.schedule().start();
     std::optional<LocalTime> announced;
     while (signal_ == 0) {
-        if (const auto next = program_.nextDue(); next != announced) {
+        if (const auto next = program_.schedule().nextDue(); next != announced) {
             if (next) screen_.print("Next download: " + momentText(*next));
             announced = next;
         }
@@ -123,8 +123,8 @@ void Commands::interrupt(int signal) {
     boxes_.giveUpQuestion();
     const bool first = signal_ == 0;
     signal_ = signal;
-    if (first && signal == SIGINT && !watches_ && program_.isBusy())
-        program_.cmdStopDownload_Click();
+    if (first && signal == SIGINT && !watches_ && program_.downloads().isBusy())
+        program_.downloads().cmdStopDownload_Click();
     else
         program_.endSession();
 }

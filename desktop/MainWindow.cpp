@@ -188,8 +188,8 @@ void MainWindow::openSetup() {
     if (openSetup_) openSetup_();
 }
 
-bool MainWindow::followsRun() const {
-    return download_->isRunning();  // whoever starts a download wants to see it come
+bool MainWindow::offersStop() const {
+    return download_->isRunning();
 }
 
 void MainWindow::placeWindow(const WindowPlace& place) {

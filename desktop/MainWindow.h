@@ -39,6 +39,8 @@ class MainWindow : public wxFrame, public MainView {
     void onOpenSetup(std::function<void()> open) { openSetup_ = std::move(open); }
 
     [[nodiscard]] ClippingsList& list() { return *list_; }
+    // Stop is there to be pressed, which it also is after a download that could not begin.
+    [[nodiscard]] bool offersStop() const;
 
     void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override;
     void showClippings(const std::vector<ClippingRow>& rows) override;
@@ -54,7 +56,7 @@ class MainWindow : public wxFrame, public MainView {
     void showDateRange(const Date& from, const Date& to) override;
     void displayInfoMessageBox(std::string_view text) override;
     void openSetup() override;
-    [[nodiscard]] bool followsRun() const override;
+    [[nodiscard]] bool followsRun() const override { return false; }
     void placeWindow(const WindowPlace& place) override;
     [[nodiscard]] std::optional<WindowPlace> windowPlace() const override;
 

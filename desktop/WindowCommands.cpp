@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "app/frmMain.h"
-#include "base/ScopedFlag.h"
 #include "desktop/MainWindow.h"
 #include "desktop/commandIds.h"
 #include "desktop/dialogs/AboutDialog.h"
@@ -26,19 +25,19 @@ WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxe
 }
 
 void WindowCommands::addClippingCommands() {
-    const auto hasRows = [this] { return !program_.browser().rows().empty(); };
-    const auto canPrint = [this, hasRows] { return hasRows() && !program_.printing().isPrinting(); };
+    const auto hasRows = [this] { return !program_.reading().Browser.rows().empty(); };
+    const auto canPrint = [this, hasRows] { return hasRows() && !program_.reading().Printing.isPrinting(); };
     const auto onRow = [this](auto action) {
         return [this, action] {
             if (const auto row = window_.list().currentRow()) action(*row);
         };
     };
     const auto sortBy = [this](GridColumn column) { return [this, column] { window_.list().sortBy(column); }; };
-    table_[command::Open] = {onRow([this](std::size_t row) { program_.opening().openRow(row); }), hasRows};
-    table_[command::OpenNext20] = {[this] { program_.opening().openNext20(); }, hasRows};
-    table_[command::PrintSelected] = {onRow([this](std::size_t row) { program_.printing().mnuPrintSel_Click(row); }),
-                                      hasRows};
-    table_[command::PrintAll] = {[this] { program_.printing().mnuPrintAll_Click(); }, canPrint};
+    table_[command::Open] = {onRow([this](std::size_t row) { program_.reading().Opening.openRow(row); }), hasRows};
+    table_[command::OpenNext20] = {[this] { program_.reading().Opening.openNext20(); }, hasRows};
+    table_[command::PrintSelected] = {
+        onRow([this](std::size_t row) { program_.reading().Printing.mnuPrintSel_Click(row); }), hasRows};
+    table_[command::PrintAll] = {[this] { program_.reading().Printing.mnuPrintAll_Click(); }, canPrint};
     table_[command::PrintByCategory] = {[this] { printByCategory(); }, canPrint};
     table_[command::AutoView] = {[this] { showAutoView(); }, hasRows};
     table_[command::SortByMarks] = {sortBy(GridColumn::Marks), hasRows};
@@ -48,44 +47,45 @@ void WindowCommands::addClippingCommands() {
 }
 
 void WindowCommands::addDayCommands() {
-    const auto hasDay = [this] { return program_.browser().chosenDay().has_value(); };
-    table_[command::OpenDayFolder] = {[this] { program_.opening().openDayFolder(); }, hasDay};
-    table_[command::DeleteDay] = {[this] { program_.dayCommands().mnuDeleteDay_Click(); },
-                                  [this, hasDay] { return hasDay() && !program_.isBusy(); }};
-    table_[command::NewerDay] = {[this] { program_.dayCommands().chooseNewer(); }, hasDay};
-    table_[command::OlderDay] = {[this] { program_.dayCommands().chooseOlder(); }, hasDay};
+    const auto hasDay = [this] { return program_.reading().Browser.chosenDay().has_value(); };
+    table_[command::OpenDayFolder] = {[this] { program_.reading().Opening.openDayFolder(); }, hasDay};
+    table_[command::DeleteDay] = {[this] { program_.reading().Days.mnuDeleteDay_Click(); },
+                                  [this, hasDay] { return hasDay() && !program_.downloads().isBusy(); }};
+    table_[command::NewerDay] = {[this] { program_.reading().Days.chooseNewer(); }, hasDay};
+    table_[command::OlderDay] = {[this] { program_.reading().Days.chooseOlder(); }, hasDay};
     table_[command::Filter] = {[this] { chooseFilter(); }, hasDay};
-    table_[command::ShowAll] = {[this] { program_.browser().setFilter({}); },
-                                [this] { return program_.browser().filter().isSet(); }};
+    table_[command::ShowAll] = {[this] { program_.reading().Browser.setFilter({}); },
+                                [this] { return program_.reading().Browser.filter().isSet(); }};
 }
 
 void WindowCommands::addProgramCommands() {
     const auto always = [] { return true; };
-    table_[command::Start] = {[this] { download(); }, [this] { return !downloading_ && !program_.isBusy(); }};
-    table_[command::Stop] = {[this] { program_.cmdStopDownload_Click(); },
-                             [this] { return program_.isBusy() || window_.followsRun(); }};
+    table_[command::Start] = {[this] { program_.downloads().mnuForceDownload_Click(); },
+                              [this] { return !program_.downloads().isBusy(); }};
+    table_[command::Stop] = {[this] { program_.downloads().cmdStopDownload_Click(); },
+                             [this] { return program_.downloads().isBusy() || window_.offersStop(); }};
     table_[command::Setup] = {[this] { setUp(); }, always};
     table_[command::Schedule] = {[this] { dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog())); },
                                  always};
-    table_[command::Refresh] = {[this] { program_.dayCommands().reload(); }, always};
+    table_[command::Refresh] = {[this] { program_.reading().Days.reload(); }, always};
     table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
-    table_[command::Help] = {[this] { program_.opening().openHelp(); }, always};
+    table_[command::Help] = {[this] { program_.reading().Opening.openHelp(); }, always};
     table_[command::About] = {[this] { showAbout(); }, always};
     table_[command::Exit] = {[this] { window_.Close(); }, always};
 }
 
 void WindowCommands::printByCategory() {
-    dialogs_.open(new PrintDialog(&window_, program_.printing().mnuPrintByCategory_Click()));
+    dialogs_.open(new PrintDialog(&window_, program_.reading().Printing.mnuPrintByCategory_Click()));
 }
 
 void WindowCommands::chooseFilter() {
-    dialogs_.open(new FilterDialog(&window_, frmFilter(program_.browser())));
+    dialogs_.open(new FilterDialog(&window_, frmFilter(program_.reading().Browser)));
 }
 
 void WindowCommands::showAutoView() {
     if (!autoView_)
-        autoView_ = new AutoViewWindow(&window_, program_.autoView(), [this] {
-            if (const auto row = window_.list().currentRow()) program_.autoView().start(*row);
+        autoView_ = new AutoViewWindow(&window_, program_.reading().AutoView, [this] {
+            if (const auto row = window_.list().currentRow()) program_.reading().AutoView.start(*row);
         });
     autoView_->Show();
     autoView_->Raise();
@@ -93,24 +93,19 @@ void WindowCommands::showAutoView() {
 
 void WindowCommands::setUp() {
     dialogs_.open(new SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()),
-                  [this] { program_.dayCommands().reload(); });
+                  [this] { program_.reading().Days.reload(); });
 }
 
 // For a run that cannot go on without the settings.
 void WindowCommands::setUpAndWait() {
     if (SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()).ShowModal() == wxID_OK)
-        program_.dayCommands().reload();
+        program_.reading().Days.reload();
 }
 
 void WindowCommands::showAbout() {
     const std::string address = program_.settings().Host.empty() ? "" : "http://" + program_.settings().Host + "/";
     dialogs_.open(new AboutDialog(&window_, program_.version(), address,
-                                  [this, address] { program_.opening().openAddress(address); }));
-}
-
-void WindowCommands::download() {
-    const ScopedFlag downloading(downloading_);
-    program_.mnuForceDownload_Click();
+                                  [this, address] { program_.reading().Opening.openAddress(address); }));
 }
 
 void WindowCommands::commandChosen(int id) {
@@ -123,30 +118,30 @@ bool WindowCommands::isEnabled(int id) const {
 }
 
 void WindowCommands::dayChosen(const Date& day) {
-    program_.browser().chooseDay(day);
+    program_.reading().Browser.chooseDay(day);
 }
 
 void WindowCommands::rowDoubleClicked(std::size_t row) {
-    program_.opening().grdLocalFiles_DblClick(row);
+    program_.reading().Opening.grdLocalFiles_DblClick(row);
 }
 
 void WindowCommands::rowEntered(std::size_t row) {
-    program_.opening().openRow(row);
+    program_.reading().Opening.openRow(row);
 }
 
 void WindowCommands::rangeChosen(bool onlyToday) {
     if (onlyToday)
-        program_.chooseToday();
+        program_.downloads().chooseToday();
     else
-        program_.chooseOtherFrom();
+        program_.downloads().chooseOtherFrom();
 }
 
 void WindowCommands::fromDateChanged(const Date& from) {
-    program_.dtFromDate_Change(from);
+    program_.downloads().dtFromDate_Change(from);
 }
 
 void WindowCommands::toDateChanged(const Date& to) {
-    program_.dtToDate_Change(to);
+    program_.downloads().dtToDate_Change(to);
 }
 
 void WindowCommands::closing(bool mayBeRefused) {

@@ -40,7 +40,6 @@ class WindowCommands : public WindowEvents {
     void addClippingCommands();
     void addDayCommands();
     void addProgramCommands();
-    void download();
     void printByCategory();
     void chooseFilter();
     void showAutoView();
@@ -56,7 +55,6 @@ class WindowCommands : public WindowEvents {
     OpenDialogs dialogs_;
     wxWeakRef<AutoViewWindow> autoView_;
     bool closing_ = false;
-    bool downloading_ = false;  // from the user's start to its end; between two days no run is under way
 };
 
 }  // namespace vell

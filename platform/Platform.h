@@ -30,6 +30,11 @@ struct Platform {
     Process& Program;
     Shell& DesktopShell;
     Printers& Printer;
+
+    // The same with other message boxes.
+    [[nodiscard]] Platform with(MessageBoxes& boxes) const {
+        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, boxes, Program, DesktopShell, Printer};
+    }
 };
 
 }  // namespace vell

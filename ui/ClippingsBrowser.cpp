@@ -19,42 +19,34 @@ constexpr std::chrono::milliseconds refreshInterval{250};
 
 }  // namespace
 
-ClippingsBrowser::ClippingsBrowser(modGlobal& store, Files& files, BrowserView& view, const Clock& clock, EventLog& log,
-                                   const Settings& settings, DayState& day)
-    : store_(store),
-      files_(files),
-      view_(view),
-      log_(log),
-      settings_(settings),
-      day_(day),
-      pacer_(clock, refreshInterval) {}
+ClippingsBrowser::ClippingsBrowser(const Parts& parts) : p_(parts), pacer_(parts.Time, refreshInterval) {}
 
 void ClippingsBrowser::PopulateDateCombo() {
-    trapStep(log_, "PopulateDateCombo()", [&] {
+    trapStep(p_.Log, "PopulateDateCombo()", [&] {
         std::vector<Date> days;
         std::vector<std::string> folders;
-        if (!settings_.LocalDir.empty()) folders = store_.GetLocalDirectories(settings_.LocalDir, false);
+        if (!p_.Setup.LocalDir.empty()) folders = p_.Store.GetLocalDirectories(p_.Setup.LocalDir, false);
         for (const std::string& folder : folders)
             if (const auto date = Date::fromFolderName(folder)) days.push_back(*date);
-        days_ = store_.DateSort(std::move(days));
-        if (std::ranges::find(days_, day_.cmbDate) == days_.end()) day_.cmbDate.reset();
-        view_.showDays(days_, day_.cmbDate);
+        days_ = p_.Store.DateSort(std::move(days));
+        if (std::ranges::find(days_, p_.Day.cmbDate) == days_.end()) p_.Day.cmbDate.reset();
+        p_.View.showDays(days_, p_.Day.cmbDate);
     });
 }
 
 void ClippingsBrowser::PopulateLocalFilesGrid() {
-    trapStep(log_, "PopulateLocalFilesGrid()", [&] {
-        const BusyMoment busy(view_);
+    trapStep(p_.Log, "PopulateLocalFilesGrid()", [&] {
+        const BusyMoment busy(p_.View);
         std::vector<ClippingRow> rows;
         dayFiles_ = {};
-        if (day_.cmbDate) {
+        if (p_.Day.cmbDate) {
             const std::array<std::string, 2> patterns{"*.PDF", ""};
-            dayFiles_ = store_.GetLocalFiles(store_.folderOfDay(*day_.cmbDate), patterns);
+            dayFiles_ = p_.Store.GetLocalFiles(p_.Store.folderOfDay(*p_.Day.cmbDate), patterns);
         }
         for (const auto& file : dayFiles_)
             if (filter_.passes(*file)) ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
         rows_ = std::move(rows);
-        view_.showClippings(rows_);
+        p_.View.showClippings(rows_);
         refreshClippingsCount();
     });
 }
@@ -72,41 +64,41 @@ void ClippingsBrowser::refreshDuringRun() {
 
 bool ClippingsBrowser::chooseDay(const Date& day) {
     if (std::ranges::find(days_, day) == days_.end()) return false;
-    day_.cmbDate = day;
-    view_.showDays(days_, day_.cmbDate);
+    p_.Day.cmbDate = day;
+    p_.View.showDays(days_, p_.Day.cmbDate);
     PopulateLocalFilesGrid();
     loadAlert();
     return true;
 }
 
 const std::optional<Date>& ClippingsBrowser::chosenDay() const {
-    return day_.cmbDate;
+    return p_.Day.cmbDate;
 }
 
 void ClippingsBrowser::loadAlert() {
-    trapStep(log_, "loadAlert()", [&] {
+    trapStep(p_.Log, "loadAlert()", [&] {
         std::string alert;
-        if (day_.cmbDate) {
-            const std::string path = store_.folderOfDay(*day_.cmbDate) + std::string(alertFileName);
-            if (files_.PathExists(path)) alert = files_.ReadFile(path);
+        if (p_.Day.cmbDate) {
+            const std::string path = p_.Store.folderOfDay(*p_.Day.cmbDate) + std::string(alertFileName);
+            if (p_.Disk.PathExists(path)) alert = p_.Disk.ReadFile(path);
         }
-        view_.showAlert(alert);
+        p_.View.showAlert(alert);
     });
 }
 
 void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) const {
     const std::string path = row.path();
-    row.Opened = store_.IsFileOpened(path);
-    row.Printed = store_.IsFilePrinted(path);
+    row.Opened = p_.Store.IsFileOpened(path);
+    row.Printed = p_.Store.IsFilePrinted(path);
 }
 
 void ClippingsBrowser::ShowOpenPrintedPicture(std::size_t row) {
     ShowOpenPrintedPicture(rows_.at(row));
-    view_.showMarks(row);
+    p_.View.showMarks(row);
 }
 
 void ClippingsBrowser::refreshMarks(const std::string& path) {
-    trapStep(log_, "ShowOpenPrintedPicture()", [&] {
+    trapStep(p_.Log, "ShowOpenPrintedPicture()", [&] {
         for (std::size_t row = 0; row < rows_.size(); ++row)
             if (rows_[row].path() == path) ShowOpenPrintedPicture(row);
     });
@@ -114,12 +106,12 @@ void ClippingsBrowser::refreshMarks(const std::string& path) {
 
 void ClippingsBrowser::setFilter(ClippingFilter filter) {
     filter_ = std::move(filter);
-    view_.showFilter(filter_.text());
+    p_.View.showFilter(filter_.text());
     PopulateLocalFilesGrid();
 }
 
 void ClippingsBrowser::refreshClippingsCount() {
-    view_.showCount(std::to_string(rows_.size()) + " Clippings");
+    p_.View.showCount(std::to_string(rows_.size()) + " Clippings");
 }
 
 }  // namespace vell

@@ -24,8 +24,16 @@ struct Settings;
 // Fills the date list and the list of clippings, and keeps the marks that the rows show.
 class ClippingsBrowser {
   public:
-    ClippingsBrowser(modGlobal& store, Files& files, BrowserView& view, const Clock& clock, EventLog& log,
-                     const Settings& settings, DayState& day);
+    struct Parts {
+        modGlobal& Store;
+        Files& Disk;
+        BrowserView& View;
+        const Clock& Time;
+        EventLog& Log;
+        const Settings& Setup;
+        DayState& Day;
+    };
+    explicit ClippingsBrowser(const Parts& parts);
 
     // Refills the date list from the day folders, newest first; the chosen day stays chosen when it is still there.
     void PopulateDateCombo();
@@ -58,12 +66,7 @@ class ClippingsBrowser {
     void ShowOpenPrintedPicture(ClippingRow& row) const;
     void refreshClippingsCount();
 
-    modGlobal& store_;
-    Files& files_;
-    BrowserView& view_;
-    EventLog& log_;
-    const Settings& settings_;
-    DayState& day_;
+    Parts p_;
     Pacer pacer_;
     std::vector<Date> days_;
     std::vector<ClippingRow> rows_;

@@ -27,18 +27,18 @@ void ClippingBooks::enter(const std::string& name, bool ok) {
 
 void ClippingBooks::markDownloaded(const std::string& pdfName) {
     try {
-        p_.State.gClippingsDownloaded += index_.markDownloaded(p_.State.Day.gDayFolder, pdfName);
+        p_.State.gClippingsDownloaded += index_.markDownloaded(p_.State.Run.Day.gDayFolder, pdfName);
     } catch (...) {
         // An index that cannot be written must not keep the next clippings from coming.
         p_.Log.LogError(currentError(), "StartDownload()");
-        ++p_.State.Outcome.FilesFailed;
+        ++p_.State.Run.Outcome.FilesFailed;
     }
 }
 
 void ClippingBooks::printWhenNew(const std::string& name, std::int64_t before) {
     const Session& state = p_.State;
     if (!state.Setup.PrintOnDownload || InStr(Upper(name), ".PDF") == 0) return;
-    const std::string path = state.Day.gDayFolder + name;
+    const std::string path = state.Run.Day.gDayFolder + name;
     if (p_.Disk.FileSize(path).value_or(0) == before) return;
     say("Printing " + name);
     if (!p_.Article.PrintArticle(path))

@@ -20,28 +20,24 @@ DownloadRun::DownloadRun(const Parts& parts)
 
 void DownloadRun::StartDownload() {
     Session& state = p_.State;
-    if (state.gIsBusy || state.IsEnding) return;
-    state.gIsBusy = true;
-    state.gIsTransferring = false;
-    state.gStopRequested = false;
+    if (state.gIsBusy() || state.IsEnding) return;
+    const ActivityScope running(state, Activity::Running);
     try {
         run();
     } catch (...) {
         const RunTimeError error = currentError();
-        state.Outcome.Broken = true;
+        state.Run.Outcome.Broken = true;
         p_.Log.WriteLog("ERROR while downloading files.");
         p_.Log.LogError(error, "StartDownload()");
         p_.Progress.StatusBar("ERROR while downloading files.");
     }
-    state.gIsTransferring = false;
-    state.gIsBusy = false;
+    p_.Browser.loadAlert();
 }
 
 void DownloadRun::run() {
     if (!prepare()) return;
     if (!p_.State.Setup.UseHTTP && !p_.Ftp.open()) {
-        p_.State.Outcome.FtpFailed = !p_.State.gStopRequested;
-        p_.State.Outcome.Stopped = p_.State.gStopRequested;
+        p_.State.Run.Outcome.FtpFailed = !p_.State.gStopRequested;
         return;
     }
     fetchAll();
@@ -53,18 +49,18 @@ bool DownloadRun::prepare() {
     if (!p_.Store.CreateDownloadDirPath()) {
         p_.Progress.StatusBar("Error! Download folder not created. Check 'Download Path' in Setup.");
         p_.Log.WriteLog("ERROR Get/Create download dir to put downloaded files.");
-        p_.State.Outcome.FolderFailed = true;
+        p_.State.Run.Outcome.FolderFailed = true;
         return false;
     }
     if (p_.View.followsRun() || !p_.Browser.chosenDay()) {
         p_.Browser.PopulateDateCombo();
-        p_.Browser.chooseDay(p_.State.Day.gCurrentDate);
+        p_.Browser.chooseDay(p_.State.Run.Day.gCurrentDate);
     }
     p_.Progress.StatusBar("Getting list of files to download...");
     p_.Log.WriteLog("Getting files to download...");
     if (!p_.List.GetDownloadFiles()) {
         say("Error while getting list of files to download");
-        p_.State.Outcome.ListFailed = true;
+        p_.State.Run.Outcome.ListFailed = true;
         return false;
     }
     if (!p_.List.GetAlert()) p_.Log.WriteLog("Error while getting Alert data.");
@@ -91,18 +87,13 @@ void DownloadRun::fetchAll() {
     p_.Browser.refresh();
     for (std::int32_t i = 1; i <= count && !state.gStopRequested; ++i)
         lastOk_ = turns_.take(i);
-    state.gIsTransferring = false;
     p_.Browser.refresh();
-    p_.Browser.loadAlert();
 }
 
 void DownloadRun::finish() {
     Session& state = p_.State;
     if (state.gStopRequested) {
         say("Download STOPED by user.");
-        state.gIsTransferring = false;
-        state.gIsBusy = false;
-        state.Outcome.Stopped = true;
         (void)p_.Ftp.StopFTP(true);
         return;
     }

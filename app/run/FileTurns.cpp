@@ -27,9 +27,8 @@ bool FileTurns::take(std::int32_t index) {
     Session& state = p_.State;
     state.gCurrentFileIndex = index;
     const std::string& name = state.Downloads.gDownloadList[static_cast<std::size_t>(index) - 1].FileName;
-    const Turn turn{index, name, p_.Disk.FileSize(state.Day.gDayFolder + name).value_or(0),
+    const Turn turn{index, name, p_.Disk.FileSize(state.Run.Day.gDayFolder + name).value_or(0),
                     equalNoCase(name, advertisementFile)};
-    state.gIsTransferring = true;
     p_.Log.WriteLog(counter(index) + "  Downloading " + name + " (Starting from " + std::to_string(turn.Start) +
                     " bytes)");
     bool ok = attempt(turn);
@@ -40,7 +39,7 @@ bool FileTurns::take(std::int32_t index) {
         ok = retry(turn);
     }
     // A day without its advertisement is a whole day.
-    if (!ok && !state.gStopRequested && !turn.IsAdvertisement) ++state.Outcome.FilesFailed;
+    if (!ok && !state.gStopRequested && !turn.IsAdvertisement) ++state.Run.Outcome.FilesFailed;
     p_.Books.enter(name, ok);
     p_.Log.WriteLog(statusLine(ok));
     p_.Browser.refreshDuringRun();
@@ -51,7 +50,7 @@ bool FileTurns::take(std::int32_t index) {
 
 bool FileTurns::attempt(const Turn& turn) {
     const Session& state = p_.State;
-    return adownloadFile(turn.Name, (turn.IsAdvertisement ? state.gAppPath : state.Day.gDayFolder) + turn.Name);
+    return adownloadFile(turn.Name, (turn.IsAdvertisement ? state.gAppPath : state.Run.Day.gDayFolder) + turn.Name);
 }
 
 bool FileTurns::retry(const Turn& turn) {

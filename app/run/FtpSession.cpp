@@ -67,7 +67,7 @@ bool FtpSession::connect() {
     m_objFTP_.Port = session_.Setup.Port;
     m_objFTP_.PassiveMode = session_.Setup.Passive;
     m_objFTP_.Timeout = session_.Setup.TimeOut;
-    m_objFTP_.AskOnTimeout = session_.StartedByUser;
+    m_objFTP_.AskOnTimeout = !session_.isAlone();
     return m_objFTP_.Connect();
 }
 

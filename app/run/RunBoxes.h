@@ -5,15 +5,17 @@
 
 namespace vell {
 
+class EventLog;
 class MainView;
 struct Session;
 
-// The boxes of what a run does by itself. In a run that the schedule began, one that only tells something is shown in
-// the main window's message frame: at six in the morning nobody is there to press OK, and the run would wait for it.
+// The boxes of everything that a run does. While a person's run is under way, or none, they are the front-end's. In
+// a run that the schedule began nobody is there to press a button, and the run would wait for it: what a box tells is
+// shown in the main window's message frame and logged, and a question gets its negative answer.
 class RunBoxes : public MessageBoxes {
   public:
-    RunBoxes(const Session& session, MessageBoxes& boxes, MainView& view)
-        : session_(session), boxes_(boxes), view_(view) {}
+    RunBoxes(const Session& session, MessageBoxes& boxes, MainView& view, EventLog& log)
+        : session_(session), boxes_(boxes), view_(view), log_(log) {}
 
     Answer Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon icon) override;
 
@@ -21,6 +23,7 @@ class RunBoxes : public MessageBoxes {
     const Session& session_;
     MessageBoxes& boxes_;
     MainView& view_;
+    EventLog& log_;
 };
 
 }  // namespace vell

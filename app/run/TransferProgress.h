@@ -16,6 +16,9 @@ class EventLoop;
 class MainView;
 struct Session;
 
+// Twenty pictures a second are as many as an eye needs; more would cost the run its speed.
+inline constexpr std::chrono::milliseconds usualPaintInterval{50};
+
 // Turns what the transfers report into the status line, the bars and the log. The counters follow every report; the
 // showing is thinned to what an eye can follow, since painting every 2 KB makes a run many times slower. With the log
 // on every report is shown, as it is logged.

@@ -92,7 +92,7 @@ Getting list of files to download: Done
 Finished: 1 of 1 clippings downloaded.
 )");
     EXPECT_EQ(inDay("ALLFILES.DIR"), "N120040307.PDF||PAPER||TITLE 1||CAT||TYPE||1||-||150000||300||20\r\n\r\n");
-    EXPECT_EQ(boxes.shown() + std::to_string(program.outcome().FilesFailed), list + "|1");
+    EXPECT_EQ(boxes.shown() + std::to_string(program.downloads().outcome().FilesFailed), list + "|1");
 }
 
 TEST_F(DownloadRunTest, marksWholeClippingsAndPrintsEachNewPdfOnce) {
@@ -110,12 +110,12 @@ TEST_F(DownloadRunTest, marksWholeClippingsAndPrintsEachNewPdfOnce) {
 
     service.Answers[ServicePeer::pathOf("N220040307.PDF")] = HttpPeer::ok("new content");
     shell.Result = 2;
-    program.mnuForceDownload_Click();
+    program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(Split(shell.Opened, "\n").size(), 5U);
     EXPECT_NE(view.Statuses.find("\nFAILED Printing N220040307.PDF\n"), std::string::npos);
     files.Trouble = "ALLFILES";  // the list cannot be stored
-    program.mnuForceDownload_Click();
-    EXPECT_TRUE(program.outcome().ListFailed);
+    program.downloads().mnuForceDownload_Click();
+    EXPECT_TRUE(program.downloads().outcome().ListFailed);
     EXPECT_EQ(marked(), 3U);
 }
 
@@ -124,7 +124,7 @@ TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartDoNotDisturbTheR
         files.Trouble = "ALLFILES";
         onStatus("N220040307.TXT", [&] {
             files.Trouble = "";
-            program.mnuForceDownload_Click();
+            program.downloads().mnuForceDownload_Click();
         });
     });
     runToday();
@@ -135,12 +135,12 @@ TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartDoNotDisturbTheR
 }
 
 TEST_F(DownloadRunTest, stopLetsTheFileUnderWayEndAndStartsNoOther) {
-    onStatus("N220040307.PDF", [&] { program.cmdStopDownload_Click(); });
-    EXPECT_TRUE(runToday() && program.outcome().Stopped && service.wasAskedLastFor("N220040307.PDF"));
+    onStatus("N220040307.PDF", [&] { program.downloads().cmdStopDownload_Click(); });
+    EXPECT_TRUE(runToday() && program.downloads().outcome().Stopped && service.wasAskedLastFor("N220040307.PDF"));
     EXPECT_EQ(inDay("N220040307.PDF").size(), 1500U);
     EXPECT_EQ(view.Status, "Download STOPED by user.");
     EXPECT_TRUE(logHas("\t\tEnded with status True\nDownload STOPED by user.\nFORCEd download ENDED\n"));
-    program.mnuForceDownload_Click();  // the stop does not outlive its run
+    program.downloads().mnuForceDownload_Click();  // the stop does not outlive its run
     EXPECT_EQ(view.Status, "Finished: 3 of 3 clippings downloaded.");
 }
 
@@ -148,7 +148,7 @@ TEST_F(DownloadRunTest, stopEndsThePauseBeforeARetry) {
     service.Answers[ServicePeer::pathOf("N120040307.PDF")] = {""};
     const SteadyTime begun = clock.Steady();
     EventLoop::TimerId timer = 0;
-    onStatus("Retrying", [&] { timer = loop.SetTimer(1000, [&] { program.cmdStopDownload_Click(); }); });
+    onStatus("Retrying", [&] { timer = loop.SetTimer(1000, [&] { program.downloads().cmdStopDownload_Click(); }); });
     EXPECT_TRUE(runToday());
     loop.KillTimer(timer);
     EXPECT_EQ(service.requests().size(), 4U);
@@ -185,28 +185,37 @@ TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
     EXPECT_FALSE(folder.has("ADVERTISMENT.JPG") || view.Running);
 }
 
-TEST_F(DownloadRunTest, anEmptyListDeletesTheIndexOfTheDayThatIsChosen) {
+TEST_F(DownloadRunTest, whatAPersonLooksAtIsNoBusinessOfTheRun) {
     service.Answers[ServicePeer::listScript] = HttpPeer::ok("error 1002");
-    folder.put("clips/01032004/ALLFILES.DIR", "x");
+    folder.put("clips/07032004/ALLFILES.DIR", "N120040307.PDF||\r\n\r\n");
+    folder.put("clips/07032004/N120040307.PDF", "gone from the list");
+    for (const char* file : {"ALLFILES.DIR", "N120040307.PDF"})
+        folder.put(std::string("clips/01032004/") + file, "x");
     view.Follows = false;
-    ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone) && program.browser().chooseDay({2004, 3, 1}));
-    program.mnuForceDownload_Click();
-    EXPECT_TRUE(folder.has("clips/07032004/ALLFILES.DIR") && !folder.has("clips/01032004/ALLFILES.DIR"));
+    ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone));
+    ASSERT_TRUE(program.reading().Browser.chooseDay({2004, 3, 1}));
+    program.downloads().mnuForceDownload_Click();
+    for (const char* file : {"ALLFILES.DIR", "N120040307.PDF"}) {
+        EXPECT_FALSE(folder.has(std::string("clips/07032004/") + file)) << file;
+        EXPECT_EQ(folder.get(std::string("clips/01032004/") + file), "x") << file;
+    }
     EXPECT_EQ(view.Days, "07/03/2004 *01/03/2004 ");
+    ASSERT_TRUE(program.reading().Browser.chooseDay({2004, 3, 7}));
+    EXPECT_EQ(view.Alert, "strike\r\n");
 }
 
 TEST_F(DownloadRunTest, walksThroughARangeOfDays) {
     service.Answers[ServicePeer::listScript] = HttpPeer::ok("error 1002");
     ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone));
-    program.chooseRange({2004, 2, 28}, {2004, 3, 1});
-    program.mnuForceDownload_Click();
+    program.downloads().chooseRange({2004, 2, 28}, {2004, 3, 1});
+    program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(view.Days + view.Range, "*01/03/2004 29/02/2004 28/02/2004 01/03/2004-01/03/2004");
-    program.chooseRange({2004, 3, 2}, {2004, 3, 5});
-    onStatus("No files to download found.", [&] { program.cmdStopDownload_Click(); });
-    program.mnuForceDownload_Click();
+    program.downloads().chooseRange({2004, 3, 2}, {2004, 3, 5});
+    onStatus("No files to download found.", [&] { program.downloads().cmdStopDownload_Click(); });
+    program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(view.Range, "03/03/2004-05/03/2004");
-    program.chooseRange({2004, 3, 5}, {2004, 3, 4});
-    program.mnuForceDownload_Click();
+    program.downloads().chooseRange({2004, 3, 5}, {2004, 3, 4});
+    program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(view.Message, "To date can not be less that From date. Please correct it.");
     EXPECT_TRUE(view.Running);
     EXPECT_EQ(service.requests().size(), 2U * 4U);

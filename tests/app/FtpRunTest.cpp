@@ -79,17 +79,18 @@ TEST_P(FtpRunTest, stopEndsTheTransferWhenTheUserAgrees) {
     view.OnStatus = [&](const std::string& status) {
         if (status.find("  Downloading N120040307.PDF (") == std::string::npos) return;
         view.OnStatus = nullptr;
-        program.cmdStopDownload_Click();
+        program.downloads().cmdStopDownload_Click();
     };
     (void)runToday();
-    EXPECT_TRUE(program.outcome().Stopped && logHas("Download STOPED by user.") && !logHas("N220040307.PDF ("));
+    EXPECT_TRUE(program.downloads().outcome().Stopped && logHas("Download STOPED by user.") &&
+                !logHas("N220040307.PDF ("));
     EXPECT_EQ(boxes.Shown.back(), "Data transfer in progress. Do you want to cancel the data transfer?");
 }
 
 TEST_P(FtpRunTest, saysSoWhenNobodyAnswers) {
     server_.reset();
     EXPECT_FALSE(runToday());
-    EXPECT_TRUE(program.outcome().FtpFailed && !logHas("Stopping FTP"));
+    EXPECT_TRUE(program.downloads().outcome().FtpFailed && !logHas("Stopping FTP"));
     EXPECT_TRUE(logHas("Error starting FTP connection. Please check Host name\nFORCEd download ENDED"));
 }
 

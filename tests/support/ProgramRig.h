@@ -36,9 +36,9 @@ struct ProgramRig : Process {
     }
     bool runToday() {
         const bool started = program.Form_Load(frmMain::Start::Alone);
-        if (started) program.mnuForceDownload_Click();
+        if (started) program.downloads().mnuForceDownload_Click();
         program.Form_Unload();
-        return started && program.outcome().isGood();
+        return started && program.downloads().outcome().isGood();
     }
     [[nodiscard]] std::string ProgramFolder() const override { return folder.text(); }
     [[nodiscard]] bool IsPreviousInstance() override { return anotherRuns; }

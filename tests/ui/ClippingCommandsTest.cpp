@@ -63,7 +63,7 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
     Texts statuses;
     StatusText status = [this](std::string_view text) { statuses.emplace_back(text); };
     Articles articles{shell, boxes, loop, log};
-    ClippingsBrowser browser{store, files, view, clock, log, setup, day};
+    ClippingsBrowser browser{{store, files, view, clock, log, setup, day}};
     ClippingOpening opening{browser, store, articles, log, status};
     RecordingPrinters printers;
     PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup}, status};

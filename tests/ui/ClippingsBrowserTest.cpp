@@ -10,7 +10,7 @@ namespace vell::test {
 class ClippingsBrowserTest : public testing::Test, protected StoreRig {
   protected:
     RecordingView view;
-    ClippingsBrowser browser{store, files, view, clock, log, setup, day};
+    ClippingsBrowser browser{{store, files, view, clock, log, setup, day}};
 };
 
 TEST_F(ClippingsBrowserTest, listsRealDaysNewestFirstAndKeepsTheChosenOne) {

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/Articles.h"
+#include "store/DayState.h"
+#include "store/modGlobal.h"
+#include "ui/ClippingOpening.h"
+#include "ui/ClippingsBrowser.h"
+#include "ui/DayCommands.h"
+#include "ui/PrintCommands.h"
+#include "ui/StatusText.h"
+#include "ui/dialogs/frmAutoView.h"
+
+namespace vell {
+
+class modIni;
+struct Platform;
+struct Settings;
+
+// What a person does with the clippings that are there: looking, opening, printing, deleting. Its message boxes are
+// always the front-end's.
+struct Reading {
+    struct Parts {
+        const Platform& Os;
+        BrowserView& View;
+        modIni& Ini;
+        EventLog& Log;
+        const Settings& Setup;
+        StatusText Status;
+    };
+    explicit Reading(const Parts& parts);
+
+    DayState Shown;  // the day that the person has chosen
+    modGlobal Store;
+    Articles Article;
+    ClippingsBrowser Browser;
+    ClippingOpening Opening;
+    PrintCommands Printing;
+    frmAutoView AutoView;
+    DayCommands Days;
+};
+
+}  // namespace vell

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "store/DayState.h"
+
+namespace vell {
+
+// How a download went, for whoever started it.
+struct RunOutcome {
+    bool FolderFailed = false;  // the day folder could not be made
+    bool ListFailed = false;
+    bool FtpFailed = false;     // no FTP session came up
+    bool NoConnection = false;  // the machine did not come on line
+    bool Stopped = false;
+    bool Broken = false;  // an unexpected error ended it
+    int FilesFailed = 0;
+
+    [[nodiscard]] bool isGood() const {
+        return !NoConnection && !FolderFailed && !ListFailed && !FtpFailed && !Broken && FilesFailed == 0;
+    }
+};
+
+enum class Starter { Person, Schedule };
+
+// What a download is about, from its begin to its end, whatever happens around it meanwhile.
+struct RunContext {
+    // The day that is fetched, which is the chosen one for all that the run does. Another one only after it has ended.
+    DayState Day;
+    // A person can be asked things; the schedule's runs are alone, and nobody would answer.
+    Starter BegunBy = Starter::Person;
+    RunOutcome Outcome;  // over all days
+};
+
+}  // namespace vell

@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+
+#include "app/RunContext.h"
+#include "base/Date.h"
+#include "log/EventLog.h"
+
+namespace vell {
+
+class ClippingsBrowser;
+class DownloadSession;
+class FtpSession;
+class MainView;
+class RunFeedback;
+struct Platform;
+struct Session;
+
+// The user's downloads: which days, their start and their stop.
+class Downloads {
+  public:
+    struct Parts {
+        Session& State;
+        const Platform& Os;
+        MainView& View;
+        EventLog& Log;
+        DownloadSession& Download;
+        FtpSession& Ftp;
+        RunFeedback& Status;
+        ClippingsBrowser& Browser;
+    };
+    explicit Downloads(const Parts& parts) : p_(parts) {}
+
+    // Today is chosen, and both ends of the range are today, too.
+    void reset(const Date& today);
+    void chooseToday() { onlyToday_ = true; }
+    // The range as it stands, or a new one.
+    void chooseOtherFrom() { onlyToday_ = false; }
+    void chooseRange(const Date& from, const Date& to);
+    // The user has changed one end of the range. A From behind the To is refused with a message.
+    void dtFromDate_Change(const Date& from);
+    void dtToDate_Change(const Date& to);
+
+    // Fetches today's day, or the days of the range one after the other. The outcome tells how it went.
+    void mnuForceDownload_Click();
+    void cmdStopDownload_Click();
+    [[nodiscard]] bool isBusy() const;
+    [[nodiscard]] const RunOutcome& outcome() const;
+
+  private:
+    [[nodiscard]] bool download();
+    [[nodiscard]] std::optional<Date> nextOfRange();
+    void showRange();
+
+    Parts p_;
+    bool onlyToday_ = true;  // else the days from dtFromDate to dtToDate
+    Date dtFromDate_;
+    Date dtToDate_;
+};
+
+}  // namespace vell
