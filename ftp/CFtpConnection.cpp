@@ -36,6 +36,19 @@ class DataScope {
     FtpDataChannel& data_;
 };
 
+// An operation that ends before the server has answered leaves no session: its late replies would be taken for those of
+// the next one.
+class SessionScope {
+  public:
+    explicit SessionScope(FtpControlChannel& control) : control_(control) {}
+    ~SessionScope() { control_.abandonUnanswered(); }
+    SessionScope(const SessionScope&) = delete;
+    SessionScope& operator=(const SessionScope&) = delete;
+
+  private:
+    FtpControlChannel& control_;
+};
+
 }  // namespace
 
 CFtpConnection::CFtpConnection(FtpServices services, CFtpConnectionEvents& owner)
@@ -64,8 +77,10 @@ Result CFtpConnection::operation(std::string_view name, Arguments arguments, Bod
     if (!mayBegin(arguments)) return {};
     const ScopedFlag running(running_);
     const ScopedFlag busy(busy_);
+    const SessionScope session(control_);
     return trap(context_.Services.Errors, name, Result{}, [&] {
         try {
+            if (IsConnected()) context_.Services.Loop.DoEvents();  // what the server says unasked is heard first
             return body();
         } catch (const RunTimeError& error) {
             context_.Errors.MapSocketError(error.Number, error.Description);
@@ -84,7 +99,7 @@ bool CFtpConnection::Connect() {
 }
 
 bool CFtpConnection::greeted() {
-    const int code = control_.reply({220}, codeAlone);
+    const int code = control_.reply({220}, {.Enough = codeAlone});
     if (code == 120) context_.Errors.set(ftp_error::ServiceReadyLater);
     return code == 220;
 }
@@ -94,7 +109,7 @@ bool CFtpConnection::logIn() {
     if (code == 331) code = commands_.SendPass();
     if (code != 230) return false;
     commands_.SendPwd();
-    return true;
+    return !control_.isUnanswered();
 }
 
 CFtpFiles CFtpConnection::EnumFilesCriteria(std::string_view criteria) {
@@ -150,28 +165,30 @@ bool CFtpConnection::downloadFile(std::string_view remoteName, std::string_view 
             file = disk.OpenForWriting(localPath, startOffset);
             return *file;
         };
-        if (!receive(remoteName, open, startOffset)) return false;
+        if (!receive(remoteName, open, startOffset, {})) return false;
         file->Close();
         context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });
 }
 
-bool CFtpConnection::downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset) {
+bool CFtpConnection::downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset,
+                                  std::optional<std::int64_t> expectedLength) {
     return operation<bool>("downloadFile()", {remoteName}, [&] {
-        if (!receive(
-                remoteName, [&]() -> OutputFile& { return file; }, startOffset))
-            return false;
+        const auto open = [&]() -> OutputFile& { return file; };
+        if (!receive(remoteName, open, startOffset, expectedLength)) return false;
         context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });
 }
 
-bool CFtpConnection::receive(std::string_view remoteName, const FtpCommands::OpenFile& open, std::int64_t startOffset) {
+bool CFtpConnection::receive(std::string_view remoteName, const FtpCommands::OpenFile& open, std::int64_t startOffset,
+                             std::optional<std::int64_t> expectedLength) {
     const DataScope data(data_);
     if (commands_.SendType() != 200 || !commands_.openDataConnection()) return false;
     if (startOffset > 0 && commands_.SendRest(startOffset) != 350) return false;
-    return arrived(commands_.SendRetr(remoteName, open, startOffset));
+    const int code = commands_.SendRetr(remoteName, open, startOffset);
+    return code == 0 ? isWholeWithoutReply(expectedLength) : arrived(code);
 }
 
 bool CFtpConnection::UploadFile(std::string_view localPath, std::string_view remoteName) {
@@ -189,14 +206,22 @@ bool CFtpConnection::arrived(int code) {
     return (code == 226 || code == 250) && data_.awaitEnd();
 }
 
+// The data's orderly end is the file's, where the server then falls silent or the length says so. A server that breaks
+// off altogether ends both connections in good order, in the middle of a file.
+bool CFtpConnection::isWholeWithoutReply(std::optional<std::int64_t> expectedLength) {
+    if (!data_.received()) return false;
+    const bool whole = expectedLength ? data_.count() >= *expectedLength : IsConnected();
+    if (whole) context_.Services.Log.WriteLog("The server did not confirm the end of a file, which came whole.");
+    return whole;
+}
+
 bool CFtpConnection::CancelTransfer() {
     if (cancelling_) return false;
     const ScopedFlag cancelling(cancelling_);
     return trap(context_.Services.Errors, "CancelTransfer()", false, [this] {
         const int code = commands_.SendAbor();
-        if (code != 226 && code != 426) return false;
         BreakeConnection();
-        return true;
+        return code == 226 || code == 426;
     });
 }
 

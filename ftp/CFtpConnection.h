@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -34,7 +35,8 @@ class CFtpConnection : public FtpSettings {
     [[nodiscard]] const std::string& CurrentDirectory() const { return commands_.CurrentDirectory(); }
     [[nodiscard]] const std::string& GetLastServerResponse() const { return control_.lastServerResponse(); }
     [[nodiscard]] bool Busy() const { return busy_; }
-    // Is there a session? A reply 421 or 426, a cut connection and a failed Connect end it.
+    // Is there a session? A reply 421 or 426, a cut connection, a failed Connect and an operation that ended without
+    // the server's answer end it.
     [[nodiscard]] bool IsConnected() const { return control_.isOpen(); }
 
     // Opens the control connection and logs in.
@@ -51,8 +53,11 @@ class CFtpConnection : public FtpSettings {
     [[nodiscard]] bool CreateDirectory(std::string_view name);
 
     // Writes what comes to `file`, which the caller has placed at `startOffset`, and touches nothing else on the disk;
-    // the caller closes it.
-    [[nodiscard]] bool downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset);
+    // the caller closes it. A file whose data came to an orderly end counts even when the server never confirms it, if
+    // it has the `expectedLength` then, from its first byte on; nothing: the length is not known. A server that did not
+    // heed the offset shows in a file that is longer.
+    [[nodiscard]] bool downloadFile(std::string_view remoteName, OutputFile& file, std::int64_t startOffset,
+                                    std::optional<std::int64_t> expectedLength = {});
     // With an offset, the local file keeps its first `startOffset` bytes and gets the rest; else it is replaced, once
     // the server has accepted the command. After a failure it holds what had arrived.
     [[nodiscard]] bool downloadFile(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset);
@@ -77,8 +82,9 @@ class CFtpConnection : public FtpSettings {
 
     [[nodiscard]] bool logIn();
     [[nodiscard]] bool greeted();
-    [[nodiscard]] bool receive(std::string_view remoteName, const FtpCommands::OpenFile& open,
-                               std::int64_t startOffset);
+    [[nodiscard]] bool receive(std::string_view remoteName, const FtpCommands::OpenFile& open, std::int64_t startOffset,
+                               std::optional<std::int64_t> expectedLength);
+    [[nodiscard]] bool isWholeWithoutReply(std::optional<std::int64_t> expectedLength);
     [[nodiscard]] bool arrived(int code);
     [[nodiscard]] bool transferInProgress() const;
     void endTransfer();

@@ -9,6 +9,7 @@
 #include "base/errors.h"
 #include "ftp/FtpContext.h"
 #include "ftp/FtpSocketLog.h"
+#include "platform/Clock.h"
 
 namespace vell {
 
@@ -45,15 +46,19 @@ bool FtpDataChannel::connect(const std::string& host, std::uint16_t port) {
 }
 
 void FtpDataChannel::receiveListing() {
+    beginReceiving();
+}
+
+void FtpDataChannel::beginReceiving() {
     flowing_ = true;
+    pace_.begin(context_.Services.Time.Steady());
     guarded("wscData_DataArrival()", [this] { receiveAll(); });
 }
 
 void FtpDataChannel::receiveFile(OutputFile& file, std::int64_t offset) {
     file_ = &file;
     count_ = offset;
-    flowing_ = true;
-    guarded("wscData_DataArrival()", [this] { receiveAll(); });
+    beginReceiving();
 }
 
 void FtpDataChannel::sendBytes(std::string bytes) {
@@ -104,7 +109,10 @@ void FtpDataChannel::receiveAll() {
     while (flowing_ && transfer_ != Transfer::Upload && socket_->BytesReceived() > 0) {
         const std::string block = socket_->GetData(blockSize);
         context_.Wait.reset();
+        if (!pace_.isFair(block.size(), context_.Services.Time.Steady()))
+            throw RunTimeError(socket_error::TimedOut, "The server sends too slowly.");
         receiveBlock(block);
+        pace_.wait(context_.Services.Time.Steady());
     }
     closeWhenRead();
 }

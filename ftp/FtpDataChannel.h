@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "ftp/TransferPace.h"
 #include "platform/Files.h"
 #include "platform/TcpSocket.h"
 
@@ -39,6 +40,10 @@ class FtpDataChannel : private TcpSocketEvents {
 
     // All data has come or gone, and been dealt with.
     [[nodiscard]] bool ended() const;
+    // All that was to come has come: a listing or a file.
+    [[nodiscard]] bool received() const { return transfer_ != Transfer::Upload && ended(); }
+    // Bytes of the file that are here, or were sent.
+    [[nodiscard]] std::int64_t count() const { return count_; }
     // False once the socket failed or the file could not be written, which was recorded then, or all was cleared.
     [[nodiscard]] bool flows() const { return flowing_ && !failed_; }
     // Waits for the end of the data. False: the error is recorded.
@@ -56,6 +61,7 @@ class FtpDataChannel : private TcpSocketEvents {
     void PeerClosed() override;
     void SocketError(std::int32_t number, const std::string& description) override;
 
+    void beginReceiving();
     void receiveAll();
     void receiveBlock(std::string_view block);
     void closeWhenRead();
@@ -73,7 +79,8 @@ class FtpDataChannel : private TcpSocketEvents {
     std::string listing_;
     std::string outgoing_;
     std::size_t handedOut_ = 0;  // bytes of outgoing_ that the socket was given
-    std::int64_t count_ = 0;     // bytes of the file that are here, or were sent
+    std::int64_t count_ = 0;
+    TransferPace pace_;
 };
 
 }  // namespace vell

@@ -22,8 +22,10 @@ inline constexpr std::int32_t Canceled = 10004;
 inline constexpr std::int32_t InvalidArgument = 10014;
 inline constexpr std::int32_t InProgress = 10036;
 inline constexpr std::int32_t MessageTooBig = 10040;
+inline constexpr std::int32_t AddressNotAvailable = 10049;
 inline constexpr std::int32_t ConnectionReset = 10054;
 inline constexpr std::int32_t NotConnected = 10057;
+inline constexpr std::int32_t TimedOut = 10060;
 }  // namespace socket_error
 
 // The last failure of a connection: a number that callers compare, and a text. Success does not clear it.

@@ -16,6 +16,12 @@ constexpr std::string_view anonymousPassword = "guest@vell.invalid";
 
 // The login replies are judged by so many characters.
 constexpr std::size_t codeAndMark = 4;
+// What TYPE and PORT are answered with.
+constexpr int commandOkay = 200;
+
+bool isPreliminary(int code) {
+    return code == 125 || code == 150;
+}
 
 std::string line(std::string_view word, std::string_view argument) {
     return std::string(word) + " " + std::string(argument);
@@ -31,12 +37,12 @@ int FtpCommands::SendUser() {
         settings.Password = anonymousPassword;
     }
     context_.Events.StateChanged(FtpState::LoggingIn);
-    return control_.command(line("USER", settings.UserName), {230, 331}, codeAndMark);
+    return control_.command(line("USER", settings.UserName), {230, 331}, {.Enough = codeAndMark});
 }
 
 int FtpCommands::SendPass() {
     if (!control_.send(line("PASS", context_.Settings.Password), "PASS **********")) return 0;
-    const int code = control_.reply({230}, codeAndMark);
+    const int code = control_.reply({230}, {.Enough = codeAndMark});
     return code != 230 || control_.awaitEndOfReply() ? code : 0;
 }
 
@@ -70,11 +76,15 @@ bool FtpCommands::openDataConnection() {
 }
 
 int FtpCommands::SendPasv() {
-    const int code = control_.command("PASV", {227});
+    const int code = control_.command("PASV", {227}, {.Late = commandOkay});
     if (code != 227) return code;
     const auto address = parsePassiveReply(control_.replyText());
     if (!address) {
         context_.Errors.MapSocketError(socket_error::InvalidArgument, "The reply to PASV names no address.");
+        return 0;
+    }
+    if (address->Host != control_.peerIP()) {  // or the server could have us connect to anybody
+        context_.Errors.MapSocketError(socket_error::InvalidArgument, "The reply to PASV names another machine.");
         return 0;
     }
     return data_.connect(address->Host, address->Port) ? code : 0;
@@ -91,42 +101,49 @@ int FtpCommands::SendPort() {
 int FtpCommands::SendList(std::string_view criteria) {
     data_.begin(FtpDataChannel::Transfer::Listing);
     context_.Events.StateChanged(FtpState::ListingRequested);
-    const int code = control_.command(criteria.empty() ? "LIST" : line("LIST", criteria), {125, 150});
-    if (!accepted(code)) return code;
-    data_.receiveListing();
+    const int code = openingReply(criteria.empty() ? "LIST" : line("LIST", criteria));
+    if (!isPreliminary(code)) return code;
+    if (isUnderWay()) data_.receiveListing();
     return finalReply();
 }
 
 int FtpCommands::SendRetr(std::string_view remoteName, const OpenFile& open, std::int64_t startOffset) {
     data_.begin(FtpDataChannel::Transfer::Download);
-    const int code = control_.command(line("RETR", remoteName), {125, 150});
-    if (!accepted(code)) return code;
+    const int code = openingReply(line("RETR", remoteName));
+    if (!isPreliminary(code)) return code;
     context_.Events.StateChanged(FtpState::TransferAccepted);
-    if (accepted(code)) data_.receiveFile(open(), startOffset);  // unless it was stopped in that event
+    if (isUnderWay()) data_.receiveFile(open(), startOffset);
     return finalReply();
 }
 
 int FtpCommands::SendStor(std::string_view localPath, std::string_view remoteName) {
     std::string bytes = context_.Services.Disk.ReadFile(localPath);
     data_.begin(FtpDataChannel::Transfer::Upload);
-    const int code = control_.command(line("STOR", remoteName), {125, 150});
-    if (!accepted(code)) return code;
-    data_.sendBytes(std::move(bytes));
+    const int code = openingReply(line("STOR", remoteName));
+    if (!isPreliminary(code)) return code;
     context_.Events.StateChanged(FtpState::TransferAccepted);
+    if (isUnderWay()) data_.sendBytes(std::move(bytes));
     return finalReply();
 }
 
-// A transfer that was cancelled before the server's word came is none any more.
-bool FtpCommands::accepted(int code) const {
-    return (code == 125 || code == 150) && data_.transfer() != FtpDataChannel::Transfer::None;
+int FtpCommands::openingReply(std::string_view command) {
+    return control_.command(command, {125, 150}, {.Late = commandOkay});
 }
 
+// Not one that was stopped, or that the server gave up, while its acceptance was told.
+bool FtpCommands::isUnderWay() const {
+    return data_.transfer() != FtpDataChannel::Transfer::None;
+}
+
+// Once all bytes have come nobody is asked to keep waiting for a server that has nothing more to give.
 int FtpCommands::finalReply() {
-    return control_.reply({226, 250}, FtpControlChannel::whole, [this] { return !data_.flows(); });
+    const int code = control_.reply({226, 250}, {.Gone = [this] { return !data_.flows() || data_.received(); }});
+    if (code != 0 || !data_.received()) return code;
+    return control_.reply({226, 250}, {.Gone = [this] { return !data_.flows(); }, .Limit = FtpWait::Limit::Silent});
 }
 
 int FtpCommands::SendRest(std::int64_t offset) {
-    return control_.command(line("REST", std::to_string(offset)), {350});
+    return control_.command(line("REST", std::to_string(offset)), {350}, {.Late = commandOkay});
 }
 
 int FtpCommands::SendDele(std::string_view name) {
@@ -154,7 +171,7 @@ int FtpCommands::SendRnto(std::string_view name) {
 int FtpCommands::SendAbor() {
     if (!control_.send("ABOR", "ABOR")) return 0;
     data_.clear();
-    return control_.reply({226, 426}, FtpControlChannel::whole, {}, FtpWait::Limit::Silent);
+    return control_.reply({226, 426}, {.Limit = FtpWait::Limit::Silent});
 }
 
 int FtpCommands::SendQuit() {

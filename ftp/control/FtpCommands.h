@@ -51,7 +51,8 @@ class FtpCommands {
     [[nodiscard]] const std::string& CurrentDirectory() const { return currentDirectory_; }
 
   private:
-    [[nodiscard]] bool accepted(int code) const;
+    [[nodiscard]] int openingReply(std::string_view command);
+    [[nodiscard]] bool isUnderWay() const;
     [[nodiscard]] int finalReply();
 
     FtpContext& context_;

@@ -15,6 +15,7 @@ namespace {
 constexpr std::size_t blockSize = 16UL * 1024;
 constexpr std::size_t mostUnreadReplies = 256;  // no dialogue leaves more; a flood of them would fill the memory
 
+constexpr int transferComplete = 226;
 constexpr int serviceClosing = 421;
 constexpr int transferAbortedCode = 426;
 
@@ -34,9 +35,11 @@ bool FtpControlChannel::open(std::string_view host, std::uint16_t port) {
     reader_.clear();
     replies_.clear();
     restBelongsToTaken_ = false;
-    owed_ = 0;
+    dropped_ = 0;
     farewell_ = 0;
     loss_.reset();
+    if (host.find(':') != std::string_view::npos)
+        throw RunTimeError(socket_error::AddressNotAvailable, "FTP needs a server with an IPv4 address.");
     socket_->Connect(host, port);
     unanswered_ = true;  // the greeting
     nextStep_ = 0;
@@ -77,33 +80,49 @@ bool FtpControlChannel::send(std::string_view line, std::string_view shown) {
         return false;
     }
     if (!fitForCommand(line)) throw RunTimeError(socket_error::InvalidArgument, "A command of more than one line.");
-    if (std::exchange(unanswered_, true)) ++owed_;
+    if (!std::exchange(unanswered_, true)) dropUnowed();
+    dropped_ = 0;
     socket_->SendData(std::string(line) + "\r\n");
     context_.Events.ReplyMessage(std::string(shown) + "\r\n");
     return true;
 }
 
-int FtpControlChannel::command(std::string_view line, Codes expected, std::size_t enough) {
-    return send(line, line) ? reply(expected, enough) : 0;
+int FtpControlChannel::command(std::string_view line, Codes expected, const FtpReading& how) {
+    return send(line, line) ? reply(expected, how) : 0;
 }
 
-int FtpControlChannel::reply(Codes expected, std::size_t enough, const FtpWait::Condition& gone, FtpWait::Limit limit) {
-    const auto over = [&] { return !isOpen() || (gone && gone()); };
+int FtpControlChannel::reply(Codes expected, const FtpReading& how) {
+    const auto over = [&] { return !isOpen() || (how.Gone && how.Gone()); };
     for (;;) {
-        if (!context_.Wait.until([&] { return ready(enough); }, over, limit)) {
+        if (!context_.Wait.until([&] { return ready(how.Enough); }, over, how.Limit)) {
             if (!isOpen()) recordLoss();
             return 0;
         }
         last_ = take();
         const int code = last_.Code;
         const bool fits = std::ranges::find(expected, code) != expected.end();
-        if (!fits && settlesOwedReply(code)) continue;
-        if (!isPreliminary(code)) unanswered_ = false;
-        if (fits) return code;
-        context_.Errors.CheckReplyCode(code);
-        if (code == serviceClosing) close();
+        if (!fits && (code == transferComplete || code == how.Late)) continue;
+        if (!fits) context_.Errors.CheckReplyCode(code);
+        if (!isPreliminary(code)) settle(code);
         return code;
     }
+}
+
+// The command is answered; what stands behind its final reply is owed to nobody.
+void FtpControlChannel::settle(int code) {
+    unanswered_ = false;
+    if (code == serviceClosing) farewell_ = code;
+    dropUnowed();
+    if (farewell_ != 0) close();
+}
+
+void FtpControlChannel::dropUnowed() {
+    replies_.clear();
+    if (!reader_.pending().empty()) restBelongsToTaken_ = true;
+}
+
+void FtpControlChannel::abandonUnanswered() {
+    if (unanswered_) close();
 }
 
 bool FtpControlChannel::awaitEndOfReply() {
@@ -117,7 +136,7 @@ bool FtpControlChannel::awaitEndOfReply() {
 }
 
 bool FtpControlChannel::ready(std::size_t enough) const {
-    return !replies_.empty() || (enough != whole && !restBelongsToTaken_ && reader_.pending().size() >= enough);
+    return !replies_.empty() || (enough != 0 && !restBelongsToTaken_ && reader_.pending().size() >= enough);
 }
 
 FtpReply FtpControlChannel::take() {
@@ -129,12 +148,6 @@ FtpReply FtpControlChannel::take() {
     FtpReply reply = std::move(replies_.front());
     replies_.pop_front();
     return reply;
-}
-
-bool FtpControlChannel::settlesOwedReply(int code) {
-    if (owed_ == 0 || code == serviceClosing || code == transferAbortedCode) return false;
-    if (!isPreliminary(code)) --owed_;
-    return true;
 }
 
 void FtpControlChannel::DataArrival(std::size_t /*bytes*/) {
@@ -151,19 +164,21 @@ void FtpControlChannel::DataArrival(std::size_t /*bytes*/) {
 void FtpControlChannel::collectReplies() {
     while (auto reply = reader_.next())
         receive(std::move(*reply));
-    if (reader_.overlong() || replies_.size() > mostUnreadReplies)
+    if (reader_.overlong() || replies_.size() + dropped_ > mostUnreadReplies)
         lose(socket_error::MessageTooBig, "The server's reply is too long.");
 }
 
 void FtpControlChannel::receive(FtpReply reply) {
     const std::string message = reply.Text + "\r\n";
-    if (reply.Code == serviceClosing || reply.Code == transferAbortedCode) farewell_ = reply.Code;
-    const bool aborted = reply.Code == transferAbortedCode;
-    if (!std::exchange(restBelongsToTaken_, false)) replies_.push_back(std::move(reply));
-    if (aborted) {
-        transferAborted_();
-        close();
-    }
+    const int code = reply.Code;
+    const bool isRest = std::exchange(restBelongsToTaken_, false);
+    if (isRest || !unanswered_ || reply.Text.empty())
+        ++dropped_;
+    else
+        replies_.push_back(std::move(reply));
+    if (code == serviceClosing || code == transferAbortedCode) farewell_ = code;
+    if (code == transferAbortedCode) transferAborted_();
+    if (code == transferAbortedCode || (code == serviceClosing && !unanswered_)) close();
     context_.Events.ReplyMessage(message);
 }
 

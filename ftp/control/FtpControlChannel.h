@@ -20,15 +20,22 @@ namespace vell {
 
 struct FtpContext;
 
+// How a reply is awaited.
+struct FtpReading {
+    std::size_t Enough = 0;     // so many characters are judged without waiting for the reply's end; 0: the whole
+    int Late = 0;               // a code that answers an earlier command at most, and is dropped
+    FtpWait::Condition Gone{};  // ends the wait, with nothing recorded
+    FtpWait::Limit Limit = FtpWait::Limit::Asking;
+};
+
 // The control connection: command lines out, replies in. Owns the socket that the log calls wscControl.
 //
-// Replies are taken in their order; those behind the awaited one are kept. A command whose final reply never came (a
-// wait that ran out, a transfer that was given up) is still owed one: while any is, a reply that does not fit the
-// command under way is taken to be an owed one and dropped. So a slow server does not put the dialogue out of step.
+// Replies are taken in their order; those behind the awaited one are kept as long as the command under way may be owed
+// them. What the server says beyond that, empty lines included, is told and dropped; a 421 ends the session whenever it
+// comes. A session with a command that was not answered to the end is out of step: abandonUnanswered() closes it.
 class FtpControlChannel : private TcpSocketEvents {
   public:
     using Codes = std::initializer_list<int>;
-    static constexpr std::size_t whole = 0;
 
     // `transferAborted` is called when a reply 426 arrives, before the connection is closed for it.
     FtpControlChannel(FtpContext& context, std::function<void()> transferAborted);
@@ -41,10 +48,13 @@ class FtpControlChannel : private TcpSocketEvents {
     // Sends one line; `shown` is what ReplyMessage tells of it. False, and the error recorded, without a connection.
     [[nodiscard]] bool send(std::string_view line, std::string_view shown);
     // The code of the next reply; 0, with the error recorded, when none comes. A code that is none of `expected` is
-    // recorded, too. `enough`: so many characters are judged without waiting for the reply's end.
-    [[nodiscard]] int reply(Codes expected, std::size_t enough = whole, const FtpWait::Condition& gone = {},
-                            FtpWait::Limit limit = FtpWait::Limit::Asking);
-    [[nodiscard]] int command(std::string_view line, Codes expected, std::size_t enough = whole);
+    // recorded, too; but a 226 that is not awaited can only be the second end of a transfer, and is dropped.
+    [[nodiscard]] int reply(Codes expected, const FtpReading& how);
+    [[nodiscard]] int command(std::string_view line, Codes expected, const FtpReading& how = {});
+    // Has the command sent last, or the greeting, not had its final reply?
+    [[nodiscard]] bool isUnanswered() const { return unanswered_; }
+    // To be called when nobody waits any more: closes a session that is out of step.
+    void abandonUnanswered();
     // Waits, without a limit, for the end of a reply that was judged by its first characters and has several lines.
     [[nodiscard]] bool awaitEndOfReply();
 
@@ -66,7 +76,8 @@ class FtpControlChannel : private TcpSocketEvents {
     void receive(FtpReply reply);
     [[nodiscard]] bool ready(std::size_t enough) const;
     [[nodiscard]] FtpReply take();
-    [[nodiscard]] bool settlesOwedReply(int code);
+    void settle(int code);
+    void dropUnowed();
     void lose(std::int32_t number, std::string_view description);
     void recordLoss();
 
@@ -79,9 +90,9 @@ class FtpControlChannel : private TcpSocketEvents {
     bool restBelongsToTaken_ = false;  // the reply being read was judged already
     FtpReply last_;
     std::string lastServerResponse_;
-    bool unanswered_ = false;  // the command sent last has not had its final reply
-    int owed_ = 0;
-    int farewell_ = 0;  // 421 or 426 once it came
+    bool unanswered_ = false;
+    std::size_t dropped_ = 0;  // replies, since the last command
+    int farewell_ = 0;         // 421 or 426 once it came
     std::optional<RunTimeError> loss_;
 };
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 #include <ctime>
+#include <optional>
 
 #include "ftp/CFtpConnection.h"
 #include "tests/ftp/FtpFixture.h"
@@ -34,15 +35,14 @@ class CFtpConnectionTest : public FtpFixture {
 
 TEST_F(CFtpConnectionTest, tellsTheWholeDialogueInItsOrderWithThePasswordMasked) {
     ScriptedServer server(sockets, loop);
-    server.on("RETR", "150 Coming|~9|+hello|=|~9|226 Sent");
+    server.on("RETR", "+hello|=|~9|150 Coming|~9|226 Sent");
     ftp.Port = server.port();
     ASSERT_TRUE(ftp.Connect() && ftp.downloadFile("a.pdf", local("a.pdf"), 0) && ftp.CloseConnection());
     EXPECT_EQ(ftp.CurrentDirectory(), "/home");
-    std::erase(told, "Down 5");
     EXPECT_THAT(told, ElementsAre("State 0", "State 1", "State 2", "220 Ready", "State 3", "USER vell", "331 Password?",
                                   "PASS **********", "230 In", "PWD", "257 \"/home\"", "TYPE I", "200 Fine", "State 5",
                                   StartsWith("PORT 127,0,0,1,"), "200 Fine", "State 6", "RETR a.pdf", "150 Coming",
-                                  "State 9", "226 Sent", "State 10", "QUIT", "221 Bye"));
+                                  "State 9", "Down 5", "226 Sent", "State 10", "QUIT", "221 Bye"));
     EXPECT_EQ(server.commands.at(1), "PASS ruxo");
 }
 
@@ -114,11 +114,12 @@ TEST_F(CFtpConnectionTest, downloadsWholeFilesAndTellsAtOnceWhyItCannot) {
              {"REST", "502 No", 49, "old", true, 1},
              {"RETR", "550 No", 54, "old"}, {"RETR", "425 No", 42, "old"}, {"PORT", "500 Illegal", 47, "old"},
              {"RETR", "150 a|+ne|=|451 b", 45, "ne"},
-             {"RETR", "150 a|+ne|~9|426 b", 43, "ne", false},
+             {"RETR", "150 a|+ne|~9|426 b", 43, "ne", false}, {"RETR", "150 a\r\n426 b", 43, "old", false},
              {"TYPE", "421 Idle|!", 41, "old", false},
              {"TYPE", "!", 7, "old", false}, {"PORT", "!", 7, "old", false}, {"RETR", "!", 7, "old", false},
              {"RETR", "150 a|+ne|~9|!", 7, "ne", false},
-             {"TYPE", "~99999", 58, "old"}, {"RETR", "150 a|+ne|~99999", 58, "ne"}, {"RETR", "150 a\r\n226 b", 58, ""},
+             {"TYPE", "~99999", 58, "old", false}, {"RETR", "150 a|+ne|~99999", 58, "ne", false},
+             {"RETR", "150 a\r\n226 b", 58, ""},
              {"RETR", ">150-" + std::string(1'000'000, 'x'), 16, "old", false},
              {"TYPE", std::string(100'000, '\n'), 16, "old", false},
          }) {
@@ -170,16 +171,78 @@ TEST_F(CFtpConnectionTest, writesToTheFileItIsHandedAndLeavesTheDiskAlone) {
     EXPECT_EQ(folder.get("a.pdf"), "old");
 }
 
-TEST_F(CFtpConnectionTest, keepsInStepWithAServerThatAnswersAfterTheTimeOut) {
-    ScriptedServer server(sockets, loop);
-    server.on("RETR", "150 a|+x|~9000|226 late");
-    connectTo(server);
-    EXPECT_FALSE(ftp.downloadFile("a.pdf", local("a.pdf"), 0));
-    EXPECT_EQ(ftp.FtpGetLastError(), 58);
-    server.on("RETR", "150 a|+xyz|=|226 b");
-    EXPECT_TRUE(ftp.downloadFile("a.pdf", local("a.pdf"), 0)) << ftp.GetFtpErrorDescription();
-    EXPECT_TRUE(ftp.SetCurrentDirectory("x") && ftp.CloseConnection());
-    EXPECT_EQ(folder.get("a.pdf"), "xyz");
+TEST_F(CFtpConnectionTest, losesNothingWhenTheServerSaysMoreThanItOwes) {
+    struct Case {
+        std::string Command, Steps;
+        bool Connected = true;
+    };
+    const std::string file = "150 a|+new|=|226 b";
+    // clang-format off
+    for (const Case& c : std::vector<Case>{
+             {"RETR", file + "\r\n226 b"}, {"RETR", file + "|~9|226 b"}, {"RETR", file + "\r\n"}, {"RETR", file + "|~9|"
+              ">\r\n"}, {"RETR", file + "|~9|200 Hi"}, {"RETR", file + "|~9|>22"},
+             {"TYPE", "226 late|200 Fine"}, {"TYPE", "200 late|200 Fine"}, {"TYPE", ">\r\n|200 Fine"},
+             {"RETR", file + "\r\n421 Idle", false}, {"RETR", file + "|~9|421 Idle", false},
+         }) {
+        // clang-format on
+        SCOPED_TRACE(c.Command + " " + c.Steps);
+        ScriptedServer server(sockets, loop);
+        server.on("RETR", file);
+        server.on(c.Command, c.Steps);
+        connectTo(server);
+        for (int i = 0; i < 2 && ftp.IsConnected(); ++i) {
+            EXPECT_TRUE(ftp.downloadFile("a.pdf", local("a.pdf"), 0)) << ftp.GetFtpErrorDescription();
+            EXPECT_EQ(folder.get("a.pdf"), "new");
+            for (int turn = 0; turn < 5; ++turn)
+                loop.WaitForEvents(10);
+            if (c.Steps.ends_with(">22")) server.on("TYPE", ">6 b\r\n|200 Fine");
+            server.on("RETR", file);
+        }
+        EXPECT_EQ(ftp.IsConnected(), c.Connected);
+        EXPECT_TRUE(ftp.CloseConnection());
+    }
+    EXPECT_LT(seconds(), 5);
+}
+
+TEST_F(CFtpConnectionTest, takesAFileForWholeWhenAllOfItCameThoughTheServerNeverSaysSo) {
+    struct Case {
+        std::string AfterTheFile;
+        std::optional<std::int64_t> Length;
+        int Error;  // 0: it counts
+    };
+    // clang-format off
+    for (const Case& c : std::vector<Case>{
+             {"~99999", 5, 0}, {"~99999", {}, 0}, {"~99999", 6, 58}, {"!", 5, 0}, {"!", {}, 7}, {"421 b", 5, 41}, {"426 b", 5, 43},
+         }) {
+        // clang-format on
+        SCOPED_TRACE(c.AfterTheFile);
+        ScriptedServer server(sockets, loop);
+        server.on("RETR", "150 a|+new|=|" + c.AfterTheFile);
+        connectTo(server);
+        Received file;
+        const double begin = seconds();
+        EXPECT_EQ(ftp.downloadFile("a.pdf", file, 2, c.Length), c.Error == 0);
+        EXPECT_LT(seconds() - begin, ftp.Timeout + 1.3);
+        EXPECT_EQ(c.Error == 0 ? 0 : ftp.FtpGetLastError(), c.Error);
+        EXPECT_FALSE(ftp.IsConnected());
+    }
+    EXPECT_THAT(asked, testing::IsEmpty());
+}
+
+TEST_F(CFtpConnectionTest, givesUpATransferThatOnlyDripsForFiveMinutes) {
+    for (const std::size_t everyFourSeconds : {250U, 260U}) {
+        std::string steps = "150 a|";
+        for (int second = 0; second < 400; second += 4)
+            steps += "+" + std::string(everyFourSeconds, 'x') + "|~4000|";
+        ScriptedServer server(sockets, loop);
+        server.on("RETR", steps + "=|226 b");
+        connectTo(server);
+        Received file;
+        const double begin = seconds();
+        EXPECT_EQ(ftp.downloadFile("a.pdf", file, 0), everyFourSeconds > 256);
+        EXPECT_NEAR(seconds() - begin, everyFourSeconds > 256 ? 400 : 302, 3);
+    }
+    EXPECT_EQ(ftp.FtpGetLastError(), 33);
 }
 
 TEST_F(CFtpConnectionTest, asksWhetherToKeepWaitingWhenSomebodyIsThere) {
@@ -195,8 +258,14 @@ TEST_F(CFtpConnectionTest, asksWhetherToKeepWaitingWhenSomebodyIsThere) {
     server.on("CWD", "~99999");
     EXPECT_FALSE(ftp.SetCurrentDirectory("x"));
     EXPECT_EQ(ftp.FtpGetLastError(), 58);
+    EXPECT_FALSE(ftp.IsConnected());
+    EXPECT_THAT(asked, testing::SizeIs(4));
+    ScriptedServer another(sockets, loop);
+    another.on("CWD", "~99999");
+    connectTo(another);
     ftp.AskOnTimeout = false;
     EXPECT_FALSE(ftp.SetCurrentDirectory("x"));
+    EXPECT_EQ(ftp.FtpGetLastError(), 58);
     EXPECT_THAT(asked, testing::SizeIs(4));
 }
 
@@ -261,17 +330,22 @@ TEST_F(CFtpConnectionTest, failsWithoutADataConnectionOrALocalFile) {
     server.on("LIST", "150 a\r\n226 b|+01-15-04 10:30AM 12 a.pdf\r\n01-15-04 10:30AM <DIR> d\r\n|=");
     connectTo(server);
     EXPECT_EQ(ftp.EnumFiles().Count(), 2);
-    EXPECT_FALSE(ftp.downloadFile("a", local("no\\such\\folder"), 0));
-    EXPECT_THAT(logged, ElementsAre(StartsWith("downloadFile() ")));
-    EXPECT_TRUE(ftp.IsConnected());
     ftp.PassiveMode = true;
-    server.on("PASV", "227 Somewhere (1,2,3)");
-    EXPECT_EQ(ftp.EnumFiles().Count(), 0);
-    EXPECT_EQ(ftp.FtpGetLastError(), 13);
+    for (const char* elsewhere : {"227 Somewhere (1,2,3)", "227 Another (127,0,0,2,200,1)"}) {
+        server.on("PASV", elsewhere);
+        EXPECT_EQ(ftp.EnumFiles().Count(), 0);
+        EXPECT_EQ(ftp.FtpGetLastError(), 13);
+    }
     server.on("PASV", "227 Nobody (127,0,0,1,0,1)");
     EXPECT_EQ(ftp.EnumFiles().Count(), 0);
     EXPECT_EQ(ftp.FtpGetLastError(), 6);
-    EXPECT_THAT(logged, Contains(StartsWith("wscData Error-->Number:10061, Description:")));
+    EXPECT_THAT(logged, ElementsAre(StartsWith("wscData Error-->Number:10061, Description:")));
+    ftp.PassiveMode = false;
+    EXPECT_FALSE(ftp.downloadFile("a", local("no\\such\\folder"), 0));
+    EXPECT_THAT(logged, Contains(StartsWith("downloadFile() ")));
+    ftp.FtpServer = "::1";
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_THAT(ftp.GetFtpErrorDescription(), testing::HasSubstr("IPv4"));
 }
 
 TEST_F(CFtpConnectionTest, sendsNoArgumentThatCouldCarryASecondCommand) {
