@@ -140,7 +140,7 @@ TEST_F(EndToEndTest, saysWhatItMayNotWriteAndLeavesWhatIsThere) {
     ASSERT_EQ(run(download_)[0], '0');
     const auto before = tree();
     for (const auto& [place, arguments, told] : std::vector<std::array<std::string, 3>>{
-             {"clips", "download,--date,08/03/2004", "!Error! Download folder not created."},
+             {"clips", "download,--date,08/03/2004", "Error! Download folder not created."},
              {"clips/07032004", "download,--date,07/03/2004", "\nError while getting list of files to download\n"},
              {"", "setup,TimeOut,30", "The settings file could not be written"}}) {
         fs::permissions(folder_.path() / place, fs::perms::owner_read | fs::perms::owner_exec);
