@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <vector>
 
 #include "base/text.h"
 #include "config/modIni.h"
@@ -53,9 +54,13 @@ WindowPlace loadWindowPlace(const modIni& ini) {
 }
 
 void saveWindowPlace(modIni& ini, const WindowPlace& place) {
-    for (const PlaceKey& key : placeKeys)
-        if (place.*key.Value >= key.Least)
-            ini.VellIniWriteString(key.Section, key.Key, std::to_string(place.*key.Value));
+    ini.VellIniWriteStrings([&] {
+        std::vector<IniEdit> edits;
+        for (const PlaceKey& key : placeKeys)
+            if (place.*key.Value >= key.Least)
+                edits.push_back({key.Section, key.Key, std::to_string(place.*key.Value)});
+        return edits;
+    });
 }
 
 }  // namespace vell

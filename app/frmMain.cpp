@@ -89,6 +89,7 @@ void frmMain::findProgramFolder() {
 void frmMain::showFirstDay() {
     reading_.Days.chooseFirst(platform_.Time.Now().Day);
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
+    if (!settingsComplaint().empty()) view_.displayInfoMessageBox(settingsComplaint());
     fetching_.Scheduled.start();
 }
 

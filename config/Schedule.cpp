@@ -3,7 +3,7 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <vector>
+#include <iterator>
 
 #include "base/text.h"
 #include "config/Settings.h"
@@ -23,6 +23,13 @@ int twoDigits(std::string_view text) {
 std::size_t dayOf(std::string_view name) {
     const auto found = std::ranges::find_if(scheduleDays, [&](auto day) { return equalNoCase(day, name); });
     return static_cast<std::size_t>(found - scheduleDays.begin());
+}
+
+// The entries of the one that the other has not. An entry may stand in both several times.
+std::vector<ScheduleEntry> without(std::vector<ScheduleEntry> one, const std::vector<ScheduleEntry>& other) {
+    for (const ScheduleEntry& entry : other)
+        if (const auto at = std::ranges::find(one, entry); at != one.end()) one.erase(at);
+    return one;
 }
 
 std::vector<std::string_view> words(std::string_view text) {
@@ -80,12 +87,25 @@ bool IsTimeValid(std::string_view text) {
     return hours >= 0 && hours <= 24 && minutes >= 0 && minutes <= 59;
 }
 
+std::vector<ScheduleEntry> mergedSchedule(const std::vector<ScheduleEntry>& before,
+                                          const std::vector<ScheduleEntry>& theirs, std::vector<ScheduleEntry> ours) {
+    for (const ScheduleEntry& lost : without(before, theirs))
+        if (const auto at = std::ranges::find(ours, lost); at != ours.end()) ours.erase(at);
+    std::ranges::copy(without(theirs, before), std::back_inserter(ours));
+    return ours;
+}
+
+std::vector<ScheduleEntry> storedSchedule(const modIni& ini) {
+    std::vector<ScheduleEntry> entries;
+    std::string stored;
+    while (ini.VellIniReadString(scheduleSection, scheduleKey(entries.size() + 1), stored))
+        entries.push_back(scheduleEntryOf(stored));
+    return entries;
+}
+
 void GetSchedule(Settings& settings, const modIni& ini, ErrorLog& log) {
     trapStep(log, "GetSchedule()", [&] {
-        settings.ScheduleList.clear();
-        std::string stored;
-        for (int n = 1; ini.VellIniReadString("Schedule", "Schedule" + std::to_string(n), stored); ++n)
-            settings.ScheduleList.push_back(scheduleEntryOf(stored));
+        if (ini.isReadable()) settings.ScheduleList = storedSchedule(ini);
     });
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "config/SettingsTable.h"
+#include "config/modIni.h"
 
 namespace vell {
 
@@ -15,12 +16,16 @@ void SettingsLoader::setAppVersion(std::string version) {
 }
 
 void SettingsLoader::GetSetup() {
-    isWhole_ = false;
+    complaint_ = "The settings file cannot be read. Everything stays as it was.";
+    if (!ini_.isReadable()) return log_.WriteLog("GetSetup()");
+    complaint_ =
+        "The settings file holds a password that cannot be read, and what stands behind it is left out. Set the "
+        "passwords anew: in Setup, or with 'vell-console setup Pwd -' and 'vell-console setup proxyPwd -'.";
     try {
         for (const SettingRow& row : settingRows())
             loadSetting(row, ini_, settings_, errors_);
         settings_.AgentName = "VELL_" + appVersion_ + "_user:" + settings_.Uid;
-        isWhole_ = true;
+        complaint_ = {};
     } catch (...) {
         log_.WriteLog("GetSetup()");
     }

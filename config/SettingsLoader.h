@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/errors.h"
 #include "config/Settings.h"
@@ -11,7 +12,8 @@ namespace vell {
 class modIni;
 
 // Fills the settings from the settings file, in the order of their table. A key that is missing gives the field its
-// empty value. A password that cannot be unscrambled ends the load there, leaving the later fields as they were.
+// empty value. A password that cannot be unscrambled ends the load there, leaving the later fields as they were; a file
+// that is there and cannot be read leaves all of them.
 class SettingsLoader {
   public:
     SettingsLoader(Settings& settings, modIni& ini, ErrorLog& errors, TextLog& log);
@@ -19,8 +21,8 @@ class SettingsLoader {
     // The running program's version, "major.minor.revision".
     void setAppVersion(std::string version);
     void GetSetup();
-    // False when the last load ended early.
-    [[nodiscard]] bool isWhole() const { return isWhole_; }
+    // What people are told when the last load ended early, and what they can do; empty when it did not.
+    [[nodiscard]] std::string_view complaint() const { return complaint_; }
 
   private:
     Settings& settings_;
@@ -28,7 +30,7 @@ class SettingsLoader {
     ErrorLog& errors_;
     TextLog& log_;
     std::string appVersion_;
-    bool isWhole_ = true;
+    std::string_view complaint_;
 };
 
 }  // namespace vell

@@ -25,7 +25,7 @@ frmSchedule::frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, E
 
 void frmSchedule::Form_Load() {
     GetSchedule(settings_, ini_, log_);
-    rows_ = settings_.ScheduleList;
+    rows_ = loaded_ = settings_.ScheduleList;
 }
 
 void frmSchedule::cmdAddSchedule_Click(ScheduleView& view) {
@@ -70,15 +70,20 @@ void frmSchedule::add(ScheduleEntry entry) {
 bool frmSchedule::cmdOk_Click() {
     const bool written = write();
     GetSchedule(settings_, ini_, log_);
-    if (!written) refuse("Error! The schedule could not be saved");
+    if (written)
+        rows_ = loaded_ = settings_.ScheduleList;
+    else
+        refuse("Error! The schedule could not be saved");
     return written;
 }
 
 bool frmSchedule::write() {
-    bool written = ini_.VellIniDeleteSection("Schedule");
-    for (std::size_t row = 0; row < rows_.size() && written; ++row)
-        written = ini_.VellIniWriteString("Schedule", "Schedule" + std::to_string(row + 1), storedTextOf(rows_[row]));
-    return written;
+    return ini_.VellIniWriteStrings([&] {
+        std::vector<IniEdit> edits{{std::string(scheduleSection), std::nullopt, std::nullopt}};
+        for (const ScheduleEntry& entry : mergedSchedule(loaded_, storedSchedule(ini_), rows_))
+            edits.push_back({std::string(scheduleSection), scheduleKey(edits.size()), storedTextOf(entry)});
+        return edits;
+    });
 }
 
 void frmSchedule::refuse(std::string_view message) {

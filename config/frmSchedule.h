@@ -36,8 +36,8 @@ class frmSchedule {
     // Adds a row as it is.
     void add(ScheduleEntry entry);
 
-    // Replaces the stored schedule by the rows and loads it. False, with a message, when the file could not be
-    // written.
+    // Replaces the stored schedule by the rows, with what another program has changed in it meanwhile, and loads it.
+    // False, with a message, when the file could not be written; the rows stay.
     [[nodiscard]] bool cmdOk_Click();
 
   private:
@@ -48,6 +48,7 @@ class frmSchedule {
     modIni& ini_;
     MessageBoxes& boxes_;
     ErrorLog& log_;
+    std::vector<ScheduleEntry> loaded_;  // what was stored when the rows were read
     std::vector<ScheduleEntry> rows_;
 };
 

@@ -5,10 +5,11 @@
 #include <array>
 #include <climits>
 
-#include "config/SettingsLoader.h"
-#include "config/modIni.h"
-
 namespace vell {
+
+namespace {
+constexpr std::string_view notWritten = "Error! The settings file could not be written";
+}
 
 frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log)
     : settings_(settings), loader_(loader), ini_(ini), log_(log), entries_(settingRows().size()) {}
@@ -21,11 +22,28 @@ std::span<const std::string_view> frmSetup::hosts() {
 void frmSetup::Form_Load() {
     loader_.GetSetup();
     for (const SettingRow& row : setupRows())
-        entries_[index(row)] = entryOf(row, settings_);
+        entries_[index(row)] = loaded(row);
 }
 
-bool frmSetup::isWhole() const {
-    return loader_.isWhole();
+// Read by itself: a damaged password keeps the loader, but not the dialog, from what stands behind it.
+frmSetup::Entry frmSetup::loaded(const SettingRow& row) const {
+    Settings settings = settings_;
+    bool isUnreadable = false;
+    if (!complaint().empty() && ini_.isReadable()) {
+        settings = Settings{};
+        isUnreadable = !trap(log_, "Form_Load()", false, [&] {
+            loadSetting(row, ini_, settings, log_);
+            return true;
+        });
+    }
+    const std::string text = entryOf(row, settings);
+    return {text, text, stored(row), isUnreadable};
+}
+
+std::string frmSetup::stored(const SettingRow& row) const {
+    std::string text;
+    ini_.VellIniReadString(row.Section, row.Key, text);
+    return text;
 }
 
 bool frmSetup::isEnabled(const SettingField& field) const {
@@ -34,7 +52,7 @@ bool frmSetup::isEnabled(const SettingField& field) const {
 }
 
 void frmSetup::setEntry(const SettingField& field, std::string_view text) {
-    entries_[index(rowOf(field))] = text;
+    entries_[index(rowOf(field))].Text = text;
     if (field == SettingField(&Settings::Protocol)) settings_.UseHTTP = text != "FTP";
 }
 
@@ -64,23 +82,33 @@ std::optional<SetupProblem> frmSetup::firstProblem() const {
     return std::nullopt;
 }
 
-bool frmSetup::save(const SettingRow& row) {
-    return ini_.VellIniWriteString(row.Section, row.Key, storedText(row, entries_[index(row)], log_));
+bool frmSetup::isToSave(const SettingRow& row) const {
+    const Entry& entry = entries_[index(row)];
+    return entry.Text != entry.AtLoad || (!entry.IsUnreadable && stored(row) == entry.Stored);
+}
+
+IniEdit frmSetup::editOf(const SettingRow& row) const {
+    return {std::string(row.Section), std::string(row.Key), storedText(row, entry(row.Field), log_)};
 }
 
 std::optional<SetupProblem> frmSetup::cmdOk_Click() {
     if (auto problem = firstProblem()) return problem;
-    for (const SettingRow& row : setupRows())
-        (void)save(row);  // a failure does not keep the others from being saved
+    const bool saved = ini_.VellIniWriteStrings([&] {
+        std::vector<IniEdit> edits;
+        for (const SettingRow& row : setupRows())
+            if (isToSave(row)) edits.push_back(editOf(row));
+        return edits;
+    });
+    if (!saved) return SetupProblem{&Settings::Host, std::string(notWritten)};
     loader_.GetSetup();
     return std::nullopt;
 }
 
 std::optional<SetupProblem> frmSetup::saveOnly(const SettingField& field) {
     if (auto problem = problemOf(field)) return problem;
-    const bool saved = save(rowOf(field));
+    if (!ini_.VellIniWriteStrings([&] { return std::vector{editOf(rowOf(field))}; }))
+        return SetupProblem{field, std::string(notWritten)};
     loader_.GetSetup();
-    if (!saved) return SetupProblem{field, "Error! The settings file could not be written"};
     return std::nullopt;
 }
 

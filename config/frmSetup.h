@@ -9,12 +9,11 @@
 #include <vector>
 
 #include "base/errors.h"
+#include "config/SettingsLoader.h"
 #include "config/SettingsTable.h"
+#include "config/modIni.h"
 
 namespace vell {
-
-class modIni;
-class SettingsLoader;
 
 struct SetupProblem {
     SettingField Field;
@@ -32,12 +31,15 @@ class frmSetup {
 
     // Reads the settings anew into the entries.
     void Form_Load();
-    // False when a password in the file cannot be read: what stands behind it is then left out.
-    [[nodiscard]] bool isWhole() const;
+    // What people are told of a settings file that is damaged; empty for a good one. The entries hold what could be
+    // read.
+    [[nodiscard]] std::string_view complaint() const { return loader_.complaint(); }
     // The entries that FTP alone needs can be changed only when FTP is chosen. They are saved all the same.
     [[nodiscard]] bool isEnabled(const SettingField& field) const;
 
-    [[nodiscard]] const std::string& entry(const SettingField& field) const { return entries_[index(rowOf(field))]; }
+    [[nodiscard]] const std::string& entry(const SettingField& field) const {
+        return entries_[index(rowOf(field))].Text;
+    }
     // Choosing a protocol takes effect in the settings at once; unloading undoes it.
     void setEntry(const SettingField& field, std::string_view text);
     // The user has chosen a download folder, or none (empty), which leaves the entry as it is. Either takes effect in
@@ -50,9 +52,11 @@ class frmSetup {
     [[nodiscard]] std::optional<SetupProblem> firstProblem() const;
     [[nodiscard]] std::optional<SetupProblem> problemOf(const SettingField& field) const;
 
-    // Saves every entry when none is wrong and loads the settings again. Else saves nothing and tells what is wrong.
+    // Saves every entry when none is wrong and loads the settings again. Else saves nothing and tells what is wrong; a
+    // file that cannot be written is a problem, too. An entry that the user has left as it was gives way to what
+    // another program has stored meanwhile, and a password that could not be read is not replaced by nothing.
     [[nodiscard]] std::optional<SetupProblem> cmdOk_Click();
-    // Saves one entry alone, with its own checks. A file that cannot be written is a problem, too.
+    // Saves one entry alone, with its own checks.
     [[nodiscard]] std::optional<SetupProblem> saveOnly(const SettingField& field);
     // Takes back what the dialog has changed in the settings.
     void Form_Unload();
@@ -61,13 +65,22 @@ class frmSetup {
     [[nodiscard]] static std::size_t index(const SettingRow& row) {
         return static_cast<std::size_t>(&row - settingRows().data());
     }
-    [[nodiscard]] bool save(const SettingRow& row);
+    struct Entry {
+        std::string Text;
+        std::string AtLoad;         // the text then
+        std::string Stored;         // what stood in the file then
+        bool IsUnreadable = false;  // for which the entry is empty
+    };
+    [[nodiscard]] std::string stored(const SettingRow& row) const;
+    [[nodiscard]] Entry loaded(const SettingRow& row) const;
+    [[nodiscard]] bool isToSave(const SettingRow& row) const;
+    [[nodiscard]] IniEdit editOf(const SettingRow& row) const;
 
     Settings& settings_;
     SettingsLoader& loader_;
     modIni& ini_;
     ErrorLog& log_;
-    std::vector<std::string> entries_;  // a place per row of the table
+    std::vector<Entry> entries_;  // a place per row of the table
 };
 
 }  // namespace vell

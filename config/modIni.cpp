@@ -5,13 +5,16 @@
 #include <utility>
 
 #include "base/text.h"
-#include "platform/IniFile.h"
 
 namespace vell {
 
 namespace {
 constexpr std::string_view notFound = "#NF#";
 constexpr std::size_t bufferSize = 250;
+
+std::vector<IniEdit> one(std::string_view section, std::string_view key, std::string_view value) {
+    return {{std::string(section), std::string(key), std::string(value)}};
+}
 }  // namespace
 
 modIni::modIni(IniFile& ini, ErrorLog& log) : ini_(ini), log_(log) {}
@@ -50,19 +53,30 @@ bool modIni::VellIniReadString(std::string_view section, std::string_view key, s
     });
 }
 
+bool modIni::isReadable() const {
+    return trap(log_, "VellIniReadString()", false, [&] {
+        (void)ini_.ReadString(settingsFile(), "", "", "", 1);
+        return true;
+    });
+}
+
 bool modIni::VellIniWriteString(std::string_view section, std::string_view key, std::string_view value) {
-    return trap(log_, "VellIniWriteString()", false,
-                [&] { return ini_.WriteString(settingsFile(), section, key, value); });
+    return VellIniWriteStrings([&] { return one(section, key, value); });
 }
 
 bool modIni::IniWriteString(std::string_view file, std::string_view section, std::string_view key,
                             std::string_view value) {
-    return trap(log_, "IniWriteString()", false, [&] { return ini_.WriteString(file, section, key, value); });
+    return trap(log_, "IniWriteString()", false, [&] {
+        ini_.Update(file, [&] { return one(section, key, value); });
+        return true;
+    });
 }
 
-bool modIni::VellIniDeleteSection(std::string_view section) {
-    return trap(log_, "VellIniWriteString()", false,
-                [&] { return ini_.WriteString(settingsFile(), section, std::nullopt, std::nullopt); });
+bool modIni::VellIniWriteStrings(const std::function<std::vector<IniEdit>()>& edits) {
+    return trap(log_, "VellIniWriteString()", false, [&] {
+        ini_.Update(settingsFile(), edits);
+        return true;
+    });
 }
 
 }  // namespace vell

@@ -2,14 +2,15 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "base/errors.h"
+#include "platform/IniFile.h"
 
 namespace vell {
-
-class IniFile;
 
 // All access to files in INI syntax. The Vell pair works on the settings file, the other pair on any file. Nothing
 // fails towards the caller: a failure is logged under the function's name and the result is false.
@@ -30,11 +31,15 @@ class modIni {
     // key that is missing.
     bool VellIniReadString(std::string_view section, std::string_view key, std::int16_t& value) const;
 
+    // False when the settings file is there and cannot be read.
+    [[nodiscard]] bool isReadable() const;
+
     // True when the file was written.
     bool VellIniWriteString(std::string_view section, std::string_view key, std::string_view value);
     bool IniWriteString(std::string_view file, std::string_view section, std::string_view key, std::string_view value);
-    // Deletes a whole section of the settings file.
-    bool VellIniDeleteSection(std::string_view section);
+    // Several changes of the settings file in one step. No other writer comes between the call of `edits`, which may
+    // read the file, and the replacement.
+    bool VellIniWriteStrings(const std::function<std::vector<IniEdit>()>& edits);
 
   private:
     [[nodiscard]] bool read(std::string_view file, std::string_view section, std::string_view key,

@@ -49,7 +49,8 @@ Commands::Commands(frmMain& program, EventLoop& loop, ConsoleView& view, Termina
 
 int Commands::run(const CommandLine& line) {
     if (!program_.Form_Load(startOf(line.What))) return exit_code::AlreadyRunning;
-    if (line.What != CommandLine::Command::Setup && !program_.areSettingsWhole()) screen_.tell(damagedSettings);
+    const std::string_view complaint = program_.settingsComplaint();
+    if (line.What != CommandLine::Command::Setup && !complaint.empty()) screen_.tell(complaint);
     const int code = perform(line);
     program_.Form_Unload();
     return code;

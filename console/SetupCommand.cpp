@@ -70,9 +70,9 @@ int SetupCommand::change(const SettingRow& row, const std::string& value) {
     }
     const std::string saved = dialog_.entry(row.Field);
     dialog_.Form_Load();
-    if (!dialog_.isWhole()) {
+    if (const std::string complaint(dialog_.complaint()); !complaint.empty()) {
         screen_.print(keyOf(row) + " was saved.");
-        tell(std::string(damagedSettings));
+        tell(complaint);
         return exit_code::Good;
     }
     screen_.print(keyOf(row) + " = " + shown(row));
@@ -111,7 +111,7 @@ void SetupCommand::showAll() {
         screen_.print(setting + std::string(width < meaningColumn ? meaningColumn - width : 2, ' ') + "# " +
                       std::string(row.Meaning));
     }
-    if (!dialog_.isWhole()) tell(std::string(damagedSettings));
+    if (const std::string complaint(dialog_.complaint()); !complaint.empty()) tell(complaint);
 }
 
 void SetupCommand::askForLogin() {

@@ -3,15 +3,10 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 
 #include "config/frmSetup.h"
 
 namespace vell {
-
-inline constexpr std::string_view damagedSettings =
-    "The settings file holds a password that cannot be read, and what stands behind it is left out. Set the passwords "
-    "anew with 'vell-console setup Pwd -' and 'vell-console setup proxyPwd -'.";
 
 class ConsoleBoxes;
 class Screen;

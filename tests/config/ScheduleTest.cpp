@@ -118,5 +118,19 @@ TEST_F(ScheduleTest, writesTheRowsAnewFromOne) {
     EXPECT_EQ(told(), Lines{"Error! The schedule could not be saved"});
 }
 
+TEST_F(ScheduleTest, keepsWhatAnotherProgramHasChangedMeanwhile) {
+    loadSchedule("Schedule1=Mon 07:05\nSchedule2=Tue 08:00\nSchedule3=Fri 09:00\n");
+    frmSchedule other{setup, ini, boxes, log};
+    other.Form_Load();
+    other.add(scheduleEntryOf("Sun 10:00"));
+    other.cmdDelSchedule_Click(1);
+    EXPECT_TRUE(other.cmdOk_Click());
+    dialog.add(scheduleEntryOf("Sat 11:00"));
+    dialog.cmdDelSchedule_Click(0);
+    EXPECT_TRUE(dialog.cmdOk_Click());
+    EXPECT_EQ(folder.get("vell.ini"),
+              "[Schedule]\r\nSchedule1=Fri 09:00\r\nSchedule2=Sat 11:00\r\nSchedule3=Sun 10:00\r\n");
+}
+
 }  // namespace
 }  // namespace vell::test

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "config/frmSetup.h"
 #include "config/modCrypt.h"
 #include "tests/support/SettingsRig.h"
 
 namespace vell::test {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
 
 class SettingsTest : public testing::Test, protected SettingsRig {
   protected:
@@ -79,10 +82,37 @@ TEST_F(SettingsTest, aDamagedPasswordEndsTheLoadWhereItStands) {
     for (const char* key : {"Pwd", "proxyPwd"}) {
         load("[Host]\r\nHost=old\r\nPwd=wo\xC0\r\n[Download]\r\nLocalDir=/old\r\n");
         load(std::string("[Host]\r\nHost=new\r\n") + key + "=bad\r\n[Download]\r\nLocalDir=/new\r\n");
-        EXPECT_EQ(setup.Host + setup.Pwd + setup.LocalDir, "newAB/old");
-        EXPECT_FALSE(loader.isWhole());
+        EXPECT_THAT((std::vector{setup.Host, setup.Pwd, setup.LocalDir}), ElementsAre("new", "AB", "/old"));
+        EXPECT_THAT(loader.complaint(), HasSubstr("a password that cannot be read"));
         EXPECT_TRUE(logged().ends_with(" in Decrypt()\nGetSetup()\n"));
     }
+}
+
+TEST_F(SettingsTest, okLeavesWhatCouldNotBeReadAndWhatAnotherHasStoredMeanwhile) {
+    load(
+        "[Host]\r\nHost=a\r\nUid=u\r\nPort=65000\r\nRetryOnFailure=3\r\nRetryDelay=5\r\nproxyPwd=bad\r\nPwd=wo\xC0\r\n"
+        "[Download]\r\nLocalDir=/clips\r\n[General]\r\nAutoPlayDelay=5\r\nPrintAllDelay=5\r\n");
+    dialog.Form_Load();
+    EXPECT_EQ(dialog.entry(&Settings::LocalDir), "/clips") << "it stands behind the damaged password";
+    dialog.setEntry(&Settings::TimeOut, "20");
+    dialog.setEntry(&Settings::Host, "mine");
+    ini.VellIniWriteString("Host", "Host", "theirs");
+    ini.VellIniWriteString("Host", "Uid", "theirs");
+    const auto problem = dialog.cmdOk_Click().value_or(SetupProblem{});
+    EXPECT_EQ(problem.Message, "");
+    const std::string file = folder.get("vell.ini");
+    for (const char* line :
+         {"Host=mine\r\n", "Uid=theirs\r\n", "Port=6500\r\n", "proxyPwd=bad\r\n", "LocalDir=/clips\r\n"})
+        EXPECT_THAT(file, HasSubstr(line));
+}
+
+TEST_F(SettingsTest, aFileThatCannotBeReadChangesNothingInMemory) {
+    load("[Host]\r\nHost=a\r\n");
+    std::filesystem::remove(folder.path() / "vell.ini");
+    std::filesystem::create_directory(folder.path() / "vell.ini");
+    loader.GetSetup();
+    EXPECT_EQ(setup.Host, "a");
+    EXPECT_THAT(loader.complaint(), HasSubstr("cannot be read"));
 }
 
 TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAreRight) {

@@ -2,7 +2,10 @@
 #include <filesystem>
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include "base/text.h"
 #include "platform/posix/files/PosixFiles.h"
 #include "platform/posix/files/PosixIniFile.h"
 #include "tests/support/FaultyFiles.h"
@@ -62,6 +65,22 @@ class PosixIniFileTest : public testing::Test {
     [[nodiscard]] std::string read(std::string_view key, std::size_t size = 250) const {
         return ini_.ReadString(file_, "Host", key, "#NF#", size);
     }
+    static void write(IniFile& ini, const std::string& file, const std::string& key, std::optional<std::string> value) {
+        ini.Update(file, [&] { return std::vector{IniEdit{"Host", key, value}}; });
+    }
+    // A process of its own that adds one to a number, again and again; its exit code is 0.
+    [[nodiscard]] pid_t counter(int times) const {
+        const pid_t process = fork();
+        if (process != 0) return process;
+        PosixFiles files;
+        PosixIniFile ini(files);
+        for (int i = 0; i < times; ++i)
+            ini.Update(file_, [&] {
+                const int count = CInt16(ini.ReadString(file_, "Host", "Port", "0", 250));
+                return std::vector{IniEdit{"Host", "Port", std::to_string(count + 1)}};
+            });
+        _exit(0);
+    }
 
     TempFolder folder_;
     PosixFiles files_;
@@ -75,12 +94,12 @@ TEST_F(PosixIniFileTest, everyByteOfAValueSurvivesApartFromLineEnds) {
     for (int c = 0; c < 256; ++c)
         if (c != '\r' && c != '\n') all += static_cast<char>(c);
     all += 'x';
-    ASSERT_TRUE(ini_.WriteString(file_, "Host", "Pwd", all));
+    write(ini_, file_, "Pwd", all);
     EXPECT_EQ(read("pwd", 1000), all);
     EXPECT_EQ(read("pwd", 250), all.substr(0, 249));
     EXPECT_EQ(PosixIniFile(files_).ReadString(file_, "HOST", "PWD", "", 1000), all);
-    EXPECT_FALSE(ini_.WriteString(file_, "Host", "Uid", "a\r\nPwd=stolen"));
-    ASSERT_TRUE(ini_.WriteString(file_, "Host", "Pwd", std::nullopt));
+    EXPECT_THROW(write(ini_, file_, "Uid", "a\r\nPwd=stolen"), RunTimeError);
+    write(ini_, file_, "Pwd", std::nullopt);
     EXPECT_EQ(read("pwd"), "#NF#");
     EXPECT_EQ(std::filesystem::status(folder_.path() / "vell.ini").permissions(), std::filesystem::perms{0600});
 }
@@ -96,9 +115,20 @@ TEST_F(PosixIniFileTest, aFileThatAnotherHasChangedIsReadAgain) {
 
 TEST_F(PosixIniFileTest, aFileThatCannotBeReadOrWrittenIsLeftAlone) {
     std::filesystem::create_directory(folder_.path() / "vell.ini");
-    EXPECT_EQ(read("Port"), "#NF#");
-    EXPECT_FALSE(ini_.WriteString(file_, "Host", "Port", "80"));
-    EXPECT_FALSE(ini_.WriteString(folder_.text() + "\\gone\\vell.ini", "Host", "Port", "80"));
+    EXPECT_THROW((void)read("Port"), RunTimeError) << "it is there, so it is not empty";
+    EXPECT_THROW(write(ini_, file_, "Port", "80"), RunTimeError);
+    EXPECT_THROW(write(ini_, folder_.text() + "\\gone\\vell.ini", "Port", "80"), RunTimeError);
+}
+
+TEST_F(PosixIniFileTest, ofTwoWritersNoneLosesTheWorkOfTheOther) {
+    constexpr int times = 25;
+    for (const pid_t process : {counter(times), counter(times)}) {
+        int status = -1;
+        waitpid(process, &status, 0);
+        EXPECT_EQ(status, 0);
+    }
+    EXPECT_EQ(read("Port"), std::to_string(2 * times));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 1) << "no lock stays behind";
 }
 
 TEST_F(PosixIniFileTest, whereverTheDiskFailsTheOldSettingsStand) {
@@ -109,7 +139,12 @@ TEST_F(PosixIniFileTest, whereverTheDiskFailsTheOldSettingsStand) {
     for (bool hasFailed = true; hasFailed; ++n) {
         folder_.put("vell.ini", old);
         faulty.failAt(n);
-        const bool written = ini.WriteString(file_, "Host", "Port", "80");
+        bool written = true;
+        try {
+            write(ini, file_, "Port", "80");
+        } catch (const RunTimeError&) {
+            written = false;
+        }
         hasFailed = faulty.hasFailed();
         EXPECT_EQ(written, !hasFailed);
         EXPECT_EQ(folder_.get("vell.ini"), written ? "[Host]\r\nPort=80\r\n" : old);

@@ -3,9 +3,11 @@
 
 #include <chrono>
 #include <cstdlib>
+#include <thread>
 #include <utility>
 
 #include "base/errors.h"
+#include "base/text.h"
 
 namespace vell {
 
@@ -20,54 +22,71 @@ bool isSettled(const FileStamp& stamp) {
     return std::abs(std::chrono::nanoseconds(now).count() - stamp.ModifiedNanoseconds) >= 10'000'000;
 }
 
-bool hasLineEnd(std::string_view text) {
-    return text.find_first_of("\r\n") != std::string_view::npos;
+// A writer holds the lock for as long as a small file takes to the disk.
+constexpr std::chrono::seconds longestWait{5};
+
+void refuseLineEnd(std::string_view text) {
+    if (text.find_first_of("\r\n") != std::string_view::npos)
+        throw RunTimeError(error_number::InvalidCall, "Invalid procedure call or argument");
+}
+
+void apply(const IniEdit& edit, IniText& text) {
+    for (const std::string& part : {edit.Section, edit.Key.value_or(""), edit.Value.value_or("")})
+        refuseLineEnd(part);
+    if (!edit.Key)
+        text.removeSection(edit.Section);
+    else if (!edit.Value)
+        text.removeKey(edit.Section, *edit.Key);
+    else
+        text.set(edit.Section, *edit.Key, *edit.Value);
 }
 
 }  // namespace
 
 std::string PosixIniFile::ReadString(std::string_view file, std::string_view section, std::string_view key,
                                      std::string_view missing, std::size_t bufferSize) const {
-    std::string_view found = missing;
-    try {
-        found = text(file).value(section, key).value_or(missing);
-    } catch (const RunTimeError&) {
-        // A file that cannot be read has no keys.
-        found = missing;
-    }
+    const std::string_view found = text(file).value(section, key).value_or(missing);
     return std::string(found.substr(0, bufferSize == 0 ? 0 : bufferSize - 1));
 }
 
-bool PosixIniFile::WriteString(std::string_view file, std::string_view section, std::optional<std::string_view> key,
-                               std::optional<std::string_view> value) {
-    if (hasLineEnd(section) || hasLineEnd(key.value_or("")) || hasLineEnd(value.value_or(""))) return false;
-    try {
-        IniText edited = text(file);
-        const std::string before = edited.bytes();
-        if (!key)
-            edited.removeSection(section);
-        else if (!value)
-            edited.removeKey(section, *key);
-        else
-            edited.set(section, *key, *value);
-        if (edited.bytes() == before) return true;
+void PosixIniFile::Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) {
+    const auto locked = lock(file);
+    const std::string before = text(file).bytes();
+    IniText edited(before);
+    for (const IniEdit& edit : edits())
+        apply(edit, edited);
+    if (edited.bytes() == before) return;
 
-        files_.MakePrivateFile(file);
-        files_.WriteWhole(file, edited.bytes(), Durability::Flushed);
-        if (const auto stamp = files_.Stamp(file)) remember(file, *stamp, std::move(edited));
-        return true;
-    } catch (const RunTimeError&) {
-        return false;  // the old file is still there
+    files_.MakePrivateFile(file);
+    files_.WriteWhole(file, edited.bytes(), Durability::Flushed);
+    if (const auto stamp = files_.Stamp(file)) remember(file, *stamp, std::move(edited));
+}
+
+// An empty part: nobody lists it, and it goes with its owner, however that ends.
+std::unique_ptr<PartFile> PosixIniFile::lock(std::string_view file) {
+    const std::size_t name = InStrRev(file, "\\") + 1;
+    const std::string path = std::string(Left(file, name - 1)) + '.' + std::string(Mid(file, name)) + ".lock.part";
+    const auto end = std::chrono::steady_clock::now() + longestWait;
+    while (true) {
+        if (auto part = files_.OpenPart(path)) return part;
+        if (std::chrono::steady_clock::now() > end)
+            throw RunTimeError(error_number::PermissionDenied, "Permission denied: " + path);
+        std::this_thread::sleep_for(std::chrono::milliseconds{2});
     }
 }
 
 const IniText& PosixIniFile::text(std::string_view file) const {
     static const IniText none;
     const auto stamp = files_.Stamp(file);
-    if (!stamp) return none;
     const auto known = known_.find(file);
-    if (known != known_.end() && known->second.Stamp == *stamp && known->second.IsSettled) return known->second.Text;
-    return remember(file, *stamp, IniText(files_.ReadFile(file)));
+    if (stamp && known != known_.end() && known->second.Stamp == *stamp && known->second.IsSettled)
+        return known->second.Text;
+    try {
+        return remember(file, stamp.value_or(FileStamp{}), IniText(files_.ReadFile(file)));
+    } catch (const RunTimeError& error) {
+        if (error.Number == error_number::FileNotFound || error.Number == error_number::PathNotFound) return none;
+        throw;
+    }
 }
 
 const IniText& PosixIniFile::remember(std::string_view file, const FileStamp& stamp, IniText text) const {

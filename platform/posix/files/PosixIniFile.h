@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <memory>
 
 #include "platform/Files.h"
 #include "platform/IniFile.h"
@@ -17,8 +18,7 @@ class PosixIniFile : public IniFile {
 
     [[nodiscard]] std::string ReadString(std::string_view file, std::string_view section, std::string_view key,
                                          std::string_view missing, std::size_t bufferSize) const override;
-    [[nodiscard]] bool WriteString(std::string_view file, std::string_view section, std::optional<std::string_view> key,
-                                   std::optional<std::string_view> value) override;
+    void Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) override;
 
   private:
     struct Known {
@@ -27,6 +27,8 @@ class PosixIniFile : public IniFile {
         IniText Text;
     };
 
+    // Holds off other writers while it lives. Raises when one has not done its work for seconds.
+    [[nodiscard]] std::unique_ptr<PartFile> lock(std::string_view file);
     // The file as it is now; an empty text when there is none. Raises when it cannot be read.
     const IniText& text(std::string_view file) const;
     const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
