@@ -59,11 +59,15 @@ bool DownloadRun::prepare() {
     p_.Progress.StatusBar("Getting list of files to download...");
     p_.Log.WriteLog("Getting files to download...");
     if (!p_.List.GetDownloadFiles()) {
+        if (p_.State.gStopRequested) {
+            finish();
+            return false;
+        }
         say("Error while getting list of files to download");
         p_.State.Run.Outcome.ListFailed = true;
         return false;
     }
-    if (!p_.List.GetAlert()) p_.Log.WriteLog("Error while getting Alert data.");
+    if (!p_.State.gStopRequested && !p_.List.GetAlert()) p_.Log.WriteLog("Error while getting Alert data.");
     if (p_.State.Downloads.gClippingsCount == 0) {
         reportNothingToDownload();
         return false;

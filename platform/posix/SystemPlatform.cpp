@@ -8,7 +8,6 @@
 #include "platform/posix/files/PosixFiles.h"
 #include "platform/posix/files/PosixIniFile.h"
 #include "platform/posix/internet/CurlInternet.h"
-#include "platform/posix/network/NetworkInterfaces.h"
 #include "platform/posix/network/NetworkManagerClient.h"
 #include "platform/posix/network/PosixConnection.h"
 #include "platform/posix/network/PosixRas.h"
@@ -29,7 +28,7 @@ struct SystemPlatform::Parts {
     CurlInternet Internet{Loop, Time};
     AsioSockets Net{Loop};
     NetworkManagerClient Manager{Loop, Time, ""};
-    PosixConnection Connection{Manager, configuredProxy()};
+    PosixConnection Connection{Manager};
     PosixRas Ras{Manager};
     PosixProcess Program;
     PosixShell DesktopShell;

@@ -144,6 +144,23 @@ TEST_F(DownloadRunTest, stopLetsTheFileUnderWayEndAndStartsNoOther) {
     EXPECT_EQ(view.Status, "Finished: 3 of 3 clippings downloaded.");
 }
 
+TEST_F(DownloadRunTest, stopEndsTheRequestsForListAndAlertAtOnce) {
+    ASSERT_TRUE(program.Form_Load(frmMain::Start::Alone));
+    for (const char* script : {ServicePeer::listScript, ServicePeer::alertScript}) {
+        service.Answers[script] = {"HTTP/1.0 200 OK\r\n\r\nbegin", true};
+        const auto timer = loop.SetTimer(1000, [&] { program.downloads().cmdStopDownload_Click(); });
+        const SteadyTime begun = clock.Steady();
+        program.downloads().mnuForceDownload_Click();
+        EXPECT_TRUE(program.downloads().outcome().Stopped) << script;
+        EXPECT_LT(clock.Steady() - begun, std::chrono::seconds{2}) << script;
+        EXPECT_EQ(view.Status, "Download STOPED by user.");
+        loop.KillTimer(timer);
+        service.Answers[script].Stalls = false;
+        service.serve(3);
+    }
+    EXPECT_EQ(service.requests().size(), 3U);
+}
+
 TEST_F(DownloadRunTest, stopEndsThePauseBeforeARetry) {
     service.Answers[ServicePeer::pathOf("N120040307.PDF")] = {""};
     const SteadyTime begun = clock.Steady();

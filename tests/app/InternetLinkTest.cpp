@@ -142,7 +142,7 @@ TEST_F(InternetLinkTest, dialsAndHangsUpThroughNetworkManager) {
     if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
     const MockNetworkManager mock("{}");
     NetworkManagerClient client(loop, clock, mock.address());
-    PosixConnection connection(client, "");
+    PosixConnection connection(client, [] { return std::string(); });
     PosixRas profiles(client);
     CWinInetConnection realInet(connection, boxes, log);
     ModRAS realRas(profiles, log);

@@ -131,7 +131,7 @@ TEST_F(ScheduledRunsTest, dialsBeforeARunAndHangsUpAfterIt) {
     if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
     const MockNetworkManager mock("{}");
     NetworkManagerClient client(loop, clock, mock.address());
-    PosixConnection dialUp(client, "");
+    PosixConnection dialUp(client, [] { return std::string(); });
     PosixRas profiles(client);
     frmMain dialling{{clock, loop, files, iniFile, internet, sockets, dialUp, profiles, boxes, *this, shell, printers},
                      view,

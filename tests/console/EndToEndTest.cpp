@@ -3,6 +3,7 @@
 #include <map>
 #include <thread>
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "base/text.h"
@@ -199,7 +200,8 @@ TEST_F(EndToEndTest, aRunThatWasKilledAtAnyMomentIsMadeGoodByTheNext) {
         {
             ConsoleProgram program(folder_, download_);
             running = &program;
-            EXPECT_EQ(program.wait(), -SIGKILL) << moment;
+            // Two milliseconds after the last answer it may be through.
+            EXPECT_THAT(program.wait(), testing::AnyOf(-SIGKILL, moment < 44 ? -SIGKILL : 0)) << moment;
         }
         for (const auto& [name, content] : tree()) {
             if (name.find(".DIR") != std::string::npos || name.find(".vell-") != std::string::npos) continue;

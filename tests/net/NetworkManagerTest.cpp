@@ -32,7 +32,7 @@ class NetworkManagerTest : public testing::Test, protected ErrorLog {
     void start(const std::string& parameters) {
         mock_.emplace(parameters);
         client_.emplace(loop_, clock_, mock_->address(), patience);
-        connection_.emplace(*client_, "");
+        connection_.emplace(*client_, [] { return std::string(); });
     }
     bool dial(const std::string& name) { return connection_->InternetDial(0, name, 0, handle_) == 0; }
     // On line or not, and the flags.
@@ -149,7 +149,8 @@ TEST_F(NetworkManagerTest, judgesByTheInterfacesWhereThereIsNoNetworkManager) {
                  {{}, "http://a:b@[::1]:3128", onProxy}};
     NetworkManagerClient nobody(loop_, clock_, "unix:path=/nonexistent/bus");
     for (const auto& one : cases) {
-        connection_.emplace(nobody, one.Proxy, [&] { return one.Interfaces; });
+        connection_.emplace(
+            nobody, [&] { return std::string(one.Proxy); }, [&] { return one.Interfaces; });
         EXPECT_EQ(state(), one.Expected) << one.Proxy;
         EXPECT_FALSE(dial("My ISP"));
         EXPECT_EQ(connection_->LastReason(), "NetworkManager cannot be reached");

@@ -2,10 +2,14 @@
 #include <array>
 #include <future>
 
+#include <gio/gio.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/posix/internet/CurlInternet.h"
+#include "platform/posix/network/systemProxy.h"
+#include "platform/posix/program/GlibPointers.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/HttpPeer.h"
 
@@ -54,7 +58,8 @@ class CurlInternetTest : public testing::Test {
 
     DrivenClock clock_;
     AsioEventLoop loop_{clock_};
-    CurlInternet internet_{loop_, clock_};
+    std::string proxy_;  // of the desktop
+    CurlInternet internet_{loop_, clock_, [this](const std::string&) { return proxy_; }};
     InternetApi::Handle session_;
     InternetApi::Handle connection_;
     bool sent_ = false;
@@ -100,7 +105,7 @@ TEST_F(CurlInternetTest, tellsWholeAnswersFromBrokenOnes) {
         HttpPeer peer([&](const std::string&) { return HttpPeer::Answer{row.answer}; });
         const auto file = openUrl("http://" + peer.address() + "/a b.pdf");
         ASSERT_EQ(file != nullptr, row.opens) << row.answer;
-        EXPECT_EQ(peer.requests().at(0).substr(0, 25), "GET /a%20b.pdf HTTP/1.0\r\n");
+        EXPECT_EQ(peer.requests().at(0).substr(0, 25), "GET /a%20b.pdf HTTP/1.1\r\n");
         EXPECT_LE(peer.requests().size(), 11U);
         if (!file) {
             EXPECT_GT(internet_.LastError(), 12000) << row.answer;
@@ -172,6 +177,119 @@ TEST_F(CurlInternetTest, isCancelledWhileItWaits) {
         EXPECT_EQ(openUrl("http://" + peer.address() + "/x.pdf"), nullptr);
         EXPECT_EQ(internet_.LastError(), 12017);
         EXPECT_LT(clock_.Steady() - begun, std::chrono::milliseconds{5100 + patience});
+    }
+}
+
+TEST_F(CurlInternetTest, aScriptThatSendsIsGivenUpAtTheFirstStop) {
+    HttpPeer peer([](const std::string&) { return HttpPeer::Answer{"HTTP/1.0 200 OK\r\n\r\nbegin", true}; });
+    const auto request = post(peer, "a=b");
+    internet_.CancelRequests(Cancel::Stalled);
+    EXPECT_FALSE(readAll(*request).Whole);
+    EXPECT_EQ(internet_.LastError(), 12017);
+}
+
+TEST_F(CurlInternetTest, givesUpAServerThatDripsForFiveMinutes) {
+    clock_.setRealMoment(std::chrono::milliseconds{0});
+    for (const auto& [perSecond, error] : {std::pair{60, 12002}, std::pair{70, 0}}) {
+        const std::string portion(static_cast<std::size_t>(perSecond) * 20, 'x');
+        const std::string length = std::to_string(portion.size() * 20);  // 400 seconds' worth
+        HttpPeer peer([&](const std::string&) {
+            return HttpPeer::Answer{"HTTP/1.0 200 OK\r\nContent-Length: " + length + "\r\n\r\n", true};
+        });
+        const auto timer = loop_.SetTimer(20'000, [&] { peer.say(portion); });
+        const SteadyTime begun = clock_.Steady();
+        const auto file = openUrl("http://" + peer.address() + "/x.pdf");
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(readAll(*file).Whole, error == 0) << perSecond;
+        loop_.KillTimer(timer);
+        EXPECT_EQ(internet_.LastError(), 12002);
+        const auto limit = std::chrono::seconds{error == 0 ? 400 : 300};
+        EXPECT_EQ(std::chrono::round<std::chrono::seconds>(clock_.Steady() - begun), limit) << perSecond;
+    }
+}
+
+TEST_F(CurlInternetTest, whatNobodyReadsWaitsAtTheServer) {
+    const std::string body(64U << 20, 'x');
+    HttpPeer peer([&](const std::string&) { return HttpPeer::ok(body); });
+    HttpPeer other([](const std::string&) { return HttpPeer::ok("other"); });
+    const auto file = openUrl("http://" + peer.address() + "/large.pdf");
+    const auto session = std::move(session_);
+    for (int i = 0; i < 100; ++i)  // lets the network work
+        ASSERT_NE(openUrl("http://" + other.address() + "/o"), nullptr);
+    EXPECT_LT(peer.sentBytes(), body.size() / 2);
+    EXPECT_EQ(readAll(*file).Body, body);
+}
+
+TEST_F(CurlInternetTest, followsRedirectsWithoutTakingAnythingToAnotherHost) {
+    HttpPeer other([](const std::string&) { return HttpPeer::ok("there"); });
+    const std::string elsewhere = "http://localhost:" + other.address().substr(other.address().find(':') + 1) + "/t";
+    const struct {
+        std::string code, target;
+        bool follows;
+    } table[] = {{"302", "/t", true}, {"307", "/t", true}, {"302", elsewhere, false}, {"307", elsewhere, false}};
+    for (const auto& row : table) {
+        HttpPeer peer([&](const std::string& request) {
+            return request.find(" /list.asp ") == std::string::npos
+                       ? HttpPeer::ok("here")
+                       : HttpPeer::status(row.code + " Elsewhere", "location:  " + row.target + "\r\n");
+        });
+        const auto request = post(peer, "password=x", "ann", "secret");
+        EXPECT_EQ(sent_, row.follows) << row.code << row.target;
+        EXPECT_EQ(readAll(*request).Body, row.follows ? "here" : "") << row.code << row.target;
+        EXPECT_EQ(internet_.StatusCode(*request), row.follows ? "200" : row.code);
+    }
+    EXPECT_EQ(internet_.LastError(), 12156);
+    EXPECT_THAT(other.requests(), testing::IsEmpty());
+
+    HttpPeer peer([&](const std::string&) { return HttpPeer::status("302 Found", "Location: " + elsewhere + "\r\n"); });
+    const auto file = openUrl("http://ann:secret@" + peer.address() + "/x.pdf");
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(readAll(*file).Body, "there");
+    EXPECT_THAT(peer.requests().at(0), testing::HasSubstr("Authorization: "));
+    EXPECT_THAT(other.requests().at(0), testing::Not(testing::HasSubstr("Authorization: ")));
+}
+
+TEST_F(CurlInternetTest, asksTheDesktopsProxyForEveryAddress) {
+    HttpPeer peer([](const std::string&) { return HttpPeer::ok("by proxy"); });
+    proxy_ = "http://" + peer.address();
+    const auto file = openUrl("http://clippings.invalid/x.pdf");
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(readAll(*file).Body, "by proxy");
+    EXPECT_THAT(peer.requests().at(0), testing::StartsWith("GET http://clippings.invalid/x.pdf HTTP/1.1\r\n"));
+}
+
+TEST(SystemProxyTest, theDesktopsSettingIsGivenAsTheLibraryNamesIt) {
+    const char* local[] = {"clippings.local", nullptr};
+    for (const auto& [setting, address, proxy] : std::initializer_list<std::array<const char*, 3>>{
+             {"http://proxy.example:3128", "http://clippings.example/", "http://proxy.example:3128"},
+             {"http://proxy.example:3128", "http://clippings.local/", ""},
+             {"socks://proxy.example:1080", "http://clippings.example/", "socks5h://proxy.example:1080"},
+             {"direct://", "http://clippings.example/", ""},
+             {"http://proxy.example:3128", "no address", ""}}) {
+        const ObjectPtr<GProxyResolver> resolver(g_simple_proxy_resolver_new(setting, const_cast<char**>(local)));
+        EXPECT_EQ(proxyOf(resolver.get(), address), proxy) << setting << " " << address;
+    }
+}
+
+TEST_F(CurlInternetTest, manyFilesComeOverOneConnectionAndAClosedOneCostsANewOne) {
+    enum class Server { Keeps, ClosesAfterEach, ClosesAsTheNextRequestComes };
+    for (const auto& [server, connections] : {std::pair{Server::Keeps, 1}, std::pair{Server::ClosesAfterEach, 20},
+                                              std::pair{Server::ClosesAsTheNextRequestComes, 20}}) {
+        int seen = 0;
+        HttpPeer peer([&, how = server](const std::string&) {
+            const bool isFirst = peer.connections() != std::exchange(seen, peer.connections());
+            if (!isFirst && how != Server::Keeps) return HttpPeer::Answer{""};
+            HttpPeer::Answer answer = HttpPeer::ok("file");
+            answer.Bytes.replace(0, 8, "HTTP/1.1");
+            answer.Keeps = how != Server::ClosesAfterEach;
+            return answer;
+        });
+        for (int i = 0; i < 20; ++i) {
+            const auto file = openUrl("http://" + peer.address() + "/" + std::to_string(i));
+            ASSERT_NE(file, nullptr) << internet_.LastError();
+            EXPECT_EQ(readAll(*file).Body, "file");
+        }
+        EXPECT_EQ(peer.connections(), connections);
     }
 }
 

@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/HttpPeer.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <stdexcept>
 #include <string_view>
 #include <utility>
@@ -74,33 +76,61 @@ void HttpPeer::serve() {
     while (waitForInput(listener_, ending_)) {
         const int connection = accept(listener_, nullptr, nullptr);
         if (connection < 0) continue;
-        serveOne(connection);
+        ++connections_;
+        current_ = connection;
+        for (bool isKept = false; serveOne(connection, isKept); isKept = true)
+            continue;
+        current_ = -1;
         close(connection);
     }
 }
 
-void HttpPeer::serveOne(int connection) {
+bool HttpPeer::serveOne(int connection, bool isKept) {
     std::string request;
     std::array<char, 65536> buffer{};
-    while (!isWhole(request) && waitForInput(connection, ending_)) {
+    while (!isWhole(request)) {
+        pollfd inputs[] = {{connection, POLLIN, 0}, {listener_, POLLIN, 0}};
+        const nfds_t watched = isKept && request.empty() ? 2 : 1;
+        while (!ending_ && poll(inputs, watched, 20) == 0)
+            continue;
+        if (ending_ || inputs[0].revents == 0) return false;
         const ssize_t got = recv(connection, buffer.data(), buffer.size(), 0);
-        if (got <= 0) return;
+        if (got <= 0) return false;
         request.append(buffer.data(), static_cast<std::size_t>(got));
     }
+    return answer(connection, request);
+}
+
+bool HttpPeer::answer(int connection, const std::string& request) {
     {
         const std::lock_guard lock(guard_);
         requests_.push_back(request);
     }
     const Answer answer = handler_(request);
-    std::string_view rest = answer.Bytes;
-    while (!rest.empty()) {
-        const ssize_t sent = send(connection, rest.data(), rest.size(), MSG_NOSIGNAL);
-        if (sent <= 0) return;
-        rest.remove_prefix(static_cast<std::size_t>(sent));
-    }
+    if (!write(connection, answer.Bytes)) return false;
     if (answer.Sent) answer.Sent();
+    char byte = 0;
     while (answer.Stalls && waitForInput(connection, ending_))
-        if (recv(connection, buffer.data(), buffer.size(), 0) <= 0) return;
+        if (recv(connection, &byte, 1, 0) <= 0) return false;
+    return answer.Keeps;
+}
+
+// In steps, so that a reader who stops reading does not hold up the peer's end.
+bool HttpPeer::write(int connection, std::string_view bytes) {
+    while (!bytes.empty() && !ending_) {
+        const ssize_t sent = send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (sent < 0 && errno != EAGAIN) return false;
+        pollfd room{connection, POLLOUT, 0};
+        if (sent < 0) poll(&room, 1, 20);
+        const auto count = static_cast<std::size_t>(std::max<ssize_t>(sent, 0));
+        sent_ += count;
+        bytes.remove_prefix(count);
+    }
+    return bytes.empty();
+}
+
+void HttpPeer::say(std::string_view bytes) {
+    (void)write(current_, bytes);
 }
 
 }  // namespace vell::test

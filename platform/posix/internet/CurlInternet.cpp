@@ -11,7 +11,6 @@
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/internetErrors.h"
-#include "platform/posix/internet/CurlTransfer.h"
 
 namespace vell {
 
@@ -63,7 +62,8 @@ class CurlInternet::Request : public Object {
     CurlInternet& internet_;
 };
 
-CurlInternet::CurlInternet(EventLoop& loop, Clock& clock) : loop_(loop), clock_(clock) {
+CurlInternet::CurlInternet(EventLoop& loop, Clock& clock, ProxyChoice proxy)
+    : loop_(loop), clock_(clock), proxy_(std::move(proxy)) {
     if (curl_global_init(CURL_GLOBAL_DEFAULT) != CURLE_OK) throw std::bad_alloc();
     multi_.reset(curl_multi_init());
     if (!multi_) throw std::bad_alloc();
@@ -97,9 +97,7 @@ InternetApi::Handle CurlInternet::HttpOpenRequest(Object& connection, std::strin
                                                   std::string_view /*version*/) {
     const auto& server = dynamic_cast<Connection&>(connection);
     try {
-        auto request = std::make_unique<Request>(*this);
-        request->Transfer.setAddress(server.Server + escaped(object));
-        request->Transfer.setAgent(server.Agent);
+        auto request = newRequest(CurlTransfer::Kind::Script, server.Server + escaped(object), server.Agent);
         request->Transfer.setMethod(std::string(method));
         request->Transfer.setCredentials(server.UserName, server.Password);
         return request;
@@ -118,21 +116,16 @@ bool CurlInternet::HttpSendRequest(Object& request, std::string_view body) {
     CurlTransfer& transfer = dynamic_cast<Request&>(request).Transfer;
     if (!body.empty()) transfer.setBody(body);
     start(transfer);
-    return !transfer.rawHeaders().empty() || !failed(transfer.error());
+    return isAnswered(transfer);
 }
 
 InternetApi::Handle CurlInternet::InternetOpenUrl(Object& session, std::string_view address) {
     try {
-        auto request = std::make_unique<Request>(*this);
-        request->Transfer.setAddress(escaped(address));
-        request->Transfer.setAgent(dynamic_cast<Session&>(session).Agent);
+        const std::string& agent = dynamic_cast<Session&>(session).Agent;
+        auto request = newRequest(CurlTransfer::Kind::File, escaped(address), agent);
         start(request->Transfer);
-        const std::int32_t error = request->Transfer.error();
-        // An answer that breaks off is an answer; a redirect that leads nowhere is none.
-        const bool ledNowhere = error == internet_error::RedirectFailed || error == internet_error::UnknownScheme;
-        const bool answered = !request->Transfer.rawHeaders().empty() && !ledNowhere;
-        if (!failed(error) || answered) return request;
-        return nullptr;
+        if (!isAnswered(request->Transfer)) return nullptr;
+        return request;
     } catch (const RunTimeError& error) {
         lastError_ = error.Number;
         return nullptr;
@@ -166,9 +159,26 @@ std::int64_t CurlInternet::ContentLength(Object& request) {
 }
 
 void CurlInternet::CancelRequests(Cancel which) {
-    const std::chrono::milliseconds patience{which == Cancel::All ? 0 : 1000};
+    constexpr std::chrono::milliseconds none{0}, stalled{1000};
     for (CurlTransfer* transfer : running_)
-        transfer->cancelAfterSilenceOf(patience);
+        transfer->cancelAfterSilenceOf(which == Cancel::Stalled && transfer->isFile() ? stalled : none);
+}
+
+std::unique_ptr<CurlInternet::Request> CurlInternet::newRequest(CurlTransfer::Kind kind, const std::string& address,
+                                                                const std::string& agent) {
+    auto request = std::make_unique<Request>(*this);
+    request->Transfer.setKind(kind);
+    request->Transfer.setAddress(address);
+    request->Transfer.setAgent(agent);
+    if (const auto proxy = proxy_(address)) request->Transfer.setProxy(*proxy);
+    return request;
+}
+
+bool CurlInternet::isAnswered(const CurlTransfer& transfer) {
+    const std::int32_t error = transfer.error();
+    // An answer that breaks off is an answer; a redirect that leads nowhere is none.
+    const bool ledNowhere = error == internet_error::RedirectFailed || error == internet_error::UnknownScheme;
+    return !failed(error) || (!transfer.rawHeaders().empty() && !ledNowhere);
 }
 
 void CurlInternet::start(CurlTransfer& transfer) {
@@ -189,9 +199,12 @@ void CurlInternet::waitForBytes(CurlTransfer& transfer) {
     perform();
     while (!transfer.hasBytes() && !transfer.hasEnded()) {
         loop_.DoEvents();
+        // Only what the network does not bring now is silence, and only this is waiting: a handler may have held the
+        // loop for minutes.
+        const SteadyTime begun = clock_.Steady();
         pause();
         perform();
-        // Only what the network does not bring now is silence: a handler may have held the loop for minutes.
+        transfer.waited(clock_.Steady() - begun);
         const std::int32_t error = transfer.hasBytes() || transfer.hasEnded() ? 0 : transfer.outOfPatience();
         if (error == 0) continue;
         transfer.end(error);

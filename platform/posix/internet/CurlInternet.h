@@ -9,18 +9,19 @@
 #include <curl/curl.h>
 
 #include "platform/InternetApi.h"
+#include "platform/posix/internet/CurlTransfer.h"
+#include "platform/posix/network/systemProxy.h"
 
 namespace vell {
 
 class Clock;
-class CurlTransfer;
 class EventLoop;
 
-// The internet calls over libcurl: HTTP/1.0, the proxy that the environment names (http_proxy, no_proxy), and the
-// error numbers of WinInet. All transfers run on one multi handle, which keeps names resolved between them.
+// The internet calls over libcurl, with the error numbers of WinInet. All transfers run on one multi handle, which
+// keeps resolved names, and connections for files, between them.
 class CurlInternet : public InternetApi {
   public:
-    CurlInternet(EventLoop& loop, Clock& clock);
+    CurlInternet(EventLoop& loop, Clock& clock, ProxyChoice proxy = systemProxy);
     ~CurlInternet() override;
     CurlInternet(const CurlInternet&) = delete;
     CurlInternet& operator=(const CurlInternet&) = delete;
@@ -45,6 +46,10 @@ class CurlInternet : public InternetApi {
     struct Connection;
     class Request;
 
+    [[nodiscard]] std::unique_ptr<Request> newRequest(CurlTransfer::Kind kind, const std::string& address,
+                                                      const std::string& agent);
+    // True when the transfer, ended or not, has brought an answer; keeps its error otherwise.
+    [[nodiscard]] bool isAnswered(const CurlTransfer& transfer);
     // Adds the transfer to what runs and waits for the first byte of its body, or its end.
     void start(CurlTransfer& transfer);
     void leave(CurlTransfer& transfer);
@@ -60,6 +65,7 @@ class CurlInternet : public InternetApi {
 
     EventLoop& loop_;
     Clock& clock_;
+    ProxyChoice proxy_;
     std::unique_ptr<CURLM, MultiDeleter> multi_;
     std::vector<CurlTransfer*> running_;
     std::int32_t lastError_ = 0;

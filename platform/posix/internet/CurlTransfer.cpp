@@ -5,6 +5,7 @@
 #include <new>
 
 #include "base/errors.h"
+#include "base/text.h"
 #include "platform/internetErrors.h"
 
 namespace vell {
@@ -12,6 +13,9 @@ namespace vell {
 namespace {
 
 constexpr std::chrono::seconds longestSilence{30};
+// A server that brings 64 bytes a second at least has a portion ready in time.
+constexpr std::chrono::minutes longestForPortion{5};
+constexpr std::size_t wholePortion = 64 * 300;
 constexpr long mostRedirects = 10;
 constexpr long receiveSize = 256L << 10;
 // A reader that falls behind makes the server wait, not the memory grow.
@@ -67,7 +71,6 @@ CurlTransfer::CurlTransfer(const Clock& clock)
     set(CURLOPT_NOSIGNAL, 1L);
     set(CURLOPT_QUICK_EXIT, 1L);  // the end of a request must not wait for a name server
     set(CURLOPT_BUFFERSIZE, receiveSize);
-    set(CURLOPT_HTTP_VERSION, static_cast<long>(CURL_HTTP_VERSION_1_0));
     set(CURLOPT_PROTOCOLS_STR, "http,https");
     set(CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
     set(CURLOPT_FOLLOWLOCATION, 1L);
@@ -81,6 +84,18 @@ template <class Value>
 void CurlTransfer::set(CURLoption option, Value value) {
     if (const CURLcode result = curl_easy_setopt(easy_.get(), option, value); result != CURLE_OK)
         throw RunTimeError(errorOf(result), curl_easy_strerror(result), "libcurl");
+}
+
+void CurlTransfer::setKind(Kind kind) {
+    kind_ = kind;
+    const bool alone = kind == Kind::Script;
+    set(CURLOPT_HTTP_VERSION, static_cast<long>(alone ? CURL_HTTP_VERSION_1_0 : CURL_HTTP_VERSION_1_1));
+    set(CURLOPT_FRESH_CONNECT, alone ? 1L : 0L);
+    set(CURLOPT_FORBID_REUSE, alone ? 1L : 0L);
+}
+
+void CurlTransfer::setProxy(const std::string& proxy) {
+    set(CURLOPT_PROXY, proxy.c_str());
 }
 
 void CurlTransfer::setAddress(const std::string& address) {
@@ -137,7 +152,7 @@ std::size_t CurlTransfer::take(char* target, std::size_t most) {
 }
 
 void CurlTransfer::end(CURLcode result) {
-    result_ = errorOf(result);
+    result_ = refused_ ? internet_error::RedirectFailed : errorOf(result);
 }
 
 std::int64_t CurlTransfer::announcedLength() const {
@@ -152,12 +167,13 @@ void CurlTransfer::cancelAfterSilenceOf(std::chrono::milliseconds patience) {
 }
 
 std::int32_t CurlTransfer::outOfPatience() const {
-    if (silence() < patience_) return 0;
+    if (waitedForPortion_ >= longestForPortion) return internet_error::Timeout;
+    if (clock_.Steady() - lastByte_ < patience_) return 0;
     return cancelled_ ? internet_error::Cancelled : internet_error::Timeout;
 }
 
 std::size_t CurlTransfer::onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self) {
-    self->lastByte_ = self->clock_.Steady();
+    self->noteProgress(size * count);
     if (self->buffer_.size() >= mostBuffered) {
         self->paused_ = true;
         return CURL_WRITEFUNC_PAUSE;
@@ -172,13 +188,44 @@ std::size_t CurlTransfer::onBody(const char* bytes, std::size_t size, std::size_
 
 std::size_t CurlTransfer::onHeader(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self) {
     constexpr std::size_t mostHeaders = 64U << 10;
-    self->lastByte_ = self->clock_.Steady();
+    self->noteProgress(size * count);
     std::string_view line(bytes, size * count);
     if (line.starts_with("HTTP/")) self->headers_.clear();  // what came before was a redirect or a challenge
     while (line.ends_with('\n') || line.ends_with('\r'))
         line.remove_suffix(1);
     if (!line.empty() && self->headers_.size() + line.size() < mostHeaders) self->headers_.append(line).append("\r\n");
-    return size * count;
+    self->refused_ = !self->mayFollow(line);
+    return self->refused_ ? 0 : size * count;
+}
+
+void CurlTransfer::noteProgress(std::size_t bytes) {
+    lastByte_ = clock_.Steady();
+    portion_ += bytes;
+    if (portion_ < wholePortion) return;
+    portion_ = 0;
+    waitedForPortion_ = {};
+}
+
+bool CurlTransfer::mayFollow(std::string_view header) const {
+    constexpr std::string_view name = "location:";
+    const bool redirects = headers_.find(" 3") == headers_.find(' ');
+    if (isFile() || !redirects || !equalNoCase(header.substr(0, name.size()), name)) return true;
+    const std::string target(Trim(header.substr(name.size())));
+    const std::string host = hostOf(target.c_str());
+    return !host.empty() && equalNoCase(host, hostOf(""));
+}
+
+// The host that a reference, seen from the current address, leads to; empty when it leads nowhere.
+std::string CurlTransfer::hostOf(const char* reference) const {
+    const std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> url(curl_url(), &curl_url_cleanup);
+    const char* here = nullptr;
+    curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &here);
+    char* host = nullptr;
+    const bool known = url && here != nullptr && curl_url_set(url.get(), CURLUPART_URL, here, 0) == CURLUE_OK &&
+                       curl_url_set(url.get(), CURLUPART_URL, reference, 0) == CURLUE_OK &&
+                       curl_url_get(url.get(), CURLUPART_HOST, &host, 0) == CURLUE_OK;
+    const std::unique_ptr<char, decltype(&curl_free)> owned(host, &curl_free);
+    return known ? host : "";
 }
 
 }  // namespace vell

@@ -22,7 +22,16 @@ class CurlTransfer {
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
+    // How an address is asked for. A script of the service is asked with HTTP/1.0, on a connection of
+    // its own, and what is posted to it goes to no other host. A file is asked with HTTP/1.1, on a connection that is
+    // kept for the next one.
+    enum class Kind { Script, File };
+    void setKind(Kind kind);
+    [[nodiscard]] bool isFile() const { return kind_ == Kind::File; }
+
     void setAddress(const std::string& address);
+    // As curl names it; empty for none. Left out, the environment decides.
+    void setProxy(const std::string& proxy);
     void setAgent(const std::string& agent);
     void setMethod(const std::string& method);
     void setCredentials(const std::string& userName, const std::string& password);
@@ -44,7 +53,8 @@ class CurlTransfer {
 
     [[nodiscard]] const std::string& rawHeaders() const { return headers_; }
     [[nodiscard]] std::int64_t announcedLength() const;
-    [[nodiscard]] std::chrono::milliseconds silence() const { return clock_.Steady() - lastByte_; }
+    // Somebody has waited so long for bytes of this transfer, come or not.
+    void waited(std::chrono::milliseconds time) { waitedForPortion_ += time; }
 
     // Fails as cancelled once it has been silent for so long; at once when that is no time at all.
     void cancelAfterSilenceOf(std::chrono::milliseconds patience);
@@ -55,6 +65,10 @@ class CurlTransfer {
   private:
     static std::size_t onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
     static std::size_t onHeader(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
+    void noteProgress(std::size_t bytes);
+    // False when the header sends what was posted to another host.
+    [[nodiscard]] bool mayFollow(std::string_view header) const;
+    [[nodiscard]] std::string hostOf(const char* reference) const;
 
     template <class Value>
     void set(CURLoption option, Value value);
@@ -73,7 +87,11 @@ class CurlTransfer {
     ByteQueue buffer_;
     bool paused_ = false;
     std::optional<std::int32_t> result_;
+    Kind kind_ = Kind::Script;
+    bool refused_ = false;  // a redirect
     SteadyTime lastByte_{};
+    std::size_t portion_ = 0;  // bytes since it was full last
+    std::chrono::milliseconds waitedForPortion_{};
     std::chrono::milliseconds patience_;
     bool cancelled_ = false;
 };

@@ -3,15 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <memory>
 
-#include <arpa/inet.h>
 #include <ifaddrs.h>
 #include <net/if.h>
 #include <netinet/in.h>
 
-#include "base/text.h"
 #include "platform/ConnectionApi.h"
 
 namespace vell {
@@ -33,14 +30,6 @@ bool reachesFurther(const sockaddr* address) {
 bool isDialUpName(std::string_view name) {
     constexpr std::array<std::string_view, 3> prefixes{"ppp", "wwan", "bnep"};
     return std::ranges::any_of(prefixes, [&](std::string_view prefix) { return name.starts_with(prefix); });
-}
-
-std::string_view hostOf(std::string_view proxy) {
-    if (const auto scheme = proxy.find("://"); scheme != std::string_view::npos) proxy.remove_prefix(scheme + 3);
-    proxy = proxy.substr(0, proxy.find('/'));
-    if (const auto user = proxy.rfind('@'); user != std::string_view::npos) proxy.remove_prefix(user + 1);
-    if (proxy.starts_with('[')) return proxy.substr(1, proxy.find(']') - 1);
-    return proxy.substr(0, proxy.find(':'));
 }
 
 }  // namespace
@@ -66,23 +55,6 @@ std::uint32_t linkFlag(std::span<const NetworkInterface> interfaces) {
         flag = ConnectionApi::Modem;
     }
     return flag;
-}
-
-bool isProxyHere(std::string_view proxy) {
-    const std::string host(hostOf(proxy));
-    in_addr four{};
-    in6_addr six{};
-    if (inet_pton(AF_INET, host.c_str(), &four) == 1) return (ntohl(four.s_addr) >> 24U) == IN_LOOPBACKNET;
-    if (inet_pton(AF_INET6, host.c_str(), &six) == 1) return IN6_IS_ADDR_LOOPBACK(&six) != 0;
-    return equalNoCase(host, "localhost");
-}
-
-std::string configuredProxy() {
-    // The names that the HTTP library looks at, in its order. It leaves HTTP_PROXY out on purpose: a CGI program gets
-    // that from whoever sends a "Proxy:" header.
-    for (const char* name : {"http_proxy", "all_proxy", "ALL_PROXY"})
-        if (const char* value = std::getenv(name); value != nullptr && *value != '\0') return value;
-    return {};
 }
 
 }  // namespace vell

@@ -4,12 +4,11 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace vell {
 
-// How a machine without NetworkManager is judged: by its network interfaces and by a proxy on the machine itself.
+// How a machine without NetworkManager is judged: by its network interfaces.
 
 struct NetworkInterface {
     std::string Name;
@@ -24,10 +23,5 @@ struct NetworkInterface {
 // ConnectionApi's flag for the means by which these interfaces are on line: wired and wireless come before dial-up
 // links (ppp, mobile, bluetooth), as their routes do. 0 when none is up with an address.
 [[nodiscard]] std::uint32_t linkFlag(std::span<const NetworkInterface> interfaces);
-
-// True for a proxy ("http://127.0.0.1:3128", "localhost:8080") that runs on this machine.
-[[nodiscard]] bool isProxyHere(std::string_view proxy);
-// The proxy that HTTP requests go through, from the environment; empty for none.
-[[nodiscard]] std::string configuredProxy();
 
 }  // namespace vell

@@ -31,14 +31,15 @@ constexpr std::array<ErrorText, 5> internetErrors{{
 
 }  // namespace
 
-PosixConnection::PosixConnection(NetworkManagerClient& manager, std::string proxy, Interfaces interfaces)
-    : manager_(manager), proxy_(std::move(proxy)), interfaces_(std::move(interfaces)) {}
+PosixConnection::PosixConnection(NetworkManagerClient& manager, ProxyInUse proxyInUse, Interfaces interfaces)
+    : manager_(manager), proxyInUse_(std::move(proxyInUse)), interfaces_(std::move(interfaces)) {}
 
 bool PosixConnection::InternetGetConnectedState(std::uint32_t& flags) {
     lastError_ = 0;
-    flags = proxy_.empty() ? 0 : Proxy;
+    const std::string proxy = proxyInUse_();
+    flags = proxy.empty() ? 0 : Proxy;
     const auto state = manager_.state();
-    const bool online = state ? judge(*state, flags) : judgeInterfaces(flags);
+    const bool online = state ? judge(*state, flags) : judgeInterfaces(flags, proxy);
     if (online) flags |= Configured;
     return online;
 }
@@ -57,10 +58,10 @@ bool PosixConnection::judge(const NetworkState& state, std::uint32_t& flags) {
     return false;
 }
 
-bool PosixConnection::judgeInterfaces(std::uint32_t& flags) const {
+bool PosixConnection::judgeInterfaces(std::uint32_t& flags, std::string_view proxy) const {
     const std::uint32_t link = linkFlag(interfaces_());
     flags |= link;
-    return link != 0 || isProxyHere(proxy_);
+    return link != 0 || isProxyHere(proxy);
 }
 
 bool PosixConnection::SetConnectedState(std::uint32_t state, std::uint32_t /*flags*/) {

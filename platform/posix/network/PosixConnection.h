@@ -7,6 +7,7 @@
 
 #include "platform/ConnectionApi.h"
 #include "platform/posix/network/NetworkInterfaces.h"
+#include "platform/posix/network/systemProxy.h"
 
 namespace vell {
 
@@ -20,9 +21,11 @@ struct NetworkState;
 class PosixConnection : public ConnectionApi {
   public:
     using Interfaces = std::function<std::vector<NetworkInterface>()>;
+    using ProxyInUse = std::function<std::string()>;
 
-    // `proxy` is what HTTP requests go through, empty for none.
-    PosixConnection(NetworkManagerClient& manager, std::string proxy, Interfaces interfaces = networkInterfaces);
+    // `proxyInUse` tells what HTTP requests go through, empty for none.
+    explicit PosixConnection(NetworkManagerClient& manager, ProxyInUse proxyInUse = configuredProxy,
+                             Interfaces interfaces = networkInterfaces);
 
     bool InternetGetConnectedState(std::uint32_t& flags) override;
     bool SetConnectedState(std::uint32_t state, std::uint32_t flags) override;
@@ -40,10 +43,10 @@ class PosixConnection : public ConnectionApi {
 
   private:
     bool judge(const NetworkState& state, std::uint32_t& flags);
-    bool judgeInterfaces(std::uint32_t& flags) const;
+    bool judgeInterfaces(std::uint32_t& flags, std::string_view proxy) const;
 
     NetworkManagerClient& manager_;
-    std::string proxy_;
+    ProxyInUse proxyInUse_;
     Interfaces interfaces_;
     std::int32_t lastError_ = 0;
 };

@@ -2,27 +2,13 @@
 #include "platform/posix/program/programOutput.h"
 
 #include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/program/GlibWait.h"
 
 namespace vell {
 
 namespace {
 
 using BytesPtr = std::unique_ptr<GBytes, GlibFree<g_bytes_unref>>;
-using SourcePtr = std::unique_ptr<GSource, GlibFree<g_source_unref>>;
-
-// What GLib reports here comes in this wait, and nothing else does: the window's events stay where they are.
-class ContextOfOurOwn {
-  public:
-    ContextOfOurOwn() : context_(g_main_context_new()) { g_main_context_push_thread_default(context_.get()); }
-    ~ContextOfOurOwn() { g_main_context_pop_thread_default(context_.get()); }
-    ContextOfOurOwn(const ContextOfOurOwn&) = delete;
-    ContextOfOurOwn& operator=(const ContextOfOurOwn&) = delete;
-
-    [[nodiscard]] GMainContext* get() const { return context_.get(); }
-
-  private:
-    ContextPtr context_;
-};
 
 ObjectPtr<GSubprocess> started(const std::string& systemPath, const std::vector<std::string>& arguments) {
     const ObjectPtr<GSubprocessLauncher> launcher(g_subprocess_launcher_new(
@@ -35,33 +21,17 @@ ObjectPtr<GSubprocess> started(const std::string& systemPath, const std::vector<
     return ObjectPtr<GSubprocess>(g_subprocess_launcher_spawnv(launcher.get(), argv.data(), nullptr));
 }
 
-gboolean giveUp(gpointer cancellable) {
-    g_cancellable_cancel(G_CANCELLABLE(cancellable));
-    return G_SOURCE_REMOVE;
-}
-
-void keepResult(GObject* /*source*/, GAsyncResult* result, gpointer place) {
-    static_cast<ObjectPtr<GAsyncResult>*>(place)->reset(G_ASYNC_RESULT(g_object_ref(result)));
-}
-
 }  // namespace
 
 std::optional<std::string> programOutput(const std::string& systemPath, const std::vector<std::string>& arguments,
                                          std::chrono::milliseconds patience) {
-    const ContextOfOurOwn context;
+    GlibWait wait(patience);
     const auto program = started(systemPath, arguments);
     if (!program) return std::nullopt;
-    const ObjectPtr<GCancellable> cancellable(g_cancellable_new());
-    const SourcePtr timer(g_timeout_source_new(static_cast<guint>(patience.count())));
-    g_source_set_callback(timer.get(), giveUp, cancellable.get(), nullptr);
-    g_source_attach(timer.get(), context.get());
-    ObjectPtr<GAsyncResult> result;
-    g_subprocess_communicate_async(program.get(), nullptr, cancellable.get(), keepResult, &result);
-    while (!result)
-        g_main_context_iteration(context.get(), TRUE);
-    g_source_destroy(timer.get());
+    g_subprocess_communicate_async(program.get(), nullptr, wait.cancellable(), GlibWait::done, &wait);
     GBytes* output = nullptr;
-    const bool ended = g_subprocess_communicate_finish(program.get(), result.get(), &output, nullptr, nullptr) != FALSE;
+    const bool ended =
+        g_subprocess_communicate_finish(program.get(), wait.result(), &output, nullptr, nullptr) != FALSE;
     const BytesPtr owned(output);
     if (!ended) {
         g_subprocess_force_exit(program.get());

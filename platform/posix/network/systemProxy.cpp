@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: MIT
+#include "platform/posix/network/systemProxy.h"
+
+#include <array>
+#include <chrono>
+#include <cstdlib>
+#include <memory>
+
+#include <arpa/inet.h>
+#include <gio/gio.h>
+#include <netinet/in.h>
+
+#include "base/text.h"
+#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/program/GlibWait.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::chrono::seconds patience{3};
+
+using TextsPtr = std::unique_ptr<gchar*, GlibFree<g_strfreev>>;
+
+// What the environment says for one of these names; empty when it says nothing.
+template <std::size_t Count>
+std::string environment(const std::array<const char*, Count>& names) {
+    for (const char* name : names)
+        if (const char* value = std::getenv(name); value != nullptr && *value != '\0') return value;
+    return {};
+}
+
+// The names that the HTTP library looks at. It leaves HTTP_PROXY out on purpose: a CGI program gets that from whoever
+// sends a "Proxy:" header.
+constexpr std::array httpNames{"http_proxy", "all_proxy", "ALL_PROXY"};
+constexpr std::array httpsNames{"https_proxy", "HTTPS_PROXY"};
+
+std::string asCurlNamesIt(std::string_view proxy) {
+    if (proxy.starts_with("direct://")) return {};
+    // The proxy looks names up itself, as GIO has it do.
+    for (const std::string_view socks : {"socks://", "socks5://"})
+        if (proxy.starts_with(socks)) return "socks5h://" + std::string(proxy.substr(socks.size()));
+    return std::string(proxy);
+}
+
+std::string_view hostOf(std::string_view proxy) {
+    if (const auto scheme = proxy.find("://"); scheme != std::string_view::npos) proxy.remove_prefix(scheme + 3);
+    proxy = proxy.substr(0, proxy.find('/'));
+    if (const auto user = proxy.rfind('@'); user != std::string_view::npos) proxy.remove_prefix(user + 1);
+    if (proxy.starts_with('[')) return proxy.substr(1, proxy.find(']') - 1);
+    return proxy.substr(0, proxy.find(':'));
+}
+
+}  // namespace
+
+std::optional<std::string> systemProxy(const std::string& address) {
+    if (!environment(httpNames).empty() || !environment(httpsNames).empty()) return std::nullopt;
+    return proxyOf(g_proxy_resolver_get_default(), address);
+}
+
+std::string proxyOf(GProxyResolver* resolver, const std::string& address) {
+    GlibWait wait(patience);
+    g_proxy_resolver_lookup_async(resolver, address.c_str(), wait.cancellable(), GlibWait::done, &wait);
+    const TextsPtr proxies(g_proxy_resolver_lookup_finish(resolver, wait.result(), nullptr));
+    return proxies && *proxies ? asCurlNamesIt(*proxies.get()) : std::string();
+}
+
+std::string configuredProxy() {
+    const std::string named = environment(httpNames);
+    return named.empty() ? systemProxy("http://example.com/").value_or("") : named;
+}
+
+bool isProxyHere(std::string_view proxy) {
+    const std::string host(hostOf(proxy));
+    in_addr four{};
+    in6_addr six{};
+    if (inet_pton(AF_INET, host.c_str(), &four) == 1) return (ntohl(four.s_addr) >> 24U) == IN_LOOPBACKNET;
+    if (inet_pton(AF_INET6, host.c_str(), &six) == 1) return IN6_IS_ADDR_LOOPBACK(&six) != 0;
+    return equalNoCase(host, "localhost");
+}
+
+}  // namespace vell

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+using GProxyResolver = struct _GProxyResolver;  // GIO's own name for it
+
+namespace vell {
+
+// Tells by which proxy an address is to be reached: nothing when the HTTP library is to follow the environment, which
+// goes before the desktop's setting; else a proxy as curl names them (http://..., socks5h://...), empty for none.
+using ProxyChoice = std::function<std::optional<std::string>(const std::string& address)>;
+
+// The environment's, else what the desktop has set. A setting that cannot be had within three seconds (a script that
+// is fetched, say) counts as none.
+[[nodiscard]] std::optional<std::string> systemProxy(const std::string& address);
+// The desktop's setting, as `resolver` tells it.
+[[nodiscard]] std::string proxyOf(GProxyResolver* resolver, const std::string& address);
+
+// The proxy that requests to the service go through, for telling how the machine is on line; empty for none.
+[[nodiscard]] std::string configuredProxy();
+// True for a proxy ("http://127.0.0.1:3128", "localhost:8080") that runs on this machine.
+[[nodiscard]] bool isProxyHere(std::string_view proxy);
+
+}  // namespace vell
