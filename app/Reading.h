@@ -15,7 +15,7 @@ namespace vell {
 
 class modIni;
 struct Platform;
-struct Settings;
+struct Session;
 
 // What a person does with the clippings that are there: looking, opening, printing, deleting. Its message boxes are
 // always the front-end's.
@@ -25,7 +25,7 @@ struct Reading {
         BrowserView& View;
         modIni& Ini;
         EventLog& Log;
-        const Settings& Setup;
+        const Session& State;
         StatusText Status;
     };
     explicit Reading(const Parts& parts);

@@ -36,6 +36,7 @@ constexpr std::array items{
     Item{Menu::File, command::PrintSelected, "&Print\tCtrl+P", "Print the selected clipping", true},
     Item{Menu::File, command::PrintAll, "Print &all...\tCtrl+Shift+P", "Print all clippings of the chosen day"},
     Item{Menu::File, command::PrintByCategory, "Print by &category...\tCtrl+Alt+P", "Print whole categories"},
+    Item{Menu::File, command::StopPrinting, "S&top printing\tCtrl+Shift+T", "Stop before the next document"},
     Item{Menu::File, command::DeleteDay, "&Delete day...\tCtrl+Delete", "Delete the chosen day from the disk", true},
     Item{Menu::File, command::Exit, "E&xit\tCtrl+Q", "End the program", true},
 

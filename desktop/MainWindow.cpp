@@ -10,7 +10,6 @@
 #include <wx/sizer.h>
 
 #include "desktop/MainMenu.h"
-#include "desktop/WindowEvents.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/native/insistOnPlace.h"
 #include "desktop/panes/Advertisement.h"
@@ -30,6 +29,11 @@ namespace vell {
 namespace {
 const wxSize smallest(640, 560);  // DIP
 constexpr int sideBarWidth = 250;
+
+template <class Event, class... Arguments>
+void tell(const Event& event, const Arguments&... arguments) {
+    if (event) event(arguments...);
+}
 
 // A window that was left on a display which is gone would never be found again.
 wxRect reachable(wxRect window) {
@@ -58,10 +62,10 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
     filter_ = new FilterBar(all);
-    list_ = new ClippingsList(all, clock,
-                              {[this](std::size_t row) { tell([=](auto& events) { events.rowDoubleClicked(row); }); },
-                               [this](std::size_t row) { tell([=](auto& events) { events.rowEntered(row); }); },
-                               [this] { showContextMenu(); }});
+    list_ =
+        new ClippingsList(all, clock,
+                          {[this](std::size_t row) { tell(events_.RowDoubleClicked, row); },
+                           [this](std::size_t row) { tell(events_.RowEntered, row); }, [this] { showContextMenu(); }});
     addMenuKeys(*list_);  // GTK's list has uses of its own for Ctrl+F and Ctrl+P
     filter_->MoveAfterInTabOrder(dates_);
     list_->MoveAfterInTabOrder(filter_);
@@ -76,11 +80,10 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
 }
 
 wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
-    dates_ = new DatePane(&parent, [this](const Date& day) { tell([&](auto& e) { e.dayChosen(day); }); });
-    download_ = new ForcedDownloadPane(
-        &parent, {[this](bool onlyToday) { tell([&](auto& events) { events.rangeChosen(onlyToday); }); },
-                  [this](const Date& from) { tell([&](auto& events) { events.fromDateChanged(from); }); },
-                  [this](const Date& to) { tell([&](auto& events) { events.toDateChanged(to); }); }});
+    dates_ = new DatePane(&parent, [this](const Date& day) { tell(events_.DayChosen, day); });
+    download_ = new ForcedDownloadPane(&parent, {[this](bool onlyToday) { tell(events_.RangeChosen, onlyToday); },
+                                                 [this](const Date& from) { tell(events_.FromDateChanged, from); },
+                                                 [this](const Date& to) { tell(events_.ToDateChanged, to); }});
     progress_ = new ProgressPane(&parent);
     alert_ = new AlertPanel(&parent);
     advertisement_ = new Advertisement(&parent, files);
@@ -100,25 +103,20 @@ wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
 void MainWindow::bindCommands() {
     forEachCommand([this](int id) {
         const auto begin = [this, id](wxCommandEvent& /*event*/) {
-            CallAfter([this, id] { tell([=](auto& events) { events.commandChosen(id); }); });
+            CallAfter([this, id] { tell(events_.CommandChosen, id); });
         };
         Bind(wxEVT_MENU, begin, id);
         Bind(wxEVT_BUTTON, begin, id);
         Bind(
-            wxEVT_UPDATE_UI, [this, id](wxUpdateUIEvent& event) { event.Enable(events_ && events_->isEnabled(id)); },
-            id);
+            wxEVT_UPDATE_UI,
+            [this, id](wxUpdateUIEvent& event) { event.Enable(events_.IsEnabled && events_.IsEnabled(id)); }, id);
     });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
-        if (events_)
-            events_->closing(event.CanVeto());  // ends the process, in its own time
+        if (events_.Closing)
+            events_.Closing(event.CanVeto());  // ends the process, in its own time
         else
             event.Skip();
     });
-}
-
-template <class Action>
-void MainWindow::tell(Action&& action) {
-    if (events_) action(*events_);
 }
 
 void MainWindow::showContextMenu() {
@@ -185,7 +183,7 @@ void MainWindow::displayInfoMessageBox(std::string_view text) {
 }
 
 void MainWindow::openSetup() {
-    if (openSetup_) openSetup_();
+    if (events_.SetupWanted) events_.SetupWanted();
 }
 
 bool MainWindow::offersStop() const {

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include <wx/frame.h>
 #include <wx/utils.h>
 
 #include "app/MainView.h"
+#include "desktop/WindowEvents.h"
 
 class wxBoxSizer;
 
@@ -27,16 +28,14 @@ class ForcedDownloadPane;
 class MessageFrame;
 class ProgressPane;
 class StatusLine;
-class WindowEvents;
 
 // The main window: shows what it is told and passes on what the user does.
 class MainWindow : public wxFrame, public MainView {
   public:
     MainWindow(const Clock& clock, const Files& files);
 
-    // Whoever gets the user's doings; before that the window is deaf. What opening the setup dialog means.
-    void listenTo(WindowEvents& events) { events_ = &events; }
-    void onOpenSetup(std::function<void()> open) { openSetup_ = std::move(open); }
+    // Who gets the user's doings; before that the window is deaf.
+    void listenTo(WindowEvents events) { events_ = std::move(events); }
 
     [[nodiscard]] ClippingsList& list() { return *list_; }
     // Stop is there to be pressed, which it also is after a download that could not begin.
@@ -65,11 +64,8 @@ class MainWindow : public wxFrame, public MainView {
     [[nodiscard]] wxBoxSizer* sideBar(wxWindow& parent, const Files& files);
     void bindCommands();
     void showContextMenu();
-    template <class Action>
-    void tell(Action&& action);
 
-    WindowEvents* events_ = nullptr;
-    std::function<void()> openSetup_;
+    WindowEvents events_;
     const std::vector<ClippingRow>* rows_ = nullptr;
     std::optional<wxBusyCursor> busy_;
 

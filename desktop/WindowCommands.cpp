@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/WindowCommands.h"
 
+#include <memory>
 #include <utility>
 
 #include "app/frmMain.h"
@@ -20,8 +21,22 @@ WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxe
     addClippingCommands();
     addDayCommands();
     addProgramCommands();
-    window_.listenTo(*this);
-    window_.onOpenSetup([this] { setUpAndWait(); });
+    listen();
+}
+
+void WindowCommands::listen() {
+    window_.listenTo({
+        .CommandChosen = [this](int id) { commandChosen(id); },
+        .IsEnabled = [this](int id) { return isEnabled(id); },
+        .DayChosen = [this](const Date& day) { program_.reading().Browser.chooseDay(day); },
+        .RowDoubleClicked = [this](std::size_t row) { program_.reading().Opening.grdLocalFiles_DblClick(row); },
+        .RowEntered = [this](std::size_t row) { program_.reading().Opening.openRow(row); },
+        .RangeChosen = [this](bool onlyToday) { program_.downloads().chooseOnlyToday(onlyToday); },
+        .FromDateChanged = [this](const Date& from) { program_.downloads().dtFromDate_Change(from); },
+        .ToDateChanged = [this](const Date& to) { program_.downloads().dtToDate_Change(to); },
+        .SetupWanted = [this] { setUpAndWait(); },
+        .Closing = [this](bool mayBeRefused) { closing(mayBeRefused); },
+    });
 }
 
 void WindowCommands::addClippingCommands() {
@@ -38,6 +53,8 @@ void WindowCommands::addClippingCommands() {
     table_[command::PrintSelected] = {
         onRow([this](std::size_t row) { program_.reading().Printing.mnuPrintSel_Click(row); }), hasRows};
     table_[command::PrintAll] = {[this] { program_.reading().Printing.mnuPrintAll_Click(); }, canPrint};
+    table_[command::StopPrinting] = {[this] { program_.reading().Printing.stop(); },
+                                     [this] { return program_.reading().Printing.isPrinting(); }};
     table_[command::PrintByCategory] = {[this] { printByCategory(); }, canPrint};
     table_[command::AutoView] = {[this] { showAutoView(); }, hasRows};
     table_[command::SortByMarks] = {sortBy(GridColumn::Marks), hasRows};
@@ -50,7 +67,7 @@ void WindowCommands::addDayCommands() {
     const auto hasDay = [this] { return program_.reading().Browser.chosenDay().has_value(); };
     table_[command::OpenDayFolder] = {[this] { program_.reading().Opening.openDayFolder(); }, hasDay};
     table_[command::DeleteDay] = {[this] { program_.reading().Days.mnuDeleteDay_Click(); },
-                                  [this, hasDay] { return hasDay() && !program_.downloads().isBusy(); }};
+                                  [this] { return program_.reading().Days.canDelete(); }};
     table_[command::NewerDay] = {[this] { program_.reading().Days.chooseNewer(); }, hasDay};
     table_[command::OlderDay] = {[this] { program_.reading().Days.chooseOlder(); }, hasDay};
     table_[command::Filter] = {[this] { chooseFilter(); }, hasDay};
@@ -64,7 +81,8 @@ void WindowCommands::addProgramCommands() {
                               [this] { return !program_.downloads().isBusy(); }};
     table_[command::Stop] = {[this] { program_.downloads().cmdStopDownload_Click(); },
                              [this] { return program_.downloads().isBusy() || window_.offersStop(); }};
-    table_[command::Setup] = {[this] { setUp(); }, always};
+    table_[command::Setup] = {[this] { dialogs_.open(setupDialog(), [this] { program_.reading().Days.reload(); }); },
+                              always};
     table_[command::Schedule] = {[this] { dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog())); },
                                  always};
     table_[command::Refresh] = {[this] { program_.reading().Days.reload(); }, always};
@@ -91,15 +109,14 @@ void WindowCommands::showAutoView() {
     autoView_->Raise();
 }
 
-void WindowCommands::setUp() {
-    dialogs_.open(new SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()),
-                  [this] { program_.reading().Days.reload(); });
+SetupDialog* WindowCommands::setupDialog() {
+    return new SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames());
 }
 
 // For a run that cannot go on without the settings.
 void WindowCommands::setUpAndWait() {
-    if (SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames()).ShowModal() == wxID_OK)
-        program_.reading().Days.reload();
+    const std::unique_ptr<SetupDialog> dialog(setupDialog());
+    if (dialog->ShowModal() == wxID_OK) program_.reading().Days.reload();
 }
 
 void WindowCommands::showAbout() {
@@ -115,33 +132,6 @@ void WindowCommands::commandChosen(int id) {
 bool WindowCommands::isEnabled(int id) const {
     const auto entry = table_.find(id);
     return entry != table_.end() && entry->second.CanRun();
-}
-
-void WindowCommands::dayChosen(const Date& day) {
-    program_.reading().Browser.chooseDay(day);
-}
-
-void WindowCommands::rowDoubleClicked(std::size_t row) {
-    program_.reading().Opening.grdLocalFiles_DblClick(row);
-}
-
-void WindowCommands::rowEntered(std::size_t row) {
-    program_.reading().Opening.openRow(row);
-}
-
-void WindowCommands::rangeChosen(bool onlyToday) {
-    if (onlyToday)
-        program_.downloads().chooseToday();
-    else
-        program_.downloads().chooseOtherFrom();
-}
-
-void WindowCommands::fromDateChanged(const Date& from) {
-    program_.downloads().dtFromDate_Change(from);
-}
-
-void WindowCommands::toDateChanged(const Date& to) {
-    program_.downloads().dtToDate_Change(to);
 }
 
 void WindowCommands::closing(bool mayBeRefused) {

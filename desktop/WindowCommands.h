@@ -6,7 +6,6 @@
 
 #include <wx/weakref.h>
 
-#include "desktop/WindowEvents.h"
 #include "desktop/dialogs/AutoViewWindow.h"
 #include "desktop/dialogs/OpenDialogs.h"
 
@@ -14,36 +13,32 @@ namespace vell {
 
 class MainWindow;
 class MessageBoxes;
+class SetupDialog;
 class frmMain;
 
 // Leads what the user does in the window to the program.
-class WindowCommands : public WindowEvents {
+class WindowCommands {
   public:
     // `end` ends the process.
     WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end);
-
-    void commandChosen(int id) override;
-    [[nodiscard]] bool isEnabled(int id) const override;
-    void dayChosen(const Date& day) override;
-    void rowDoubleClicked(std::size_t row) override;
-    void rowEntered(std::size_t row) override;
-    void rangeChosen(bool onlyToday) override;
-    void fromDateChanged(const Date& from) override;
-    void toDateChanged(const Date& to) override;
-    void closing(bool mayBeRefused) override;
 
   private:
     struct Entry {
         std::function<void()> Run;
         std::function<bool()> CanRun;
     };
+    void listen();
+    void commandChosen(int id);
+    [[nodiscard]] bool isEnabled(int id) const;
+    void closing(bool mayBeRefused);
+
     void addClippingCommands();
     void addDayCommands();
     void addProgramCommands();
     void printByCategory();
     void chooseFilter();
     void showAutoView();
-    void setUp();
+    [[nodiscard]] SetupDialog* setupDialog();
     void setUpAndWait();
     void showAbout();
 

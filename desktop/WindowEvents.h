@@ -2,30 +2,31 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 
 #include "base/Date.h"
 
 namespace vell {
 
-// What the user does with the main window. Rows are counted from 0 in the list as the browser holds it.
-class WindowEvents {
-  public:
-    virtual ~WindowEvents() = default;
-
+// What the user does with the main window, and what the program asks of its user. Rows are counted from 0 in the list
+// as the browser holds it.
+struct WindowEvents {
     // Of the menu, the toolbar and the buttons.
-    virtual void commandChosen(int id) = 0;
-    [[nodiscard]] virtual bool isEnabled(int id) const = 0;
+    std::function<void(int id)> CommandChosen;
+    std::function<bool(int id)> IsEnabled;
 
-    virtual void dayChosen(const Date& day) = 0;
-    virtual void rowDoubleClicked(std::size_t row) = 0;
-    virtual void rowEntered(std::size_t row) = 0;
+    std::function<void(const Date& day)> DayChosen;
+    std::function<void(std::size_t row)> RowDoubleClicked;
+    std::function<void(std::size_t row)> RowEntered;
 
-    virtual void rangeChosen(bool onlyToday) = 0;
-    virtual void fromDateChanged(const Date& from) = 0;
-    virtual void toDateChanged(const Date& to) = 0;
+    std::function<void(bool onlyToday)> RangeChosen;
+    std::function<void(const Date& from)> FromDateChanged;
+    std::function<void(const Date& to)> ToDateChanged;
 
+    // A run cannot go on without other settings; returns when the user has been through them.
+    std::function<void()> SetupWanted;
     // The window is to go. The user may be told to close a dialog first, the system may not.
-    virtual void closing(bool mayBeRefused) = 0;
+    std::function<void(bool mayBeRefused)> Closing;
 };
 
 }  // namespace vell

@@ -23,6 +23,7 @@ enum : int {
     OpenDayFolder,
     PrintAll,
     PrintByCategory,
+    StopPrinting,
     Filter,
     ShowAll,
     AutoView,

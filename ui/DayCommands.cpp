@@ -2,6 +2,7 @@
 #include "ui/DayCommands.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/MessageBoxes.h"
 #include "store/modGlobal.h"
@@ -9,8 +10,13 @@
 
 namespace vell {
 
-DayCommands::DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log)
-    : browser_(browser), store_(store), boxes_(boxes), log_(log) {}
+DayCommands::DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log,
+                         std::function<bool()> isBusy)
+    : browser_(browser), store_(store), boxes_(boxes), log_(log), isBusy_(std::move(isBusy)) {}
+
+bool DayCommands::canDelete() const {
+    return browser_.chosenDay() && !isBusy_();
+}
 
 void DayCommands::chooseFirst(const std::optional<Date>& day) {
     if (day && browser_.chooseDay(*day)) return;
@@ -48,6 +54,11 @@ void DayCommands::mnuDeleteDay_Click() {
         if (boxes_.Show("Do you want to delete all clippings of " + day->dayName() + "?", "Delete Day", Buttons::YesNo,
                         BoxIcon::Question) != Answer::Yes)
             return;
+        if (!canDelete()) {  // the schedule has begun something while the question was open
+            boxes_.Show("A download has begun meanwhile. " + day->dayName() + " was not deleted.", programCaption,
+                        Buttons::Ok, BoxIcon::None);
+            return;
+        }
         store_.DeleteContent(*day);
         reload();
     });

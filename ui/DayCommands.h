@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "base/Date.h"
@@ -15,7 +16,9 @@ class modGlobal;
 // The commands for whole days of the date list.
 class DayCommands {
   public:
-    DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log);
+    // `isBusy`: something is under way that works on the days, a download or a batch of prints.
+    DayCommands(ClippingsBrowser& browser, modGlobal& store, MessageBoxes& boxes, EventLog& log,
+                std::function<bool()> isBusy);
 
     // Shows this day when it is there, else the newest.
     void chooseFirst(const std::optional<Date>& day);
@@ -23,8 +26,9 @@ class DayCommands {
     void reload();
     void chooseNewer();
     void chooseOlder();
-    // After a question. The newest of the days that are left is shown then.
+    // After a question; not while something works on the days. The newest of the days that are left is shown then.
     void mnuDeleteDay_Click();
+    [[nodiscard]] bool canDelete() const;
 
   private:
     void step(int places);
@@ -33,6 +37,7 @@ class DayCommands {
     modGlobal& store_;
     MessageBoxes& boxes_;
     EventLog& log_;
+    std::function<bool()> isBusy_;
 };
 
 }  // namespace vell

@@ -15,12 +15,13 @@
 
 namespace vell {
 
-PrintCommands::PrintCommands(const Parts& parts, StatusText status) : p_(parts), status_(std::move(status)) {}
+PrintCommands::PrintCommands(const PrintParts& parts, StatusText status) : p_(parts), status_(std::move(status)) {}
 
 bool PrintCommands::mnuPrintAll_Click() {
     return trap(p_.Log, "mnuPrintAll_Click()", false, [&] {
-        if (printing_) return false;
-        const ScopedFlag printing(printing_);
+        if (batch_.IsUnderWay) return false;
+        batch_.StopRequested = false;
+        const ScopedFlag printing(batch_.IsUnderWay);
         return p_.Boxes.Show("Do you want to print all documents for selected date?", "Print All", Buttons::YesNo,
                              BoxIcon::Question) == Answer::Yes &&
                printAll();
@@ -31,7 +32,7 @@ bool PrintCommands::printAll() {
     // The list may change in the pauses: what was asked for is what stands in it now.
     const std::vector<ClippingRow> rows = p_.Browser.rows();
     std::size_t printed = 0;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
+    for (std::size_t i = 0; i < rows.size() && !batch_.StopRequested; ++i) {
         if (!p_.Article.PrintArticle(rows[i].path())) continue;
         ++printed;
         p_.Loop.DoEvents();
@@ -62,7 +63,7 @@ frmPrint PrintCommands::mnuPrintByCategory_Click() {
         if (!category.empty() && std::ranges::find(categories, category) == categories.end())
             categories.emplace_back(category);
     }
-    return {{p_.Browser, p_.Article, p_.Loop, p_.Boxes, p_.Printer, p_.Log, p_.Setup, printing_}, std::move(categories)};
+    return {p_, batch_, std::move(categories)};
 }
 
 }  // namespace vell

@@ -3,34 +3,16 @@
 
 #include <cstddef>
 
-#include "log/EventLog.h"
+#include "ui/PrintParts.h"
 #include "ui/StatusText.h"
 #include "ui/dialogs/frmPrint.h"
 
 namespace vell {
 
-class Articles;
-class ClippingsBrowser;
-class EventLoop;
-class MessageBoxes;
-class Printers;
-class modGlobal;
-struct Settings;
-
 // The commands that print clippings of the list through the PDF reader.
 class PrintCommands {
   public:
-    struct Parts {
-        ClippingsBrowser& Browser;
-        modGlobal& Store;
-        Articles& Article;
-        EventLoop& Loop;
-        MessageBoxes& Boxes;
-        Printers& Printer;
-        EventLog& Log;
-        const Settings& Setup;
-    };
-    PrintCommands(const Parts& parts, StatusText status);
+    PrintCommands(const PrintParts& parts, StatusText status);
 
     // Both mark what was printed. False when something was not.
 
@@ -41,15 +23,16 @@ class PrintCommands {
     // The rules of the dialog that prints whole categories.
     [[nodiscard]] frmPrint mnuPrintByCategory_Click();
 
-    // While a batch is under way no other one can begin.
-    [[nodiscard]] bool isPrinting() const { return printing_; }
+    // While a batch is under way no other one can begin, and no day can be deleted. It stops before its next document.
+    [[nodiscard]] bool isPrinting() const { return batch_.IsUnderWay; }
+    void stop() { batch_.StopRequested = true; }
 
   private:
     [[nodiscard]] bool printAll();
 
-    Parts p_;
+    PrintParts p_;
     StatusText status_;
-    bool printing_ = false;
+    PrintBatch batch_;
 };
 
 }  // namespace vell

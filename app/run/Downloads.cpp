@@ -21,7 +21,7 @@ constexpr std::string_view wrongRange = "To date can not be less that From date.
 
 void Downloads::reset(const Date& today) {
     chooseRange(today, today);
-    chooseToday();
+    chooseOnlyToday(true);
 }
 
 void Downloads::chooseRange(const Date& from, const Date& to) {

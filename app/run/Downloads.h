@@ -34,9 +34,9 @@ class Downloads {
 
     // Today is chosen, and both ends of the range are today, too.
     void reset(const Date& today);
-    void chooseToday() { onlyToday_ = true; }
-    // The range as it stands, or a new one.
-    void chooseOtherFrom() { onlyToday_ = false; }
+    // Today, or the range as it stands.
+    void chooseOnlyToday(bool onlyToday) { onlyToday_ = onlyToday; }
+    // A new range.
     void chooseRange(const Date& from, const Date& to);
     // The user has changed one end of the range. A From behind the To is refused with a message.
     void dtFromDate_Change(const Date& from);

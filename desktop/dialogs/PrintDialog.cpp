@@ -81,14 +81,18 @@ wxSizer* PrintDialog::bottomRow() {
     status_ =
         new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END);
     auto* cmdPrint = new wxButton(this, wxID_PRINT, "P&rint");
+    auto* cmdStop = new wxButton(this, wxID_STOP, "S&top");
+    cmdStop->Disable();
     row->Add(settings);
     row->Add(status_, wxSizerFlags(1).CentreVertical().Border(wxLEFT));
     row->Add(cmdPrint, wxSizerFlags().Border(wxLEFT));
+    row->Add(cmdStop, wxSizerFlags().Border(wxLEFT));
     row->Add(new wxButton(this, wxID_CLOSE, "C&lose"), wxSizerFlags().Border(wxLEFT));
     cmdPrint->SetDefault();
     settings->Bind(wxEVT_BUTTON,
                    [this](wxCommandEvent& /*event*/) { CallAfter([this] { rules_.cmdPrinterSettings_Click(); }); });
     cmdPrint->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { print(); }); });
+    cmdStop->Bind(wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { rules_.cmdStop_Click(); });
     return row;
 }
 
@@ -108,16 +112,17 @@ void PrintDialog::show() {
 }
 
 void PrintDialog::print() {
-    wxWindow* button = FindWindow(wxID_PRINT);
-    wxWindow* settings = FindWindow(wxID_PRINT_SETUP);
-    button->Disable();
-    settings->Disable();
+    const auto showPrinting = [this](bool printing) {
+        FindWindow(wxID_PRINT)->Enable(!printing);
+        FindWindow(wxID_PRINT_SETUP)->Enable(!printing);
+        FindWindow(wxID_STOP)->Enable(printing);
+    };
+    showPrinting(true);
     rules_.cmdPrint_Click([this](std::string_view text) {
         status_->SetLabelText(shownLine(text));
         Update();
     });
-    button->Enable();
-    settings->Enable();
+    showPrinting(false);
 }
 
 }  // namespace vell

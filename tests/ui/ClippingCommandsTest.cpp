@@ -68,7 +68,8 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
     RecordingPrinters printers;
     PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup}, status};
     frmAutoView autoView{browser, opening, loop, setup};
-    DayCommands days{browser, store, boxes, log};
+    bool busy = false;
+    DayCommands days{browser, store, boxes, log, [this] { return busy; }};
 };
 
 TEST_F(ClippingCommandsTest, aDoubleClickOpensOnceAndEnterAlways) {
@@ -128,6 +129,18 @@ TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
     printing.mnuPrintAll_Click();
     EXPECT_EQ(clock.Steady() - begun, std::chrono::seconds{12}) << "what did not print is passed without a pause";
     EXPECT_THAT(statuses, ElementsAre(""));
+}
+
+TEST_F(ClippingCommandsTest, aBatchStopsBeforeTheNextDocument) {
+    PrintCommands stopped{{browser, store, articles, loop, boxes, printers, log, setup},
+                          [&](std::string_view) { stopped.stop(); }};
+    boxes.Answers = {Answer::Yes};
+    EXPECT_FALSE(stopped.mnuPrintAll_Click());
+    EXPECT_THAT(asked(), ElementsAre("A.PDF"));
+    frmPrint dialog = stopped.mnuPrintByCategory_Click();
+    dialog.cmdAddAll_Click();
+    EXPECT_FALSE(dialog.cmdPrint_Click([&](std::string_view) { dialog.cmdStop_Click(); }));
+    EXPECT_THAT(asked(), ElementsAre("B.PDF"));
 }
 
 TEST_F(ClippingCommandsTest, printsTheSelectedRowAlone) {
@@ -225,7 +238,12 @@ TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
     days.chooseOlder();
     days.mnuDeleteDay_Click();
     EXPECT_TRUE(has("A.PDF"));
-    boxes.Answers = {Answer::Yes};
+    boxes.Answers = {Answer::Yes, Answer::Yes};
+    boxes.OnQuestion = [&] { busy = true; };
+    days.mnuDeleteDay_Click();
+    EXPECT_TRUE(has("A.PDF")) << "a download began while the question was open";
+    boxes.OnQuestion = nullptr;
+    busy = false;
     days.mnuDeleteDay_Click();
     EXPECT_FALSE(folder.has("clips/07032004"));
     EXPECT_EQ(browser.chosenDay(), march8);

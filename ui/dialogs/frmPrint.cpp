@@ -40,7 +40,8 @@ std::string textOf(const PrinterSettings& printer) {
 
 }  // namespace
 
-frmPrint::frmPrint(const Parts& parts, Names categories) : p_(parts), all_(std::move(categories)) {
+frmPrint::frmPrint(const PrintParts& parts, PrintBatch& batch, Names categories)
+    : p_(parts), batch_(batch), all_(std::move(categories)) {
     std::erase_if(all_, [](const std::string& category) { return Trim(category).empty(); });
 }
 
@@ -59,13 +60,14 @@ void frmPrint::cmdRemoveAll_Click() {
 
 bool frmPrint::cmdPrint_Click(const StatusText& status) {
     return trap(p_.Log, "cmdPrint_Click()", false, [&] {
-        if (p_.Printing) return false;
+        if (batch_.IsUnderWay) return false;
         if (chosen_.empty()) {
             p_.Boxes.Show("No categories selected. Please selected categories to print.", "Print", Buttons::Ok,
                           BoxIcon::None);
             return false;
         }
-        const ScopedFlag printing(p_.Printing);
+        batch_.StopRequested = false;
+        const ScopedFlag printing(batch_.IsUnderWay);
         return print(documents(), status);
     });
 }
@@ -89,7 +91,7 @@ Names frmPrint::documents() const {
 
 bool frmPrint::print(const Names& documents, const StatusText& status) {
     bool all = true;
-    for (std::size_t k = 0; k < documents.size(); ++k) {
+    for (std::size_t k = 0; k < documents.size() && !batch_.StopRequested; ++k) {
         const std::string& path = documents[k];
         if (InStr(Upper(path), ".PDF") == 0) continue;
         all = p_.Article.PrintArticle(path) && all;
@@ -98,7 +100,7 @@ bool frmPrint::print(const Names& documents, const StatusText& status) {
         printPause(p_.Loop, p_.Setup);
     }
     status("");
-    return all;
+    return all && !batch_.StopRequested;
 }
 
 void printPause(EventLoop& loop, const Settings& settings) {

@@ -5,33 +5,19 @@
 #include <string>
 #include <vector>
 
-#include "log/EventLog.h"
+#include "ui/PrintParts.h"
 #include "ui/StatusText.h"
 
 namespace vell {
 
-class Articles;
-class ClippingsBrowser;
 class EventLoop;
-class MessageBoxes;
-class Printers;
 struct Settings;
 
 // What the dialog that prints whole categories decides. What it prints is not marked.
 class frmPrint {
   public:
-    struct Parts {
-        ClippingsBrowser& Browser;
-        Articles& Article;
-        EventLoop& Loop;
-        MessageBoxes& Boxes;
-        Printers& Printer;
-        EventLog& Log;
-        const Settings& Setup;
-        bool& Printing;  // set while a batch is under way
-    };
     // The categories of the list that can be chosen.
-    frmPrint(const Parts& parts, std::vector<std::string> categories);
+    frmPrint(const PrintParts& parts, PrintBatch& batch, std::vector<std::string> categories);
 
     [[nodiscard]] const std::vector<std::string>& lstAllCategories() const { return all_; }
     [[nodiscard]] const std::vector<std::string>& lstPrintCategories() const { return chosen_; }
@@ -43,6 +29,8 @@ class frmPrint {
     void cmdRemoveAll_Click();
     // False when something was not printed.
     bool cmdPrint_Click(const StatusText& status);
+    // Ends the batch that is under way before its next document.
+    void cmdStop_Click() { batch_.StopRequested = true; }
     // Shows how the default printer is set up, then the dialog in which that can be changed.
     void cmdPrinterSettings_Click();
 
@@ -50,7 +38,8 @@ class frmPrint {
     [[nodiscard]] std::vector<std::string> documents() const;
     [[nodiscard]] bool print(const std::vector<std::string>& documents, const StatusText& status);
 
-    Parts p_;
+    PrintParts p_;
+    PrintBatch& batch_;
     std::vector<std::string> all_;
     std::vector<std::string> chosen_;
 };
