@@ -12,7 +12,9 @@ namespace {
 
 using namespace std::string_literals;
 using testing::Contains;
+using testing::Each;
 using testing::ElementsAre;
+using testing::IsEmpty;
 using testing::StartsWith;
 
 class CFtpConnectionTest : public FtpFixture {
@@ -37,7 +39,8 @@ TEST_F(CFtpConnectionTest, tellsTheWholeDialogueInItsOrderWithThePasswordMasked)
     ScriptedServer server(sockets, loop);
     server.on("RETR", "+hello|=|~9|150 Coming|~9|226 Sent");
     ftp.Port = server.port();
-    ASSERT_TRUE(ftp.Connect() && ftp.downloadFile("a.pdf", local("a.pdf"), 0) && ftp.CloseConnection());
+    EXPECT_THAT((std::vector{ftp.Connect(), ftp.downloadFile("a.pdf", local("a.pdf"), 0), ftp.CloseConnection()}),
+                Each(true));
     EXPECT_EQ(ftp.CurrentDirectory(), "/home");
     EXPECT_THAT(told, ElementsAre("State 0", "State 1", "State 2", "220 Ready", "State 3", "USER vell", "331 Password?",
                                   "PASS **********", "230 In", "PWD", "257 \"/home\"", "TYPE I", "200 Fine", "State 5",
@@ -69,7 +72,7 @@ TEST_F(CFtpConnectionTest, logsInWithEveryServerThatLetsItIn) {
             ftp.Port = server.port();
             EXPECT_EQ(ftp.Connect(), c.Error == 0);
             EXPECT_EQ(ftp.IsConnected(), c.Error == 0);
-            EXPECT_TRUE(c.Error == 0 || ftp.FtpGetLastError() == c.Error) << ftp.FtpGetLastError();
+            EXPECT_EQ(c.Error == 0 ? 0 : ftp.FtpGetLastError(), c.Error);
             EXPECT_EQ(server.commands.size(), c.Commands);
         }
     }
@@ -80,10 +83,12 @@ TEST_F(CFtpConnectionTest, needsAServerAndAPasswordUnlessItIsAnonymous) {
     ScriptedServer another(sockets, loop);
     ftp.Port = server.port();
     ftp.FtpServer.clear();
-    EXPECT_FALSE(ftp.Connect() || !told.empty());
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_THAT(told, IsEmpty());
     ftp.FtpServer = "127.0.0.1";
     ftp.Password.clear();
-    EXPECT_FALSE(ftp.Connect() || !server.commands.empty());
+    EXPECT_FALSE(ftp.Connect());
+    EXPECT_THAT(server.commands, IsEmpty());
     ftp.UserName.clear();
     connectTo(another);
     EXPECT_EQ(ftp.UserName, "anonymous");
@@ -226,7 +231,7 @@ TEST_F(CFtpConnectionTest, takesAFileForWholeWhenAllOfItCameThoughTheServerNever
         EXPECT_EQ(c.Error == 0 ? 0 : ftp.FtpGetLastError(), c.Error);
         EXPECT_FALSE(ftp.IsConnected());
     }
-    EXPECT_THAT(asked, testing::IsEmpty());
+    EXPECT_THAT(asked, IsEmpty());
 }
 
 TEST_F(CFtpConnectionTest, givesUpATransferThatOnlyDripsForFiveMinutes) {
@@ -303,8 +308,9 @@ TEST_F(CFtpConnectionTest, endsATransferAtOnceWhenItIsStoppedFromInsideItsWait) 
         EXPECT_FALSE(c.Command == "STOR" ? ftp.UploadFile(local("big"), "b") : ftp.downloadFile("b", local("b"), 0));
         EXPECT_TRUE(stopped);
         EXPECT_LE(seconds() - begin, c.Abor == "~99999" ? ftp.Timeout + 1.2 : 1);
-        EXPECT_FALSE(ftp.Busy() || ftp.IsConnected());
-        EXPECT_TRUE(asked.empty());
+        EXPECT_FALSE(ftp.Busy());
+        EXPECT_FALSE(ftp.IsConnected());
+        EXPECT_THAT(asked, IsEmpty());
     }
 }
 
@@ -353,14 +359,16 @@ TEST_F(CFtpConnectionTest, sendsNoArgumentThatCouldCarryASecondCommand) {
     connectTo(server);
     for (const std::string& bad : {"a\rb"s, "a\nb"s, "a\0b"s, "a\r\nDELE b"s}) {
         ftp.UserName = bad;
-        EXPECT_FALSE(ftp.SetCurrentDirectory(bad) || ftp.RenameFile(bad, "x") || ftp.RenameFile("x", bad) ||
-                     ftp.DeleteFile(bad) || ftp.CreateDirectory(bad) || ftp.RemoveDirectory(bad) || ftp.Connect() ||
-                     ftp.downloadFile(bad, local("x"), 0) || ftp.UploadFile(local("x"), bad) ||
-                     ftp.EnumFilesCriteria(bad).Count() != 0);
+        EXPECT_THAT((std::vector{ftp.SetCurrentDirectory(bad), ftp.RenameFile(bad, "x"), ftp.RenameFile("x", bad),
+                                 ftp.DeleteFile(bad), ftp.CreateDirectory(bad), ftp.RemoveDirectory(bad), ftp.Connect(),
+                                 ftp.downloadFile(bad, local("x"), 0), ftp.UploadFile(local("x"), bad)}),
+                    Each(false));
+        EXPECT_EQ(ftp.EnumFilesCriteria(bad).Count(), 0);
         EXPECT_EQ(ftp.FtpGetLastError(), 48);
         EXPECT_THAT(ftp.GetFtpErrorDescription(), testing::HasSubstr("line end"));
     }
-    EXPECT_TRUE(server.commands.empty() && ftp.IsConnected());
+    EXPECT_THAT(server.commands, IsEmpty());
+    EXPECT_TRUE(ftp.IsConnected());
 }
 
 // As slow as real time, since processor time is what counts here.

@@ -10,6 +10,7 @@ namespace vell::test {
 namespace {
 
 namespace fs = std::filesystem;
+using testing::Each;
 
 // Servers that others wrote, each serving `remote`.
 class RealServersTest : public FtpFixture, public testing::WithParamInterface<std::string> {
@@ -28,7 +29,8 @@ class RealServersTest : public FtpFixture, public testing::WithParamInterface<st
         if (server->port() == 0) GTEST_SKIP() << "not installed";
         ftp.Port = server->port();
         ftp.Timeout = 600;  // the driven clock runs faster than the server
-        ASSERT_TRUE(ftp.Connect() && ftp.SetCurrentDirectory("clips")) << ftp.GetFtpErrorDescription();
+        ASSERT_THAT((std::vector{ftp.Connect(), ftp.SetCurrentDirectory("clips")}), Each(true))
+            << ftp.GetFtpErrorDescription();
     }
 
     std::string pdf;
@@ -46,7 +48,9 @@ TEST_P(RealServersTest, listFilesLinksAndFoldersAndRefuseAStranger) {
     ASSERT_EQ(found.size(), 5U);
     EXPECT_EQ(found.at("a.pdf").FileSize, pdf.size());
     EXPECT_EQ(found.at("a.pdf").Permissions.substr(0, 4), "-rw-");
-    EXPECT_TRUE(found.at("inner").IsDirectory && found.at("way").IsDirectory && !found.at("link").IsDirectory);
+    EXPECT_TRUE(found.at("inner").IsDirectory);
+    EXPECT_TRUE(found.at("way").IsDirectory);
+    EXPECT_FALSE(found.at("link").IsDirectory);
     EXPECT_EQ(found.at("link").FilePath, "a.pdf");
     EXPECT_TRUE(ftp.SetCurrentDirectory("inner"));
     EXPECT_EQ(ftp.EnumFiles().Count(), 0);
@@ -67,13 +71,18 @@ TEST_P(RealServersTest, giveAndTakeFilesInBothModes) {
         EXPECT_EQ(folder.get("rest.pdf"), pdf);
         EXPECT_TRUE(ftp.downloadFile("empty.txt", local("empty.txt"), 0));
         EXPECT_EQ(folder.get("empty.txt"), "");
-        EXPECT_TRUE(ftp.CreateDirectory("new") && ftp.SetCurrentDirectory("new")) << ftp.GetFtpErrorDescription();
-        EXPECT_TRUE(ftp.UploadFile(local("a.pdf"), "x") && ftp.UploadFile(local("empty.txt"), "0"));
+        EXPECT_THAT((std::vector{ftp.CreateDirectory("new"), ftp.SetCurrentDirectory("new"),
+                                 ftp.UploadFile(local("a.pdf"), "x"), ftp.UploadFile(local("empty.txt"), "0")}),
+                    Each(true))
+            << ftp.GetFtpErrorDescription();
         EXPECT_THAT(told, testing::Contains("Up 700000"));
         EXPECT_EQ(remote.get("clips/new/x"), pdf);
-        EXPECT_TRUE(ftp.RenameFile("x", "y") && remote.has("clips/new/y"));
-        EXPECT_TRUE(ftp.DeleteFile("y") && ftp.DeleteFile("0") && ftp.SetParentAsCurrentDirectory());
-        EXPECT_TRUE(ftp.RemoveDirectory("new") && !ftp.RemoveDirectory("new") && !remote.has("clips/new"));
+        EXPECT_TRUE(ftp.RenameFile("x", "y"));
+        EXPECT_TRUE(remote.has("clips/new/y"));
+        EXPECT_THAT((std::vector{ftp.DeleteFile("y"), ftp.DeleteFile("0"), ftp.SetParentAsCurrentDirectory(),
+                                 ftp.RemoveDirectory("new"), ftp.RemoveDirectory("new")}),
+                    testing::ElementsAre(true, true, true, true, false));
+        EXPECT_FALSE(remote.has("clips/new"));
     }
     EXPECT_TRUE(ftp.CloseConnection());
 }
@@ -91,9 +100,11 @@ TEST_P(RealServersTest, abortInTheMiddleAndResume) {
     EXPECT_FALSE(ftp.downloadFile("big", local("big"), 0));
     EXPECT_FALSE(ftp.IsConnected());
     const auto here = static_cast<std::int32_t>(folder.get("big").size());
-    EXPECT_TRUE(here > 0 && static_cast<std::size_t>(here) < big.size()) << here;
+    EXPECT_THAT(here, testing::AllOf(testing::Gt(0), testing::Lt(static_cast<int>(big.size()))));
     onTold = [](const std::string&) {};
-    EXPECT_TRUE(ftp.Connect() && ftp.SetCurrentDirectory("clips") && ftp.downloadFile("big", local("big"), here));
+    EXPECT_THAT(
+        (std::vector{ftp.Connect(), ftp.SetCurrentDirectory("clips"), ftp.downloadFile("big", local("big"), here)}),
+        Each(true));
     EXPECT_TRUE(folder.get("big") == big);
 }
 
