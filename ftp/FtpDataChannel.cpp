@@ -106,12 +106,11 @@ void FtpDataChannel::DataArrival(std::size_t /*bytes*/) {
 void FtpDataChannel::receiveAll() {
     if (receiving_) return;
     const ScopedFlag receiving(receiving_);
-    while (flowing_ && transfer_ != Transfer::Upload && socket_->BytesReceived() > 0) {
-        const std::string block = socket_->GetData(blockSize);
+    while (flowing_ && transfer_ != Transfer::Upload && socket_->TakeBlock(block_)) {
         context_.Wait.reset();
-        if (!pace_.isFair(block.size(), context_.Services.Time.Steady()))
+        if (!pace_.isFair(block_.size(), context_.Services.Time.Steady()))
             throw RunTimeError(socket_error::TimedOut, "The server sends too slowly.");
-        receiveBlock(block);
+        receiveBlock(block_.bytes());
         pace_.wait(context_.Services.Time.Steady());
     }
     closeWhenRead();

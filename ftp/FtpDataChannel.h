@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "ftp/TransferPace.h"
+#include "platform/ByteBlock.h"
 #include "platform/Files.h"
 #include "platform/TcpSocket.h"
 
@@ -80,6 +81,7 @@ class FtpDataChannel : private TcpSocketEvents {
     std::string outgoing_;
     std::size_t handedOut_ = 0;  // bytes of outgoing_ that the socket was given
     std::int64_t count_ = 0;
+    ByteBlock block_;  // the one under receiveAll
     TransferPace pace_;
 };
 

@@ -47,7 +47,6 @@ bool FtpWait::until(const Condition& met, const Condition& gone, Limit limit) {
             return false;
         }
         services_.Loop.WaitForEvents(longestStandstill);
-        services_.Loop.DoEvents();
     }
 }
 

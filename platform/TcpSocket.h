@@ -9,6 +9,8 @@
 
 namespace vell {
 
+class ByteBlock;
+
 // The numbers are the socket component's own.
 enum class SocketState {
     Closed = 0,
@@ -61,6 +63,9 @@ class TcpSocket {
     virtual void SendData(std::string_view bytes) = 0;
     // Takes up to `most` of the bytes that have arrived; empty when there are none.
     [[nodiscard]] virtual std::string GetData(std::size_t most) = 0;
+    // Takes a block of them without copying any: what `block` held is gone, and its storage is used for what comes
+    // next. False when there are none.
+    [[nodiscard]] virtual bool TakeBlock(ByteBlock& block) = 0;
     // Bytes that have arrived and not been read, and bytes given to SendData that have not left.
     [[nodiscard]] virtual std::size_t BytesReceived() const = 0;
     [[nodiscard]] virtual std::size_t BytesToSend() const = 0;

@@ -38,21 +38,26 @@ AsioEventLoop::AsioEventLoop(Clock& clock)
 
 AsioEventLoop::~AsioEventLoop() = default;
 
-void AsioEventLoop::DoEvents() {
-    runPending();
+// The sockets are asked in the wait alone, and not before and after it as well: while bytes come in, each question that
+// finds nothing would cost as much as a block.
+void AsioEventLoop::WaitForEvents(int length) {
+    if (pump_) guarded(pump_);
+    bool happened = fireTimers();
+    milliseconds wait{happened ? 0 : std::max(length, 0)};
+    if (const auto next = untilNextTimer()) wait = std::min(wait, *next);
+    happened = runFor(clock_.realLength(wait)) || happened;
+    if (!happened) clock_.passed(wait);
+    fireTimers();
 }
 
-void AsioEventLoop::WaitForEvents(int length) {
-    if (runPending()) return;
-    milliseconds wait{std::max(length, 0)};
-    if (const auto next = untilNextTimer()) wait = std::min(wait, *next);
+bool AsioEventLoop::runFor(milliseconds length) {
+    if (length <= milliseconds::zero()) return runQueue();
     bool happened = false;
     guarded([&] {
         happened = true;  // also when the handler throws
-        happened = context_->run_one_for(clock_.realLength(wait)) != 0;
+        happened = context_->run_one_for(length) != 0;
     });
-    if (!happened) clock_.passed(wait);
-    runPending();
+    return happened;
 }
 
 void AsioEventLoop::Sleep(int length) {
@@ -83,14 +88,17 @@ std::optional<milliseconds> AsioEventLoop::untilNextTimer() const {
     return timers_.untilNext(clock_.Steady());
 }
 
-// True when something happened.
-bool AsioEventLoop::runPending() {
+void AsioEventLoop::DoEvents() {
     if (pump_) guarded(pump_);
-    // The sockets are asked once at the end of the first round; what they tell happens in the second. More rounds
-    // would never end under a peer that sends as fast as it is read.
-    bool happened = runRound();
-    happened = runRound() || happened;
-    return fireTimers() || happened;
+    runQueue();
+    fireTimers();
+}
+
+// True when something happened. The sockets are asked once at the end of the first round; what they tell happens in the
+// second. More rounds would never end under a peer that sends as fast as it is read.
+bool AsioEventLoop::runQueue() {
+    const bool happened = runRound();
+    return runRound() || happened;
 }
 
 // Runs what stands in the context's queue now, and nothing that is added meanwhile.

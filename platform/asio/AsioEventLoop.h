@@ -46,7 +46,8 @@ class AsioEventLoop : public EventLoop {
   private:
     struct Anchor;
 
-    bool runPending();
+    bool runFor(std::chrono::milliseconds length);
+    bool runQueue();
     bool runRound();
     bool fireTimers();
     template <class Body>

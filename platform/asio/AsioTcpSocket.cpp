@@ -79,6 +79,10 @@ std::string AsioTcpSocket::GetData(std::size_t most) {
     return stream_ ? stream_->take(most) : std::string();
 }
 
+bool AsioTcpSocket::TakeBlock(ByteBlock& block) {
+    return stream_ && stream_->takeBlock(block);
+}
+
 std::size_t AsioTcpSocket::BytesReceived() const {
     return stream_ ? stream_->unread() : 0;
 }

@@ -34,6 +34,7 @@ class AsioTcpSocket final : public TcpSocket,
     void Accept() override;
     void SendData(std::string_view bytes) override;
     [[nodiscard]] std::string GetData(std::size_t most) override;
+    [[nodiscard]] bool TakeBlock(ByteBlock& block) override;
     [[nodiscard]] std::size_t BytesReceived() const override;
     [[nodiscard]] std::size_t BytesToSend() const override;
     void Close() override;

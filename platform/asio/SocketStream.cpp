@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/asio/SocketStream.h"
 
+#include <cstring>
 #include <utility>
 
 #include <asio/buffer.hpp>
 
+#include "platform/asio/SocketHandles.h"
 #include "platform/asio/SocketNumbers.h"
 
 namespace vell {
@@ -13,9 +15,8 @@ using asio::ip::tcp;
 
 namespace {
 
-constexpr std::size_t blockSize = 256UL * 1024;
-// Nothing is received while as much lies unread; the peer feels it by TCP's own flow control.
-constexpr std::size_t mostUnread = 1024UL * 1024;
+// So few bytes are one side of a dialogue: the other side may not say its next word before it knows that this one came.
+constexpr std::size_t ofADialogue = 1024;
 // An owner that yields in its handlers is told of new events inside them. Under a fast peer each would go one deeper
 // than the last, until the stack ends; so from this depth on nothing new is begun.
 constexpr int deepest = 16;
@@ -37,8 +38,7 @@ class SocketStream::Telling {
     std::shared_ptr<SocketStream> stream_;
 };
 
-SocketStream::SocketStream(tcp::socket socket, Owner& owner)
-    : socket_(std::move(socket)), owner_(owner), block_(std::make_unique_for_overwrite<char[]>(blockSize)) {}
+SocketStream::SocketStream(tcp::socket socket, Owner& owner) : socket_(std::move(socket)), owner_(owner) {}
 
 void SocketStream::start() {
     // A connection that is gone already refuses options; reading tells why.
@@ -62,9 +62,35 @@ void SocketStream::send(std::string_view bytes) {
 }
 
 std::string SocketStream::take(std::size_t most) {
-    std::string bytes = unread_.take(most);
+    std::string bytes;
+    while (bytes.size() < most && unread() > 0) {
+        const auto piece = arrived_.bytes().substr(taken_, most - bytes.size());
+        bytes += piece;
+        taken_ += piece.size();
+        moveUp();
+    }
     read();
     return bytes;
+}
+
+bool SocketStream::takeBlock(ByteBlock& block) {
+    if (unread() == 0) return false;
+    if (taken_ > 0) std::memmove(arrived_.room(), arrived_.room() + taken_, arrived_.size() - taken_);
+    arrived_.filled(arrived_.size() - taken_);
+    std::swap(block, arrived_);
+    arrived_.filled(0);
+    taken_ = 0;
+    moveUp();
+    read();
+    return true;
+}
+
+// Once a block is taken, the next one takes its place.
+void SocketStream::moveUp() {
+    if (taken_ < arrived_.size() || reading_) return;
+    std::swap(arrived_, incoming_);
+    incoming_.filled(0);
+    taken_ = 0;
 }
 
 void SocketStream::goOn() {
@@ -73,10 +99,10 @@ void SocketStream::goOn() {
 }
 
 void SocketStream::read() {
-    if (stopped_ || reading_ || readEnded_ || depth_ >= deepest || unread_.size() >= mostUnread) return;
+    if (stopped_ || reading_ || readEnded_ || depth_ >= deepest || incoming_.size() > 0) return;
     reading_ = true;
     socket_.async_read_some(
-        asio::buffer(block_.get(), blockSize),
+        asio::buffer(incoming_.room(), ByteBlock::capacity),
         [self = shared_from_this()](const std::error_code& problem, std::size_t n) { self->onRead(problem, n); });
 }
 
@@ -87,10 +113,12 @@ void SocketStream::onRead(const std::error_code& problem, std::size_t bytes) {
         onReadEnd(problem);
         return;
     }
-    unread_.append({block_.get(), bytes});
+    if (bytes < ofADialogue) acknowledgeAtOnce(socket_.native_handle());
+    incoming_.filled(bytes);
+    moveUp();
     read();
     const Telling telling(*this);
-    owner_.onArrived(unread_.size());
+    owner_.onArrived(unread());
 }
 
 void SocketStream::onReadEnd(const std::error_code& why) {

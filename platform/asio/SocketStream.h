@@ -8,8 +8,8 @@
 
 #include <asio/ip/tcp.hpp>
 
-#include "base/ByteQueue.h"
 #include "base/errors.h"
+#include "platform/ByteBlock.h"
 
 namespace vell {
 
@@ -33,12 +33,14 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
 
     void send(std::string_view bytes);
     [[nodiscard]] std::string take(std::size_t most);
-    [[nodiscard]] std::size_t unread() const { return unread_.size(); }
+    [[nodiscard]] bool takeBlock(ByteBlock& block);
+    [[nodiscard]] std::size_t unread() const { return arrived_.size() - taken_ + incoming_.size(); }
     [[nodiscard]] std::size_t unsent() const { return leaving_.size() - left_ + waiting_.size(); }
 
   private:
     class Telling;
 
+    void moveUp();
     void goOn();
     void read();
     void onRead(const std::error_code& problem, std::size_t bytes);
@@ -54,8 +56,11 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
     bool stopped_ = false;
     int depth_ = 0;  // of the owner's handlers that are running, each but the first inside a yield of another
 
-    std::unique_ptr<char[]> block_;
-    ByteQueue unread_;
+    // What has arrived and not been taken, and the block that the system fills meanwhile; once that is full, too,
+    // nothing is received until the first has been taken, and the peer feels it by TCP's own flow control.
+    ByteBlock arrived_;
+    std::size_t taken_ = 0;  // of it, at the front
+    ByteBlock incoming_;     // empty while the system fills it
     bool reading_ = false;
     bool readEnded_ = false;
 
