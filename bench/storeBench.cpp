@@ -116,7 +116,7 @@ void markAClipping(benchmark::State& state) {
     DayIndex index(day.Disk);
     int number = 0;
     for (auto _ : state)
-        index.markDownloaded(day.folder(), nameOf(number++ % static_cast<int>(state.range(0))));
+        index.markDownloaded(day.folder(), nameOf(number++ % static_cast<int>(state.range(0))), "1");
 }
 BENCHMARK(markAClipping)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
@@ -127,7 +127,7 @@ void markAMarkedDayAgain(benchmark::State& state) {
     DayIndex index(day.Disk);
     const auto markAll = [&] {
         for (int number = 0; number < count; ++number)
-            index.markDownloaded(day.folder(), nameOf(number));
+            index.markDownloaded(day.folder(), nameOf(number), "1");
     };
     markAll();
     for (auto _ : state)

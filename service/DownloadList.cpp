@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "service/DownloadList.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -9,6 +8,7 @@
 #include "config/Settings.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "service/ListAnswer.h"
 #include "service/ListMerge.h"
 #include "service/RunFeedback.h"
 #include "service/modHTTP.h"
@@ -25,9 +25,6 @@ namespace {
 constexpr std::string_view listScript = "/vell/vellClipsToDownload.asp";
 constexpr std::string_view alertScript = "/sources.asp";
 constexpr std::int32_t advertisementSize = 17855;
-constexpr int refusedLogin = 1001;
-constexpr int nothingForTheDay = 1002;
-constexpr std::size_t shownOfBadRecord = 80;
 
 // The fields with the sizes of a clipping's three forms.
 constexpr std::array sizeFields{IndexField::PdfSize, IndexField::TextSize, IndexField::CompanionSize};
@@ -39,14 +36,6 @@ std::string dayFields(const Date& day, std::string_view suffix) {
         return std::string(key).append(suffix).append("=").append(Mid(name, start, length));
     };
     return field("dd", 1, 2) + "&" + field("mm", 3, 2) + "&" + field("yyyy", 5, 4);
-}
-
-bool isEmpty(const std::string& record) {
-    return record.empty();
-}
-
-bool holdNothing(const std::vector<std::string>& records) {
-    return std::all_of(records.begin(), records.end(), isEmpty);
 }
 
 }  // namespace
@@ -71,21 +60,47 @@ bool DownloadList::GetDownloadFiles() {
 
 bool DownloadList::getList() {
     state_ = {};
-    std::vector<std::string> records;
-    Verdict verdict = Verdict::AskAgain;
-    while (verdict == Verdict::AskAgain) {
-        std::string body;
-        std::string headers;
-        const bool answered = http_.OpenUrl("POST", settings_.Host, listScript, listRequest(), body, headers);
-        if (settings_.Debug >= 1) boxes_.Show(body, programCaption, Buttons::Ok, BoxIcon::None);
-        if (!answered) return false;
-        feedback_.StatusBar("Getting list of files to download: Done");
-        records = answerRecords(body);
-        verdict = judge(records);
+    std::optional<ListAnswer> answer;
+    do {
+        answer = ask();
+        if (!answer) return false;
+    } while (answer->What == ListAnswer::Kind::LoginRefused && mayAskAgain());
+    for (const std::string& record : answer->Dropped)
+        log_.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" + record + "'");
+    switch (answer->What) {
+        case ListAnswer::Kind::LoginRefused:
+            return false;
+        case ListAnswer::Kind::NoList:
+            log_.WriteLog("        The answer is no list of clippings, " + answer->Fault);
+            return false;
+        case ListAnswer::Kind::Silence:
+            state_.ServiceWasSilent = true;
+            fillDownloadList({}, {});
+            return true;
+        case ListAnswer::Kind::NothingForTheDay:
+        case ListAnswer::Kind::List:
+            break;
     }
-    if (verdict == Verdict::Refused) return false;
-    const auto changed = storeIndex(records);
-    fillDownloadList(records, changed);
+    state_.DroppedRecords = static_cast<std::int32_t>(answer->Dropped.size());
+    fillDownloadList(answer->Records, storeIndex(answer->Records));
+    return true;
+}
+
+std::optional<ListAnswer> DownloadList::ask() {
+    std::string body;
+    std::string headers;
+    const bool answered = http_.OpenUrl("POST", settings_.Host, listScript, listRequest(), body, headers);
+    if (settings_.Debug >= 1) boxes_.Show(body, programCaption, Buttons::Ok, BoxIcon::None);
+    if (!answered) return std::nullopt;
+    feedback_.StatusBar("Getting list of files to download: Done");
+    return readListAnswer(body);
+}
+
+bool DownloadList::mayAskAgain() {
+    if (boxes_.Show("Please enter a correct username/password combination.", "Incorrect username/password combination",
+                    Buttons::OkCancel, BoxIcon::None) != Answer::Ok)
+        return false;
+    feedback_.openSetup();
     return true;
 }
 
@@ -94,67 +109,23 @@ std::string DownloadList::listRequest() const {
            dayFields(day_.gCurrentDate, "2") + "&vellVersion=" + version_;
 }
 
-DownloadList::Verdict DownloadList::judge(std::vector<std::string>& records) {
-    if (!records.empty() && records.front().starts_with("ERROR")) {
-        const double code = Val(Mid(records.front(), 7));
-        if (code == refusedLogin) {
-            const Answer answer =
-                boxes_.Show("Please enter a correct username/password combination.",
-                            "Incorrect username/password combination", Buttons::OkCancel, BoxIcon::None);
-            if (answer != Answer::Ok) return Verdict::Refused;
-            feedback_.openSetup();
-            return Verdict::AskAgain;
-        }
-        if (code == nothingForTheDay) {
-            records.assign(1, "");
-            return Verdict::Usable;
-        }
-    }
-    if (holdNothing(records)) {
-        // The service says nothing where it would have said that the day is empty: no reason to remove an article.
-        records.clear();
-        return Verdict::Usable;
-    }
-    const std::string first = records.front();
-    dropBadRecords(records);
-    if (!holdNothing(records)) return Verdict::Usable;
-    log_.WriteLog("        The answer is no list of clippings: '" + first.substr(0, shownOfBadRecord) + "'");
-    return Verdict::Refused;
-}
-
-void DownloadList::dropBadRecords(std::vector<std::string>& records) {
-    std::erase_if(records, [&](const std::string& record) {
-        if (record.empty() || (indexFields(record).size() > 1 && isClippingName(indexKey(record)))) return false;
-        log_.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" +
-                      record.substr(0, shownOfBadRecord) + "'");
-        return true;
-    });
-}
-
-std::unordered_set<std::string> DownloadList::storeIndex(std::vector<std::string>& records) {
+std::unordered_set<std::string> DownloadList::storeIndex(const std::vector<std::string>& records) {
     const std::string path = day_.gDayFolder + std::string(indexFileName);
-    std::unordered_set<std::string> changed;
-    if (!records.empty() && files_.PathExists(path)) {
-        Merged merged = mergeWithIndex(std::move(records), files_.ReadFile(path));
-        for (const std::string& name : merged.GoneFiles)
-            if (isClippingName(name)) store_.DeleteArticleFiles(name);
-        records = std::move(merged.Records);
-        changed = std::move(merged.ChangedFiles);
+    const Merged merged = mergeWithIndex(records, files_.PathExists(path) ? files_.ReadFile(path) : std::string());
+    files_.WriteWhole(path, merged.Index, Durability::Rename);
+    for (const std::string& name : merged.GoneFiles) {
+        log_.WriteLog("        The service does not list " + name + " any more");
+        store_.DeleteArticleFiles(name);
     }
-    std::string text;
-    for (const std::string& record : records)
-        appendIndexLine(text, record);
-    files_.WriteWhole(path, text, Durability::Rename);
-    state_.gClippingsCount = static_cast<std::int32_t>(
-        records.size() - static_cast<std::size_t>(std::count_if(records.begin(), records.end(), isEmpty)));
-    return changed;
+    return merged.ChangedFiles;
 }
 
 void DownloadList::fillDownloadList(const std::vector<std::string>& records,
                                     const std::unordered_set<std::string>& changed) {
-    state_.gDownloadList.push_back({.FileName = advertisementFile, .Size = advertisementSize, .Change = {}});
+    append({.FileName = advertisementFile, .Size = advertisementSize, .Change = {}});
     for (const std::string& record : records) {
         if (record.empty()) continue;
+        ++state_.gClippingsCount;
         const std::string name(indexKey(record));
         const std::string change(indexField(record, IndexField::Change));
         auto forms = clippingForms(name);

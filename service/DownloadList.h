@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_set>
@@ -17,6 +18,7 @@ class modGlobal;
 class modHTTP;
 class RunFeedback;
 struct DayState;
+struct ListAnswer;
 struct Settings;
 
 // Asks the service what there is for the day of the run.
@@ -33,15 +35,14 @@ class DownloadList {
     bool GetAlert();
 
   private:
-    enum class Verdict { Usable, AskAgain, Refused };
-
     [[nodiscard]] bool getList();
-    [[nodiscard]] Verdict judge(std::vector<std::string>& records);
+    // Nothing when the service gave no answer.
+    [[nodiscard]] std::optional<ListAnswer> ask();
+    // The login was refused. True when the user has changed it.
+    [[nodiscard]] bool mayAskAgain();
     [[nodiscard]] std::string listRequest() const;
-    // Drops what is no record or would lead out of the day folder, and says so in the log.
-    void dropBadRecords(std::vector<std::string>& records);
     // Gives the articles of which the service has another version than the last time.
-    [[nodiscard]] std::unordered_set<std::string> storeIndex(std::vector<std::string>& records);
+    [[nodiscard]] std::unordered_set<std::string> storeIndex(const std::vector<std::string>& records);
     void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
     void append(DownloadEntry entry);
 

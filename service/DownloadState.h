@@ -19,9 +19,11 @@ inline constexpr const char* advertisementFile = "ADVERTISMENT.JPG";
 // What is to be fetched for a day, in the service's order: the advertisement first, then three files per clipping.
 struct DownloadState {
     std::vector<DownloadEntry> gDownloadList;
-    std::int64_t gTotalBytes = 0;       // of all files of the list; the advertisement does not count
+    std::int64_t gTotalBytes = 0;       // of all files of the list
     std::int64_t gBytesDownloaded = 0;  // received in this run over HTTP
     std::int32_t gClippingsCount = 0;   // clippings that the service listed for the day
+    std::int32_t DroppedRecords = 0;    // of the service's list, because they name no file of a clipping
+    bool ServiceWasSilent = false;      // it did not even say that the day is empty: nothing may be removed for that
 };
 
 }  // namespace vell

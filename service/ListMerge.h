@@ -6,21 +6,17 @@
 #include <unordered_set>
 #include <vector>
 
-// From the service's answer to the day's new index: pure text work.
+// From the service's list and the day's old index to the new one: pure text work.
 namespace vell {
 
-// The answer's records: separated by "<br>" in any case, blanks at the ends off, in upper case, accented capitals
-// made plain.
-[[nodiscard]] std::vector<std::string> answerRecords(std::string_view answer);
-
 struct Merged {
-    std::vector<std::string> Records;              // with the marks that the old index carries over
-    std::vector<std::string> GoneFiles;            // articles that stand in the old index and no longer in the list
-    std::unordered_set<std::string> ChangedFiles;  // articles of which the service has another version now
+    std::string Index;                             // the text of the new index
+    std::vector<std::string> GoneFiles;            // clippings of the old index that the list does not name
+    std::unordered_set<std::string> ChangedFiles;  // clippings of which the service has another version now
 };
 
-// Both lists are in the byte order of their file names; of a list out of order nothing is called gone that still
-// stands in it.
-[[nodiscard]] Merged mergeWithIndex(std::vector<std::string> records, std::string_view oldIndex);
+// Whole clippings stay marked. The index says what is here: a clipping of which the service has another version keeps
+// its old change field, without the mark, until the new version has come.
+[[nodiscard]] Merged mergeWithIndex(const std::vector<std::string>& records, std::string_view oldIndex);
 
 }  // namespace vell

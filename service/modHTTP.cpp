@@ -21,9 +21,16 @@ constexpr std::size_t longestHeaders = 1024;
 constexpr std::size_t longestShortName = 8;
 constexpr std::string_view formHeader = "Content-Type: application/x-www-form-urlencoded\r\n";
 // A list is some hundred kilobytes on the busiest day; an answer without end must not eat the machine's memory.
-constexpr std::size_t longestAnswer = 256U << 20;
+constexpr std::size_t longestAnswer = 16U << 20;
+constexpr std::size_t longestBodyLogged = 64U << 10;
 // How far an announced length is believed before the bytes have come.
 constexpr std::int64_t mostReserved = 512LL << 20;
+
+std::string shownBody(const std::string& body) {
+    if (body.size() <= longestBodyLogged) return body;
+    return body.substr(0, longestBodyLogged) + "\r\n(" + std::to_string(body.size() - longestBodyLogged) +
+           " more bytes are left out here)";
+}
 
 }  // namespace
 
@@ -90,11 +97,12 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     std::size_t read = 0;
     bool whole = false;
     while ((whole = internet_.InternetReadFile(*http, buffer.data(), buffer.size(), read)) && read > 0) {
-        if (body.size() + read > longestAnswer) throw RunTimeError(error_number::OutOfMemory, "The answer has no end");
+        if (body.size() + read > longestAnswer)
+            throw RunTimeError(error_number::OutOfMemory, "The answer is longer than 16 MB");
         body.append(buffer.data(), read);
     }
     log_.WriteLog("InternetReadFile function loop");
-    log_.WriteLog("        Body:" + body);
+    log_.WriteLog("        Body:" + shownBody(body));
 
     headers = internet_.RawHeaders(*http, longestHeaders);
     log_.WriteLog("        Headers:" + headers);

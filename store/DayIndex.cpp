@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "store/DayIndex.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "store/IndexFile.h"
@@ -10,21 +11,34 @@ namespace vell {
 
 DayIndex::DayIndex(Files& files) : files_(files) {}
 
-int DayIndex::markDownloaded(const std::string& dayFolder, const std::string& pdfName) {
+int DayIndex::markDownloaded(const std::string& dayFolder, const std::string& pdfName, std::string_view change) {
     load(dayFolder + std::string(indexFileName));
+    const auto isOther = [&](const Line& line) { return indexField(textOf(line), IndexField::Change) != change; };
+    if (std::ranges::any_of(linesOf_[pdfName], isOther)) setChange(pdfName, change);
+    const std::vector<Line>& lines = linesOf_[pdfName];
     std::vector<std::size_t> changed;
-    const auto lines = linesOf_.find(pdfName);
-    if (lines == linesOf_.end()) {
-        store(changed);
-        return 0;
-    }
-    for (const auto& [begin, length] : lines->second)
-        for (const std::size_t place : openMarks(std::string_view(text_).substr(begin, length))) {
-            changed.push_back(begin + place);
-            text_[changed.back()] = arrivedMark;
-        }
+    for (const Line& line : lines)
+        for (const std::size_t place : openMarks(textOf(line)))
+            changed.push_back(line.Begin + place);
+    for (const std::size_t place : changed)
+        text_[place] = arrivedMark;
     store(changed);
-    return static_cast<int>(lines->second.size());
+    return static_cast<int>(lines.size());
+}
+
+void DayIndex::setChange(std::string_view pdfName, std::string_view change) {
+    isOnDisk_ = false;
+    std::string renewed;
+    for (const std::string_view old : indexLines(text_)) {
+        std::string line(old);
+        if (indexKey(old) == pdfName) setIndexField(line, IndexField::Change, change);
+        appendIndexLine(renewed, line);
+    }
+    parse(renewed);
+}
+
+std::string_view DayIndex::textOf(const Line& line) const {
+    return std::string_view(text_).substr(line.Begin, line.Length);
 }
 
 // Replacing a file makes the file system write it to the disk at once, which costs more than fetching the clipping.
@@ -42,8 +56,11 @@ void DayIndex::store(const std::vector<std::size_t>& changed) {
 void DayIndex::load(const std::string& path) {
     if (path == path_ && isOnDisk_ && files_.Stamp(path) == stamp_) return;
     isOnDisk_ = false;
-    const std::string content = files_.ReadFile(path);
     path_ = path;
+    parse(files_.ReadFile(path));
+}
+
+void DayIndex::parse(const std::string& content) {
     text_.clear();
     linesOf_.clear();
     for (const std::string_view line : indexLines(content)) {

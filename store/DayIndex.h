@@ -20,9 +20,10 @@ class DayIndex {
     explicit DayIndex(Files& files);
 
     // Rewrites the index in `dayFolder`: lines without "||" are dropped, and in the lines of the clipping, named by its
-    // PDF file, every "||-||" becomes "||d||". The file ends with an empty line, which the index reader counts on.
-    // Returns how many lines are the clipping's. Raises RunTimeError when the file cannot be read or written.
-    int markDownloaded(const std::string& dayFolder, const std::string& pdfName);
+    // PDF file, every "||-||" becomes "||d||" and the change field that of the version that has come. The file ends
+    // with an empty line, which the index reader counts on. Returns how many lines are the clipping's. Raises
+    // RunTimeError when the file cannot be read or written.
+    int markDownloaded(const std::string& dayFolder, const std::string& pdfName, std::string_view change);
 
   private:
     // Where a line stands in text_.
@@ -32,6 +33,10 @@ class DayIndex {
     };
 
     void load(const std::string& path);
+    void parse(const std::string& content);
+    // In all lines of the clipping.
+    void setChange(std::string_view pdfName, std::string_view change);
+    [[nodiscard]] std::string_view textOf(const Line& line) const;
     void store(const std::vector<std::size_t>& changed);
 
     Files& files_;

@@ -137,7 +137,9 @@ void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, st
         const std::string folder = folderOfDay(day_.cmbDate.value_or(Date{}));
         for (const std::string& name : fileNames) {
             path = folder + name;
-            if (files_.PathExists(path)) files_.DeleteFile(path);
+            if (!files_.PathExists(path)) continue;
+            files_.DeleteFile(path);
+            log_.WriteLog("        Deleted " + path);
         }
     } catch (...) {
         log_.LogError(currentError(), procedure);

@@ -27,7 +27,9 @@ void ClippingBooks::enter(const std::string& name, bool ok) {
 
 void ClippingBooks::markDownloaded(const std::string& pdfName) {
     try {
-        p_.State.gClippingsDownloaded += index_.markDownloaded(p_.State.Run.Day.gDayFolder, pdfName);
+        const DownloadEntry* entry = p_.State.currentEntry();
+        const std::string change = entry != nullptr ? entry->Change : std::string();
+        p_.State.gClippingsDownloaded += index_.markDownloaded(p_.State.Run.Day.gDayFolder, pdfName, change);
     } catch (...) {
         // An index that cannot be written must not keep the next clippings from coming.
         p_.Log.LogError(currentError(), "StartDownload()");

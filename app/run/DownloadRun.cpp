@@ -77,7 +77,7 @@ bool DownloadRun::prepare() {
 
 void DownloadRun::reportNothingToDownload() {
     say("No files to download found.");
-    p_.Store.DeleteDayFile(std::string(indexFileName));
+    if (!p_.State.Downloads.ServiceWasSilent) p_.Store.DeleteDayFile(std::string(indexFileName));
 }
 
 void DownloadRun::fetchAll() {
@@ -101,6 +101,8 @@ void DownloadRun::finish() {
         (void)p_.Ftp.StopFTP(true);
         return;
     }
+    if (const auto dropped = state.Downloads.DroppedRecords; dropped > 0)
+        say("Clippings left out because their names cannot be stored: " + std::to_string(dropped));
     if (!lastOk_) {
         p_.Log.WriteLog("Error while downloading files.");
         p_.Progress.StatusBar("ERROR while downloading files.");

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "tests/support/ProgramRig.h"
@@ -45,12 +46,12 @@ Getting files to download...
 (alert)
 Number of files to download :4
 (1/4)  Downloading ADVERTISMENT.JPG (Starting from 0 bytes)
-HTTP-->(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/146kb
-HTTP-->(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/146kb
+HTTP-->(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/164kb
+HTTP-->(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/164kb
 		Ended with status True
 (2/4)  Downloading N120040307.PDF (Starting from 0 bytes)
-HTTP-->(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/146kb
-HTTP-->(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/146kb
+HTTP-->(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/164kb
+HTTP-->(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/164kb
 		Ended with status True
 (3/4)  Downloading N120040307.TXT (Starting from 0 bytes)
         The service answered with status 404
@@ -65,7 +66,7 @@ HTTP-->(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/146kb
 		Ended with status False
 		Ended with status False
 (4/4)  Downloading N120040307.MT (Starting from 0 bytes)
-HTTP-->(1/1) Downloading N120040307.MT (0/0kb), Total kb downloaded: 1/146kb
+HTTP-->(1/1) Downloading N120040307.MT (0/0kb), Total kb downloaded: 1/164kb
 HTTP-->Finished: 1 of 1 clippings downloaded.
 		Ended with status True
 Stopping FTP
@@ -81,14 +82,14 @@ FORCEd download ENDED
     EXPECT_EQ(told, expected);
     EXPECT_EQ(view.Statuses, R"(Getting list of files to download...
 Getting list of files to download: Done
-(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/146kb
-(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/146kb
-(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/146kb
-(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/146kb
+(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/164kb
+(0/1) Downloading ADVERTISMENT.JPG (0/17kb), Total kb downloaded: 0/164kb
+(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/164kb
+(0/1) Downloading N120040307.PDF (1/146kb), Total kb downloaded: 1/164kb
 (1/1) Retrying 1/3 N120040307.TXT (0)
 (1/1) Retrying 2/3 N120040307.TXT (0)
 (1/1) Retrying 3/3 N120040307.TXT (0)
-(1/1) Downloading N120040307.MT (0/0kb), Total kb downloaded: 1/146kb
+(1/1) Downloading N120040307.MT (0/0kb), Total kb downloaded: 1/164kb
 Finished: 1 of 1 clippings downloaded.
 )");
     EXPECT_EQ(inDay("ALLFILES.DIR"), "N120040307.PDF||PAPER||TITLE 1||CAT||TYPE||1||-||150000||300||20\r\n\r\n");
@@ -117,6 +118,20 @@ TEST_F(DownloadRunTest, marksWholeClippingsAndPrintsEachNewPdfOnce) {
     program.downloads().mnuForceDownload_Click();
     EXPECT_TRUE(program.downloads().outcome().ListFailed);
     EXPECT_EQ(marked(), 3U);
+}
+
+TEST_F(DownloadRunTest, theIndexNamesTheVersionOfAClippingThatIsHere) {
+    service.serve(1);
+    ASSERT_TRUE(runToday());
+    std::string& list = service.Answers[ServicePeer::listScript].Bytes;
+    list = Replace(list, "||1||", "||2||") + "c:x||||||||||||||||||<br>";
+    const auto text = std::exchange(service.Answers[ServicePeer::pathOf("N120040307.TXT")], {""});
+    program.downloads().mnuForceDownload_Click();
+    EXPECT_THAT(inDay("ALLFILES.DIR"), testing::HasSubstr("||TYPE||1||-||"));
+    service.Answers[ServicePeer::pathOf("N120040307.TXT")] = text;
+    program.downloads().mnuForceDownload_Click();
+    EXPECT_THAT(inDay("ALLFILES.DIR"), testing::HasSubstr("||TYPE||2||d||"));
+    EXPECT_THAT(view.Statuses, testing::HasSubstr("\nClippings left out because their names cannot be stored: 1\n"));
 }
 
 TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartDoNotDisturbTheRun) {
@@ -179,13 +194,14 @@ TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
     const std::string noFolder = "Error! Download folder not created. Check 'Download Path' in Setup.",
                       noFolderLog = "ERROR Get/Create download dir to put downloaded files.",
                       noList = "Error while getting list of files to download", nothing = "No files to download found.";
-    const std::string clips = folder.text() + "/clips";
+    const std::string clips = folder.text() + "/clips",
+                      emptied = nothing + "\n        Deleted " + clips + "\\07032004\\ALLFILES.DIR";
     const std::tuple<std::string, HttpPeer::Answer, std::string, std::string, std::size_t> table[] = {
         {"", {}, noFolder, noFolderLog, 0},
         {"/dev/null/x", {}, noFolder, noFolderLog, 0},
         {clips, HttpPeer::status("500 No"), noList, noList, 1},
         {clips, HttpPeer::ok("ERROR 1001"), noList, noList, 1},
-        {clips, HttpPeer::ok("error 1002"), nothing, nothing, 2},
+        {clips, HttpPeer::ok("error 1002"), nothing, emptied, 2},
         {clips, HttpPeer::ok(""), nothing, nothing, 2}};
     for (const auto& [localDir, answer, status, line, requests] : table) {
         configure("", localDir);
@@ -197,7 +213,7 @@ TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
         EXPECT_TRUE(logHas("\n" + line + "\nFORCEd download ENDED\n")) << logged();
         std::filesystem::remove(folder.path() / "vell.log");
         EXPECT_EQ(service.requests().size() - before, requests) << status;
-        EXPECT_EQ(folder.has("clips/07032004/ALLFILES.DIR"), status != nothing);
+        EXPECT_EQ(folder.has("clips/07032004/ALLFILES.DIR"), line != emptied);
     }
     EXPECT_FALSE(folder.has("ADVERTISMENT.JPG") || view.Running);
 }

@@ -14,7 +14,9 @@ class IndexTest : public testing::Test, protected StoreRig {
     // Lines end at "~".
     void file(const std::string& text) { put("ALLFILES.DIR", Replace(text, "~", "\r\n")); }
     [[nodiscard]] std::string file() const { return Replace(get("ALLFILES.DIR"), "\r\n", "~"); }
-    int mark(const std::string& pdf) { return index.markDownloaded(day.gDayFolder, pdf); }
+    int mark(const std::string& pdf, std::string_view change = "") {
+        return index.markDownloaded(day.gDayFolder, pdf, change);
+    }
 
     DayIndex index{files};
 };
@@ -71,6 +73,10 @@ TEST_F(IndexTest, marksAClippingAndEndsTheFileWithAnEmptyLine) {
     mark("A");
     mark("B");
     EXPECT_EQ(file(), "A||d||~B||d||~~");
+    file("A||N||T||C||Y||1||-||9~B||-||~");  // another version of A has come
+    mark("A", "2");
+    mark("B");
+    EXPECT_EQ(file(), "A||N||T||C||Y||2||d||9~B||d||~~");
     file("C||-||1~D||-||~");  // somebody else has changed it
     EXPECT_EQ(mark("C"), 1);
     EXPECT_EQ(file(), "C||d||1~D||-||~~");
