@@ -29,6 +29,8 @@ struct RunContext {
     // A person can be asked things; the schedule's runs are alone, and nobody would answer.
     Starter BegunBy = Starter::Person;
     RunOutcome Outcome;  // over all days
+    // How files are fetched, from the first of a day on: who tries the protocols in Setup does not change it.
+    bool OverHttp = true;
 };
 
 }  // namespace vell

@@ -127,7 +127,7 @@ std::vector<std::string> frmMain::dialUpNames() {
 }
 
 frmSetup frmMain::setupDialog() {
-    return {session_.Setup, loader_, ini_, log_};
+    return {session_.Setup, loader_, ini_, log_, platform_.Disk, platform_.Program.DocumentsFolder()};
 }
 
 frmSchedule frmMain::scheduleDialog() {

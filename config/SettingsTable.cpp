@@ -39,7 +39,9 @@ constexpr std::array<SettingRow, 21> table{{
      &Settings::Port,
      "the service's FTP port, 21 for most",
      4,
-     {2, "Error! Port not specified", 0, "Error! Port set too high", most16}},
+     {2, "Error! Port not specified", 0, "Error! Port set too high", most16},
+     "",
+     "21"},
     {"Host", "Uid", Kind::Text, &Settings::Uid, "your user name", whole, {3, "Error! Username not specified"}},
     {"Host",
      "RetryOnFailure",
@@ -47,26 +49,38 @@ constexpr std::array<SettingRow, 21> table{{
      &Settings::RetryOnFailure,
      "retries of a file, 1 to 9",
      1,
-     {5, "Error! Number of retries not specified", 1, "Error! Number of retries set too high", most16}},
+     {5, "Error! Number of retries not specified", 1, "Error! Number of retries set too high", most16},
+     "",
+     "3"},
     {"Host",
      "RetryDelay",
      Kind::Number,
      &Settings::RetryDelay,
      "seconds between retries, 1 to 49",
      2,
-     {6, "Error! Retry delay not specified", 1, "Error! Retry delay value set too high", mostDelay}},
+     {6, "Error! Retry delay not specified", 1, "Error! Retry delay value set too high", mostDelay},
+     "",
+     "5"},
     {"Host",
      "TimeOut",
      Kind::Number,
      &Settings::TimeOut,
      "seconds an FTP server may be silent, 1 to 99",
      2,
-     {8, "Error! Timeout not specified", 1, "Error! Timeout set too high", most16}},
+     {8, "Error! Timeout not specified", 1, "Error! Timeout set too high", most16},
+     "",
+     "20"},
     {"Host", "Passive", Kind::Ignored, &Settings::Passive, "kept, but without effect: FTP works in active mode"},
     {"Host", "proxyUsername", Kind::Text, &Settings::proxyUsername, "user name for the server's challenge"},
     {"Host", "proxyPwd", Kind::Password, &Settings::proxyPwd, "password for the server's challenge"},
     {"Host", "Pwd", Kind::Password, &Settings::Pwd, "your password", whole, {4, "Error! Password not specified"}},
-    {"Download", "LocalDir", Kind::Folder, &Settings::LocalDir, "the folder that holds a folder per day"},
+    {"Download",
+     "LocalDir",
+     Kind::Folder,
+     &Settings::LocalDir,
+     "the folder that holds a folder per day",
+     whole,
+     {10, "Error! Download path not specified"}},
     {"Download", "Dialup", Kind::Text, &Settings::DialUp, "the dial-up connection to use, if any"},
     {"Download", "PrintOnDownload", Kind::StrictFlag, &Settings::PrintOnDownload, "1: print clippings as they come"},
     {"Download", "CloseConnection", Kind::StrictFlag, &Settings::CloseConnection, "1: hang up after a download"},
@@ -86,14 +100,18 @@ constexpr std::array<SettingRow, 21> table{{
      &Settings::AutoPlayDelay,
      "seconds a clipping shows, 1 to 49",
      2,
-     {7, "Error! Auto play delay not specified", 1, "Error! Auto play delay set too high", mostDelay}},
+     {7, "Error! Auto play delay not specified", 1, "Error! Auto play delay set too high", mostDelay},
+     "",
+     "5"},
     {"General",
      "PrintAllDelay",
      Kind::Number,
      &Settings::PrintAllDelay,
      "seconds between prints, 1 to 49",
      2,
-     {9, "Error! Print All delay not specified", 1, "Error! Print All delay set too high", mostDelay}},
+     {9, "Error! Print All delay not specified", 1, "Error! Print All delay set too high", mostDelay},
+     "",
+     "5"},
     {"General", "Debug", Kind::WholeNumber, &Settings::Debug},
 }};
 
@@ -137,6 +155,14 @@ double storedNumber(const SettingRow& row, const modIni& ini) {
 std::string unscrambled(const std::string& stored, ErrorLog& log) {
     std::string key;
     return Decrypt(stored, key, log);
+}
+
+bool isSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+bool isFullPath(std::string_view path) {
+    return isSeparator(path.front()) || (path.size() > 2 && path[1] == ':' && isSeparator(path[2]));
 }
 
 bool isControl(char c) {
@@ -196,11 +222,17 @@ std::string storedText(const SettingRow& row, std::string_view entry, ErrorLog& 
 }
 
 std::string plainEntry(const SettingRow& row, std::string_view entry) {
-    return isNumber(row) ? NumberText(std::clamp(Val(entry), -mostTyped, mostTyped)) : std::string(entry);
+    if (isNumber(row)) return NumberText(std::clamp(Val(entry), -mostTyped, mostTyped));
+    if (row.Kind == Kind::Folder)
+        while (entry.size() > 1 && isSeparator(entry.back()))
+            entry.remove_suffix(1);
+    return std::string(entry);
 }
 
 std::string problemWith(const SettingRow& row, std::string_view entry, ErrorLog& log) {
     if (const auto problem = failedCheck(row, entry); !problem.empty()) return std::string(problem);
+    if (row.Kind == Kind::Folder && !isFullPath(entry))
+        return "Error! Download path must be a full path, such as /home/ann/clippings";
     if (std::ranges::any_of(entry, isControl))
         return "Error! " + std::string(row.Key) + " must be one line without control characters";
     if (storedText(row, entry, log).size() > longestStored) return "Error! " + std::string(row.Key) + " is too long";

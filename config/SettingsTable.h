@@ -19,7 +19,7 @@ class modIni;
 // How a setting is stored and read, and what kind of box it has in the setup dialog.
 enum class SettingKind {
     Text,
-    Folder,       // a text
+    Folder,       // a text that names a place whatever folder the program is started in
     Number,       // the number that the first few characters begin with
     WholeNumber,  // the same of all characters, which must be a number; anything else is told in the log and counts 0
     Flag,         // true when the number that the text begins with is not 0
@@ -51,7 +51,8 @@ struct SettingRow {
     std::string_view Meaning = "";             // in a few words, for people; empty for a setting that has no box
     std::size_t Cut = std::string_view::npos;  // so many characters of a stored number count
     SettingCheck Check{};
-    std::string_view Default = "";  // stands for a missing or empty value
+    std::string_view Default = "";   // stands for a missing or empty value
+    std::string_view Proposed = "";  // what the setup dialog shows instead of a missing or empty value
 };
 
 // In the order in which the settings are loaded and saved.
@@ -71,7 +72,8 @@ void loadSetting(const SettingRow& row, const modIni& ini, Settings& settings, E
 [[nodiscard]] std::string entryOf(const SettingRow& row, const Settings& settings);
 // An entry as the file holds it.
 [[nodiscard]] std::string storedText(const SettingRow& row, std::string_view entry, ErrorLog& log);
-// An entry in the plain form of its kind: of a number the number that it begins with.
+// An entry in the plain form of its kind: of a number the number that it begins with, of a folder the path without a
+// separator at its end.
 [[nodiscard]] std::string plainEntry(const SettingRow& row, std::string_view entry);
 // The complaint about an entry; empty when it can be saved.
 [[nodiscard]] std::string problemWith(const SettingRow& row, std::string_view entry, ErrorLog& log);

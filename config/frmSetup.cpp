@@ -5,14 +5,19 @@
 #include <array>
 #include <climits>
 
+#include "platform/Files.h"
+
 namespace vell {
 
-namespace {
-constexpr std::string_view notWritten = "Error! The settings file could not be written";
-}
-
-frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log)
-    : settings_(settings), loader_(loader), ini_(ini), log_(log), entries_(settingRows().size()) {}
+frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log, Files& files,
+                   std::string_view documents)
+    : settings_(settings),
+      loader_(loader),
+      ini_(ini),
+      log_(log),
+      files_(files),
+      proposedFolder_(documents.empty() ? "" : plainEntry(rowOf(&Settings::LocalDir), documents) + "\\Clippings"),
+      entries_(settingRows().size()) {}
 
 std::span<const std::string_view> frmSetup::hosts() {
     static constexpr std::array<std::string_view, 2> hosts{"clippings.example", "192.0.2.80"};
@@ -36,8 +41,24 @@ frmSetup::Entry frmSetup::loaded(const SettingRow& row) const {
             return true;
         });
     }
-    const std::string text = entryOf(row, settings);
-    return {text, text, stored(row), isUnreadable};
+    const std::string storedNow = stored(row), proposal = storedNow.empty() ? proposed(row) : "";
+    const std::string text = proposal.empty() ? entryOf(row, settings) : proposal;
+    return {text, storedNow, isUnreadable, false};
+}
+
+std::string frmSetup::proposed(const SettingRow& row) const {
+    return row.Kind == SettingKind::Folder ? proposedFolder_ : std::string(row.Proposed);
+}
+
+bool frmSetup::isProposed(const SettingRow& row) const {
+    return !proposed(row).empty() && entries_[index(row)].Stored.empty();
+}
+
+std::vector<const SettingRow*> frmSetup::proposals() const {
+    std::vector<const SettingRow*> found;
+    for (const SettingRow& row : setupRows())
+        if (isProposed(row) && row.Kind != SettingKind::Folder) found.push_back(&row);
+    return found;
 }
 
 std::string frmSetup::stored(const SettingRow& row) const {
@@ -52,7 +73,9 @@ bool frmSetup::isEnabled(const SettingField& field) const {
 }
 
 void frmSetup::setEntry(const SettingField& field, std::string_view text) {
-    entries_[index(rowOf(field))].Text = text;
+    Entry& entry = entries_[index(rowOf(field))];
+    entry.Text = text;
+    entry.IsTouched = true;
     if (field == SettingField(&Settings::Protocol)) settings_.UseHTTP = text != "FTP";
 }
 
@@ -62,7 +85,8 @@ void frmSetup::cmdSelDirectory_Click(std::string_view chosen) {
 }
 
 void frmSetup::normalise(const SettingField& field) {
-    setEntry(field, plainEntry(rowOf(field), entry(field)));
+    std::string& text = entries_[index(rowOf(field))].Text;
+    text = plainEntry(rowOf(field), text);
 }
 
 std::optional<SetupProblem> frmSetup::problemOf(const SettingField& field) const {
@@ -78,13 +102,13 @@ std::optional<SetupProblem> frmSetup::firstProblem() const {
     const auto turn = [](const SettingRow* row) { return row->Check.Turn == 0 ? INT_MAX : row->Check.Turn; };
     std::ranges::stable_sort(inTurn, {}, turn);
     for (const SettingRow* row : inTurn)
-        if (auto problem = problemOf(row->Field)) return problem;
+        if (auto problem = isEnabled(row->Field) ? problemOf(row->Field) : std::nullopt) return problem;
     return std::nullopt;
 }
 
 bool frmSetup::isToSave(const SettingRow& row) const {
     const Entry& entry = entries_[index(row)];
-    return entry.Text != entry.AtLoad || (!entry.IsUnreadable && stored(row) == entry.Stored);
+    return entry.IsTouched || (!entry.IsUnreadable && stored(row) == entry.Stored);
 }
 
 IniEdit frmSetup::editOf(const SettingRow& row) const {
@@ -93,23 +117,41 @@ IniEdit frmSetup::editOf(const SettingRow& row) const {
 
 std::optional<SetupProblem> frmSetup::cmdOk_Click() {
     if (auto problem = firstProblem()) return problem;
-    const bool saved = ini_.VellIniWriteStrings([&] {
-        std::vector<IniEdit> edits;
-        for (const SettingRow& row : setupRows())
-            if (isToSave(row)) edits.push_back(editOf(row));
-        return edits;
-    });
-    if (!saved) return SetupProblem{&Settings::Host, std::string(notWritten)};
-    loader_.GetSetup();
-    return std::nullopt;
+    std::vector<const SettingRow*> all;
+    for (const SettingRow& row : setupRows())
+        all.push_back(&row);
+    return write(all);
 }
 
 std::optional<SetupProblem> frmSetup::saveOnly(const SettingField& field) {
     if (auto problem = problemOf(field)) return problem;
-    if (!ini_.VellIniWriteStrings([&] { return std::vector{editOf(rowOf(field))}; }))
-        return SetupProblem{field, std::string(notWritten)};
+    std::vector<const SettingRow*> rows = proposals();
+    std::erase(rows, &rowOf(field));
+    rows.push_back(&rowOf(field));
+    return write(rows);
+}
+
+std::optional<SetupProblem> frmSetup::write(const std::vector<const SettingRow*>& rows) {
+    if (std::ranges::find(rows, &rowOf(&Settings::LocalDir)) != rows.end() && !makeProposedFolder())
+        return SetupProblem{&Settings::LocalDir, "Error! Download path could not be made"};
+    const bool saved = ini_.VellIniWriteStrings([&] {
+        std::vector<IniEdit> edits;
+        for (const SettingRow* row : rows)
+            if (isToSave(*row)) edits.push_back(editOf(*row));
+        return edits;
+    });
+    if (!saved) return SetupProblem{rows.back()->Field, "Error! The settings file could not be written"};
     loader_.GetSetup();
     return std::nullopt;
+}
+
+// Nobody can be asked to make a folder that the program itself has thought of.
+bool frmSetup::makeProposedFolder() {
+    return trap(log_, "cmdOk_Click()", false, [&] {
+        if (entry(&Settings::LocalDir) == proposedFolder_ && !files_.PathExists(proposedFolder_))
+            files_.MakeFolder(proposedFolder_);
+        return true;
+    });
 }
 
 void frmSetup::Form_Unload() {

@@ -15,6 +15,8 @@
 
 namespace vell {
 
+class Files;
+
 struct SetupProblem {
     SettingField Field;
     std::string Message;
@@ -24,17 +26,20 @@ struct SetupProblem {
 // clear), checks them in a fixed order, and saves all of them or none.
 class frmSetup {
   public:
-    frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log);
+    // `documents`: the folder that holds the user's documents, in which a download folder is proposed; empty when there
+    // is none.
+    frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log, Files& files,
+             std::string_view documents);
 
     // The hosts that are offered: the service's default name, and the same server's address.
     [[nodiscard]] static std::span<const std::string_view> hosts();
 
-    // Reads the settings anew into the entries.
+    // Reads the settings anew into the entries. Where the file has none, working ones are proposed.
     void Form_Load();
     // What people are told of a settings file that is damaged; empty for a good one. The entries hold what could be
     // read.
     [[nodiscard]] std::string_view complaint() const { return loader_.complaint(); }
-    // The entries that FTP alone needs can be changed only when FTP is chosen. They are saved all the same.
+    // The entries that FTP alone needs can be changed only when FTP is chosen. They are saved all the same, unchecked.
     [[nodiscard]] bool isEnabled(const SettingField& field) const;
 
     [[nodiscard]] const std::string& entry(const SettingField& field) const {
@@ -56,7 +61,11 @@ class frmSetup {
     // file that cannot be written is a problem, too. An entry that the user has left as it was gives way to what
     // another program has stored meanwhile, and a password that could not be read is not replaced by nothing.
     [[nodiscard]] std::optional<SetupProblem> cmdOk_Click();
-    // Saves one entry alone, with its own checks.
+    // True for a setting that the file does not have and a proposal stands for.
+    [[nodiscard]] bool isProposed(const SettingRow& row) const;
+    // All of them but the download folder, which is made when it is saved: nobody shall get one unasked.
+    [[nodiscard]] std::vector<const SettingRow*> proposals() const;
+    // Saves one entry, with its own checks, and with it the proposals that are not stored yet.
     [[nodiscard]] std::optional<SetupProblem> saveOnly(const SettingField& field);
     // Takes back what the dialog has changed in the settings.
     void Form_Unload();
@@ -67,10 +76,13 @@ class frmSetup {
     }
     struct Entry {
         std::string Text;
-        std::string AtLoad;         // the text then
-        std::string Stored;         // what stood in the file then
-        bool IsUnreadable = false;  // for which the entry is empty
+        std::string Stored;         // what stood in the file when it was read
+        bool IsUnreadable = false;  // which leaves the text empty
+        bool IsTouched = false;
     };
+    [[nodiscard]] std::string proposed(const SettingRow& row) const;
+    [[nodiscard]] bool makeProposedFolder();
+    [[nodiscard]] std::optional<SetupProblem> write(const std::vector<const SettingRow*>& rows);
     [[nodiscard]] std::string stored(const SettingRow& row) const;
     [[nodiscard]] Entry loaded(const SettingRow& row) const;
     [[nodiscard]] bool isToSave(const SettingRow& row) const;
@@ -80,6 +92,8 @@ class frmSetup {
     SettingsLoader& loader_;
     modIni& ini_;
     ErrorLog& log_;
+    Files& files_;
+    std::string proposedFolder_;
     std::vector<Entry> entries_;  // a place per row of the table
 };
 

@@ -18,14 +18,18 @@ std::string keyOf(const SettingRow& row) {
     return std::string(row.Key);
 }
 
+// The keys of all rows but one.
+std::string keysOf(const std::vector<const SettingRow*>& rows, const SettingRow& but) {
+    std::string keys;
+    for (const SettingRow* row : rows)
+        if (row != &but) keys.append(keys.empty() ? "" : ", ").append(row->Key);
+    return keys;
+}
+
 const SettingRow* rowWithKey(std::string_view key) {
     for (const SettingRow& row : setupRows())
         if (equalNoCase(row.Key, key)) return &row;
     return nullptr;
-}
-
-bool isFullPath(std::string_view path) {
-    return path.starts_with('/') || path.starts_with('\\') || (path.size() > 2 && path[1] == ':');
 }
 
 // What is wrong with a value before the dialog's own checks see it; empty when nothing is.
@@ -33,8 +37,6 @@ std::string mistakeIn(const SettingRow& row, std::string_view value) {
     if (isFlag(row) && value != "0" && value != "1") return keyOf(row) + " takes 0 or 1.";
     if (isNumber(row) && !isNumeric(value)) return keyOf(row) + " takes a number.";
     if (row.Kind == SettingKind::Protocol && value != "HTTP" && value != "FTP") return "Protocol takes HTTP or FTP.";
-    if (row.Kind == SettingKind::Folder && !isFullPath(value))
-        return "LocalDir takes a full path, such as /home/ann/clippings.";
     return {};
 }
 
@@ -64,11 +66,12 @@ int SetupCommand::change(const SettingRow& row, const std::string& value) {
     dialog_.setEntry(row.Field, *wanted);
     dialog_.normalise(row.Field);
     if (const auto problem = dialog_.problemOf(row.Field)) return wrong(utf8FromCodePage(problem->Message));
+    const auto proposed = dialog_.proposals();
     if (const auto problem = dialog_.saveOnly(row.Field)) {
         tell(utf8FromCodePage(problem->Message));
         return exit_code::Failed;
     }
-    const std::string saved = dialog_.entry(row.Field);
+    const std::string saved = dialog_.entry(row.Field), alsoSaved = keysOf(proposed, row);
     dialog_.Form_Load();
     if (const std::string complaint(dialog_.complaint()); !complaint.empty()) {
         screen_.print(keyOf(row) + " was saved.");
@@ -76,6 +79,7 @@ int SetupCommand::change(const SettingRow& row, const std::string& value) {
         return exit_code::Good;
     }
     screen_.print(keyOf(row) + " = " + shown(row));
+    if (!alsoSaved.empty()) tell("Stored as proposed, too: " + alsoSaved + ".");
     if (dialog_.entry(row.Field) != saved) tell("Of the value given, only this much takes effect: " + shown(row));
     return exit_code::Good;
 }
@@ -92,9 +96,6 @@ std::optional<std::string> SetupCommand::valueOf(const SettingRow& row, const st
     auto value = codePageFromUtf8(typed);
     if (!value) return std::nullopt;
     if (row.Kind == SettingKind::Protocol) *value = Upper(*value);
-    if (row.Kind == SettingKind::Folder)
-        while (value->size() > 1 && (value->back() == '/' || value->back() == '\\'))
-            value->pop_back();
     return value;
 }
 
@@ -109,7 +110,7 @@ void SetupCommand::showAll() {
         constexpr std::size_t meaningColumn = 40;
         const std::size_t width = columns(setting);
         screen_.print(setting + std::string(width < meaningColumn ? meaningColumn - width : 2, ' ') + "# " +
-                      std::string(row.Meaning));
+                      (dialog_.isProposed(row) ? "proposed: " : "") + std::string(row.Meaning));
     }
     if (const std::string complaint(dialog_.complaint()); !complaint.empty()) tell(complaint);
 }

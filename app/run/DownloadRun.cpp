@@ -36,7 +36,8 @@ void DownloadRun::StartDownload() {
 
 void DownloadRun::run() {
     if (!prepare()) return;
-    if (!p_.State.Setup.UseHTTP && !p_.Ftp.open()) {
+    p_.State.Run.OverHttp = p_.State.Setup.UseHTTP;
+    if (!p_.State.Run.OverHttp && !p_.Ftp.open()) {
         p_.State.Run.Outcome.FtpFailed = !p_.State.gStopRequested;
         return;
     }

@@ -73,7 +73,7 @@ bool FileTurns::retry(const Turn& turn) {
 }
 
 bool FileTurns::adownloadFile(const std::string& name, const std::string& localPath) {
-    if (!p_.State.Setup.UseHTTP) return p_.Ftp.download(name, localPath);
+    if (!p_.State.Run.OverHttp) return p_.Ftp.download(name, localPath);
     std::int32_t bytes = 0;
     return p_.Http.HttpDownloadFile(name, localPath, bytes);
 }

@@ -71,10 +71,11 @@ SetupDialog::SetupDialog(wxWindow* parent, frmSetup rules, MessageBoxes& boxes, 
     showEnabled();
     Bind(
         wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { CallAfter([this] { ok(); }); }, wxID_OK);
-}
-
-SetupDialog::~SetupDialog() {
-    rules_.Form_Unload();
+    // The window itself may live on, until the end of a download that goes on behind it.
+    Bind(wxEVT_SHOW, [this](wxShowEvent& event) {
+        event.Skip();
+        if (!event.IsShown()) rules_.Form_Unload();
+    });
 }
 
 wxWindow* SetupDialog::generalPage(wxWindow* parent) {
@@ -202,11 +203,11 @@ void SetupDialog::left(const SettingField& field) {
 }
 
 void SetupDialog::normalise(const SettingField& field) {
+    const std::string typed = rules_.entry(field);
     rules_.normalise(field);
+    if (rules_.entry(field) == typed) return;
     wxTextEntry& text = *entryOf(field).Text;
-    const wxString plain = shownLine(rules_.entry(field));
-    if (!isNumber(rowOf(field)) || text.GetValue() == plain) return;
-    text.ChangeValue(plain);
+    text.ChangeValue(shownLine(rules_.entry(field)));
     text.SetInsertionPointEnd();
 }
 

@@ -26,7 +26,6 @@ class MessageBoxes;
 class SetupDialog : public wxDialog {
   public:
     SetupDialog(wxWindow* parent, frmSetup rules, MessageBoxes& boxes, const std::vector<std::string>& dialUps);
-    ~SetupDialog() override;
 
   private:
     struct Entry {

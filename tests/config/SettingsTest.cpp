@@ -48,7 +48,7 @@ class SettingsTest : public testing::Test, protected SettingsRig {
         return Encrypt(clear, key, log);
     }
 
-    frmSetup dialog{setup, loader, ini, log};
+    frmSetup dialog{setup, loader, ini, log, files, folder.text()};
 };
 
 TEST_F(SettingsTest, eachKeyFillsItsOwnFieldAndLeavesTheOthersAtTheirDefaults) {
@@ -56,7 +56,8 @@ TEST_F(SettingsTest, eachKeyFillsItsOwnFieldAndLeavesTheOthersAtTheirDefaults) {
         "[Host]Protocol=FTP>Protocol=FTP;UseHTTP=0;|[host]PROTOCOL = ftp>Protocol=ftp;|[Host]Host=a.b>Host=a.b;|"
         "[Host]Host=#NF#>|[Host]Host=a%b>Host=ab;|[Host]Host>|\xEF\xBB\xBF[Host]Host=bom>Host=bom;|[Host]Host=" +
         std::string(300, 'h') + ">Host=" + std::string(249, 'h') +
-        ";|[Host]Port=2121>Port=2121;|[Host]Port=65000>Port=6500;|[Host]Port=12abc>Port=12;|[Host]Port=abc>|"
+        ";|[Host]Port=2121>Port=2121;|[Host]Port=65000>Port=6500;|[Host]Port=12abc>Port=12;|[Host]Port=1e99>Port=32767;"
+        "|[Host]Port=-1>Port=-1;|[General]Debug=99999999999>|[Host]Port=abc>|"
         "[Host]Uid=\xE1>Uid=\xE1;Agent=VELL_2.0.15_user:\xE1;|[Host]RetryOnFailure=12>Retry=1;|"
         "[Host]RetryDelay=7.5>Delay=7;|[Host]RetryDelay=.5>Delay=0.5;|[Host]TimeOut=300>TimeOut=30;|"
         "[Host]TimeOut=.5>|[Host]Passive=1>|[Host]proxyUsername=ann>pUser=ann;|[Host]Pwd=wo\xC0>Pwd=AB;|"
@@ -122,17 +123,25 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
         std::string message, right;
     } steps[] = {
         {&Settings::Host, {"", "   "}, "Host not specified", "h"},
-        {&Settings::Port, {"", " "}, "Port not specified", "0"},
+        {&Settings::Port, {"", " ", "-1"}, "Port not specified", "99999999999"},
+        {&Settings::Port, {"1e999", "40000"}, "Port set too high", "0"},
         {&Settings::Uid, {" "}, "Username not specified", "u"},
         {&Settings::Pwd, {"", " "}, "Password not specified", "p"},
-        {&Settings::RetryOnFailure, {"", "0", "-1", "abc", "0.5"}, "Number of retries not specified", "12"},
+        {&Settings::RetryOnFailure, {"", "0", "-1", "abc", "0.5"}, "Number of retries not specified", "1e999"},
+        {&Settings::RetryOnFailure, {"32768"}, "Number of retries set too high", "12"},
         {&Settings::RetryDelay, {" ", "0", "abc"}, "Retry delay not specified", "50"},
         {&Settings::RetryDelay, {"50", "49.5", "999999"}, "Retry delay value set too high", "49"},
         {&Settings::AutoPlayDelay, {"", "0"}, "Auto play delay not specified", "50"},
         {&Settings::AutoPlayDelay, {"50"}, "Auto play delay set too high", "1"},
-        {&Settings::TimeOut, {"", "-5"}, "Timeout not specified", "500"},
+        {&Settings::TimeOut, {"", "-5"}, "Timeout not specified", "1e999"},
+        {&Settings::TimeOut, {"99999999999"}, "Timeout set too high", "500"},
         {&Settings::PrintAllDelay, {"", "0"}, "Print All delay not specified", "50"},
         {&Settings::PrintAllDelay, {"50"}, "Print All delay set too high", "49"},
+        {&Settings::LocalDir, {"", "  "}, "Download path not specified", "clips"},
+        {&Settings::LocalDir,
+         {"clips", "C:clips", "~/clips"},
+         "Download path must be a full path, such as /home/ann/clippings",
+         "/c"},
         {&Settings::Uid,
          {"a\r\n[x]", "a\tb"},
          "Uid must be one line without control characters",
@@ -141,8 +150,9 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
          {std::string(167, 'p')},
          "proxyPwd is too long",
          std::string(166, 'p')},  // give these back
-        {&Settings::LocalDir, {std::string(250, 'd')}, "LocalDir is too long", std::string(249, 'd')},
+        {&Settings::LocalDir, {"/" + std::string(249, 'd')}, "LocalDir is too long", "/" + std::string(248, 'd')},
     };
+    dialog.setEntry(&Settings::Protocol, "FTP");
     for (const auto& step : steps)
         dialog.setEntry(step.field, step.wrong.back());
     for (const auto& step : steps) {
@@ -158,6 +168,36 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
     EXPECT_EQ(setup.TimeOut, 50);  // the loader's cut
 }
 
+TEST_F(SettingsTest, proposesWorkingSettingsWhereThereAreNoneAndAsksForTheRestAlone) {
+    dialog.Form_Load();
+    std::string shown;
+    for (const SettingRow& row : setupRows())
+        shown += dialog.entry(row.Field) + ";";
+    EXPECT_EQ(shown, "HTTP;;21;;3;5;20;0;;;;" + folder.text() + "\\Clippings;;0;0;1;0;0;5;5;");
+    dialog.setEntry(&Settings::Host, "h");
+    dialog.setEntry(&Settings::Uid, "u");
+    dialog.setEntry(&Settings::Pwd, "p");
+    dialog.setEntry(&Settings::TimeOut, "0");  // its box is disabled
+    EXPECT_EQ(dialog.cmdOk_Click().value_or(SetupProblem{}).Message, "");
+    EXPECT_EQ(setup.LocalDir, folder.text() + "\\Clippings");
+    EXPECT_TRUE(folder.has("Clippings"));
+    EXPECT_EQ(setup.RetryOnFailure, 3);
+    dialog.Form_Load();
+    EXPECT_TRUE(dialog.proposals().empty()) << "what is stored is no proposal";
+}
+
+TEST_F(SettingsTest, anUnwritableFileOrFolderIsToldAndTheEntriesStay) {
+    load("[Host]\r\nHost=old\r\nUid=u\r\nPwd=wo\xC0\r\n");
+    dialog.Form_Load();
+    dialog.setEntry(&Settings::Host, "new");
+    files.Trouble = "vell.ini";
+    EXPECT_EQ(dialog.cmdOk_Click().value_or(SetupProblem{}).Message, "Error! The settings file could not be written");
+    EXPECT_THAT((std::vector{dialog.entry(&Settings::Host), setup.Host}), ElementsAre("new", "old"));
+    frmSetup homeless(setup, loader, ini, log, files, folder.text() + "/gone");
+    homeless.Form_Load();
+    EXPECT_EQ(homeless.cmdOk_Click().value_or(SetupProblem{}).Message, "Error! Download path could not be made");
+}
+
 TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
     folder.put("vell.ini", "; mine\r\n[General]\r\nDebug=2\r\n");
     fillIn({"FTP",     "service.example", "2121",  "ann", "3", "49", "99", "1", "p\xE1", "proxy",
@@ -170,7 +210,7 @@ TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
                   scrambled("proxy") + "\r\nPwd=" + scrambled("sec ret") +
                   "\r\n[Download]\r\nLocalDir=/clips\r\nDialup=Modem\r\nPrintOnDownload=1\r\nCloseConnection=0\r\n"
                   "AutoUpdateCheck=0\r\nAutoUpdateServer=1\r\nAutoUpdateNotify=1\r\n");
-    frmSetup again(setup, loader, ini, log);
+    frmSetup again(setup, loader, ini, log, files, "");
     again.Form_Load();
     for (const SettingRow& row : setupRows())
         EXPECT_EQ(again.entry(row.Field), row.Key == "Passive" ? "0" : dialog.entry(row.Field)) << row.Key;

@@ -41,6 +41,7 @@ struct ProgramRig : Process {
         return started && program.downloads().outcome().isGood();
     }
     [[nodiscard]] std::string ProgramFolder() const override { return folder.text(); }
+    [[nodiscard]] std::string DocumentsFolder() const override { return folder.text(); }
     [[nodiscard]] bool IsPreviousInstance() override { return anotherRuns; }
 
     [[nodiscard]] std::string logged() const { return SettingsRig::plain(folder.get("vell.log")); }

@@ -2,9 +2,11 @@
 #include "platform/posix/program/PosixProcess.h"
 
 #include <cerrno>
+#include <filesystem>
 #include <utility>
 
 #include <fcntl.h>
+#include <glib.h>
 #include <sys/file.h>
 
 #include "base/text.h"
@@ -24,6 +26,12 @@ std::string expressed(const std::string& folder) {
 }  // namespace
 
 PosixProcess::PosixProcess(const ProgramPlace& place) : folder_(expressed(place.programFolder())) {}
+
+std::string PosixProcess::DocumentsFolder() const {
+    const char* const documents = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
+    const bool isThere = documents && std::filesystem::is_directory(documents);
+    return codePageFromUtf8(isThere ? documents : g_get_home_dir()).value_or("");
+}
 
 bool PosixProcess::IsPreviousInstance() {
     if (lock_.isOpen()) return false;

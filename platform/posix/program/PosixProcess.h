@@ -15,6 +15,8 @@ class PosixProcess : public Process {
     explicit PosixProcess(const ProgramPlace& place);
 
     [[nodiscard]] std::string ProgramFolder() const override { return folder_; }
+    // As the desktop has it; the user's home folder where there is no such.
+    [[nodiscard]] std::string DocumentsFolder() const override;
     // By a lock on a file in the program folder, which the system takes off when the process ends, however it ends.
     [[nodiscard]] bool IsPreviousInstance() override;
 
