@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Preloaded into a program, makes its n-th call that changes or opens a file below FAULT_ROOT fail, or kills it there.
 //   FAULT_ROOT   the folder; calls elsewhere are left alone
+//   FAULT_SKIP   nor do calls count on a path that holds this text
 //   FAULT_AT     n, from 1; 0 only counts
 //   FAULT_HOW    once, on (this call and all that follow), before, after (killed before or after the call; before a
 //                write, half of its bytes are written)
@@ -29,7 +30,8 @@ static const char* setting(const char* name) {
 
 static int isBelow(const char* path) {
     const char* root = setting("FAULT_ROOT");
-    return *root && strncmp(path, root, strlen(root)) == 0;
+    const char* skip = setting("FAULT_SKIP");
+    return *root && strncmp(path, root, strlen(root)) == 0 && !(*skip && strstr(path, skip));
 }
 
 static void pathOf(int fd, char* path, size_t size) {

@@ -14,7 +14,7 @@ SIZES = {"AAA01": (700, 400, 60), "BBB02": (90_000, 1200, 180), "CCC03": (300_00
 FORMS = (".PDF", ".TXT", ".MT")
 MARKS = b"[VIEW]\r\nBBB02_20040307.PDF=1\r\nNOT%20HERE=1\r\n"
 INI = """[General]\r\nDebug=1\r\nPrintAllDelay=0\r\nAutoPlayDelay=5\r\n[Host]\r\nProtocol={protocol}\r\nHost={host}\r
-Uid=demo\r\nPwd={password}\r\nPort={port}\r\nRetryOnFailure=1\r\nRetryDelay=1\r\nTimeOut=5\r\n[Download]\r
+Uid=demo\r\nPwd={password}\r\nPort={port}\r\nRetryOnFailure=1\r\nRetryDelay=0\r\nTimeOut=5\r\n[Download]\r
 LocalDir={clips}\r\n[Schedule]\r\nSchedule1=Mon 06:30\r\nSchedule2=Tue Thu 07:15\r\nSchedule3=Sat 09:00\r\n"""
 
 
@@ -37,7 +37,7 @@ class Service:
                 if probe.connect_ex(("127.0.0.1", self.ftp_port)):
                     break
         self.process = subprocess.Popen([program, "--root", self.folder, "--ready-file", ready, "--ftp",
-                                         f"127.0.0.1:{self.ftp_port}"], stdout=subprocess.DEVNULL)
+                                         f"127.0.0.1:{self.ftp_port}", "--for", "7200"], stdout=subprocess.DEVNULL)
         while not ready.exists():
             if self.process.poll() is not None:
                 raise SystemExit("the demo service did not start")
