@@ -15,7 +15,7 @@ constexpr int usageMistake = 2;
 // The options as text and numbers, before they are judged together.
 struct Words {
     std::string Root, Samples, Http = "127.0.0.1:0", Ftp = "127.0.0.1:0", ReadyFile, Listing = "unix";
-    long RunsFor = 0, Latency = 0, Rate = 0;
+    long RunsFor = 0, Latency = 0, Rate = 0, BreakEach = 0;
     bool Public = false, Verbose = false;
 };
 
@@ -46,6 +46,9 @@ void describe(CLI::App& app, Words& words) {
         ->check(CLI::Range(0L, 10'000L));
     app.add_option("--rate", words.Rate, "Act like a slow line: kilobytes per second of each transfer, 0 for no limit")
         ->type_name("KBPS")
+        ->check(CLI::Range(0L, 1'000'000L));
+    app.add_option("--break-each", words.BreakEach, "Act like a bad line: every N-th file breaks half way")
+        ->type_name("N")
         ->check(CLI::Range(0L, 1'000'000L));
     app.add_option("--list-form", words.Listing, "Form of FTP listings")
         ->type_name("FORM")
@@ -78,7 +81,8 @@ Options judged(const Words& words) {
                                                 "carry; give an IPv4 one, such as 127.0.0.1:0");
     options.ReadyFile = words.ReadyFile;
     if (words.RunsFor > 0) options.RunsFor = std::chrono::seconds{words.RunsFor};
-    options.Speed = {std::chrono::milliseconds{words.Latency}, static_cast<std::size_t>(words.Rate) * 1024};
+    options.Speed = {std::chrono::milliseconds{words.Latency}, static_cast<std::size_t>(words.Rate) * 1024,
+                     static_cast<std::size_t>(words.BreakEach)};
     options.Listing = words.Listing == "dos" ? ListForm::Dos : ListForm::Unix;
     options.Verbose = words.Verbose;
     return options;

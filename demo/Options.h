@@ -10,10 +10,11 @@
 
 namespace vell::demo {
 
-// How slow the line shall look.
+// How bad the line shall look.
 struct LineSpeed {
     std::chrono::milliseconds Latency{0};  // before each answer
     std::size_t BytesPerSecond = 0;        // for each transfer; 0: as fast as it goes
+    std::size_t BreaksEach = 0;            // every such transfer of a file breaks half way; 0: none
 };
 
 enum class ListForm { Unix, Dos };

@@ -25,6 +25,12 @@ std::size_t SlowLine::blockSize() const {
     return std::clamp<std::size_t>(speed_.BytesPerSecond / 20, 256, largest);
 }
 
+std::uintmax_t SlowLine::broughtOf(std::uintmax_t size) const {
+    ++transfers_;
+    const bool breaks = speed_.BreaksEach > 0 && transfers_ % speed_.BreaksEach == 0;
+    return breaks ? size / 2 : size;
+}
+
 asio::awaitable<void> SlowLine::beforeAnswer() const {
     if (speed_.Latency.count() > 0) co_await pause(speed_.Latency);
 }

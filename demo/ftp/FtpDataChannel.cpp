@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "demo/ftp/FtpDataChannel.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 
@@ -82,12 +83,19 @@ asio::awaitable<TransferEnd> FtpDataChannel::sendFile(std::filesystem::path file
     stream.seekg(static_cast<std::streamoff>(offset));
     if (!co_await open()) co_return TransferEnd::NotOpened;
     std::string block(line_.blockSize(), '\0');
-    while (stream) {
-        stream.read(block.data(), static_cast<std::streamsize>(block.size()));
-        const std::string_view part(block.data(), static_cast<std::size_t>(stream.gcount()));
+    std::error_code problem;
+    const auto size = std::filesystem::file_size(file, problem);
+    if (problem) co_return TransferEnd::DiskProblem;
+    const auto whole = size - std::min<std::uintmax_t>(offset, size), brought = line_.broughtOf(whole);
+    for (auto left = brought; left > 0;) {
+        stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uintmax_t>(left, block.size())));
+        const auto count = static_cast<std::size_t>(stream.gcount());
+        if (count == 0) co_return TransferEnd::DiskProblem;
+        const std::string_view part(block.data(), count);
         if (!co_await sendBlock(part)) co_return TransferEnd::Cut;
+        left -= count;
     }
-    co_return stream.eof() ? TransferEnd::Whole : TransferEnd::DiskProblem;
+    co_return brought == whole ? TransferEnd::Whole : TransferEnd::Cut;
 }
 
 asio::awaitable<TransferEnd> FtpDataChannel::receiveFile(std::filesystem::path file, std::ios::openmode mode,

@@ -127,20 +127,21 @@ asio::awaitable<bool> HttpSession::sendText(std::string_view text) {
     co_return !problem;
 }
 
-// False when the file turned out shorter than announced: closing is all that then tells the client.
+// False when less was sent than announced: closing is all that then tells the client.
 asio::awaitable<bool> HttpSession::sendFile(const std::filesystem::path& file, std::uintmax_t size) {
     std::ifstream stream(file, std::ios::binary);
     std::string block(line_.blockSize(), '\0');
-    while (size > 0) {
-        stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uintmax_t>(size, block.size())));
+    const auto brought = line_.broughtOf(size);
+    for (auto left = brought; left > 0;) {
+        stream.read(block.data(), static_cast<std::streamsize>(std::min<std::uintmax_t>(left, block.size())));
         const auto count = static_cast<std::size_t>(stream.gcount());
         if (count == 0) co_return false;
         const std::string_view part(block.data(), count);
         if (!co_await sendText(part)) co_return false;
         co_await line_.afterBlock(count);
-        size -= count;
+        left -= count;
     }
-    co_return true;
+    co_return brought == size;
 }
 
 // Closing while bytes of the peer lie unread would reset the connection and could take the answer with it (RFC 9112,

@@ -21,7 +21,7 @@ LocalDir={clips}\r\n[Schedule]\r\nSchedule1=Mon 06:30\r\nSchedule2=Tue Thu 07:15
 class Service:
     """The demo service on a folder of ours, with what each clipping has been."""
 
-    def __init__(self, program, folder, samples):
+    def __init__(self, program, folder, samples, *options):
         self.folder, self.day = folder / "service", folder / f"service/{DAY}"
         self.day.mkdir(parents=True)
         (self.folder / "users.tsv").write_text("user\tpassword\ndemo\tdemo\n")
@@ -37,7 +37,7 @@ class Service:
                 if probe.connect_ex(("127.0.0.1", self.ftp_port)):
                     break
         self.process = subprocess.Popen([program, "--root", self.folder, "--ready-file", ready, "--ftp",
-                                         f"127.0.0.1:{self.ftp_port}", "--for", "7200"], stdout=subprocess.DEVNULL)
+                                         f"127.0.0.1:{self.ftp_port}", "--for", "7200", *options], stdout=subprocess.DEVNULL)
         while not ready.exists():
             if self.process.poll() is not None:
                 raise SystemExit("the demo service did not start")
