@@ -11,6 +11,7 @@
 #include "console/ConsoleView.h"
 #include "console/Screen.h"
 #include "platform/Terminal.h"
+#include "store/Articles.h"
 
 namespace vell {
 
@@ -105,6 +106,7 @@ int ClippingCommands::printCategories(const CommandLine& line) {
 }
 
 int ClippingCommands::printFiles(const CommandLine& line) {
+    const Articles::Batch batch(program_.reading().Article);
     bool another = false;
     return forEachFile(line, [this, &another](std::size_t row) {
         if (another) printPause(loop_, program_.settings());

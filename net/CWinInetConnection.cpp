@@ -135,10 +135,9 @@ void CWinInetConnection::ReportApiError(std::string_view member) {
 }
 
 bool CWinInetConnection::withReason(std::string_view member, bool succeeded) {
-    if (succeeded) return true;
-    if (const std::string reason = api_.LastReason(); !reason.empty())
-        log_.WriteLog(std::string(member) + ": " + reason);
-    return false;
+    failureReason_ = succeeded ? std::string() : api_.LastReason();
+    if (!failureReason_.empty()) log_.WriteLog(std::string(member) + ": " + failureReason_);
+    return succeeded;
 }
 
 }  // namespace vell

@@ -40,18 +40,22 @@ class CWinInetConnection {
     [[nodiscard]] bool UseLAN() const;
     [[nodiscard]] bool UseModem() const;
 
+    // Why the last call failed, where the system said it in words; empty when it did not fail.
+    [[nodiscard]] const std::string& failureReason() const { return failureReason_; }
+
     // The system's text for one of its error codes, as delivered.
     [[nodiscard]] std::string GetWinApiDesc(std::int32_t code) const;
 
   private:
     [[nodiscard]] std::string GetWinInetDesc(std::int32_t code) const;
     void ReportApiError(std::string_view member);
-    // Logs the reason that the system gave in words. Gives `succeeded` back.
+    // Keeps and logs the reason that the system gave in words. Gives `succeeded` back.
     bool withReason(std::string_view member, bool succeeded);
 
     ConnectionApi& api_;
     MessageBoxes& boxes_;
     TextLog& log_;
+    std::string failureReason_;
     bool isConnected_ = false;
     std::uint32_t flags_ = 0;
     std::uint32_t connection_ = 0;  // what Dial got, for HangUp

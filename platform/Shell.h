@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace vell {
@@ -30,9 +31,13 @@ class Shell {
     virtual ~Shell() = default;
 
     // Opens a document, folder or address with its associated program, or starts a program, given by name and found
-    // by the system's search, with parameters. Does not wait for what it started. The result is a shell_code, or any
+    // by the system's search, with parameters. Does not wait for what it started, but for the print server's answer, a
+    // few seconds at most. The result is a shell_code, or any
     // other number above LastFailure.
     [[nodiscard]] virtual int Open(std::string_view file, std::string_view parameters) = 0;
+    // Why the last Open failed, and the remedy, where the system tells it in words that say more than the result; empty
+    // otherwise.
+    [[nodiscard]] virtual std::string LastReason() const = 0;
 };
 
 }  // namespace vell

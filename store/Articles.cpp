@@ -2,6 +2,7 @@
 #include "store/Articles.h"
 
 #include <array>
+#include <utility>
 
 #include "base/text.h"
 #include "platform/EventLoop.h"
@@ -49,13 +50,19 @@ bool Articles::ShellExec(const std::string& file, const std::string& parameters)
     return trap(log_, "ShellExec()", false, [&] {
         const std::string message = "Error opening file '" + file + " " + parameters + "'.";
         const int result = shell_.Open(file, parameters);
+        const std::string reason = shell_.LastReason();
         loop_.DoEvents();
-        const std::string_view reason =
-            result <= shell_code::LastFailure ? openingErrorText(result) : std::string_view{};
-        if (!reason.empty())
-            boxes_.Show(std::string(message).append("\r\n").append(reason), programCaption, Buttons::Ok, BoxIcon::None);
-        return result > shell_code::LastFailure;
+        if (result > shell_code::LastFailure) return true;
+        tell(message, result, reason);
+        return false;
     });
+}
+
+void Articles::tell(const std::string& message, int code, const std::string& reason) {
+    if (!reason.empty()) log_.WriteLog("        " + reason);
+    if (batches_ > 0 && !reason.empty() && std::exchange(toldReason_, reason) == reason) return;
+    const std::string text = reason.empty() ? std::string(openingErrorText(code)) : reason;
+    if (!text.empty()) boxes_.Show(message + "\r\n" + text, programCaption, Buttons::Ok, BoxIcon::None);
 }
 
 bool Articles::PrintArticle(const std::string& path) {

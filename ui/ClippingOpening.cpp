@@ -59,7 +59,7 @@ void ClippingOpening::openAddress(const std::string& address) {
 
 bool ClippingOpening::open(const std::string& path) {
     if (!articles_.ShellExec(path, "")) return false;
-    store_.MarkFileOpened(path);
+    if (!store_.MarkFileOpened(path)) status_("Opened, but it could not be marked as opened. The log says why.");
     browser_.refreshMarks(path);
     return true;
 }

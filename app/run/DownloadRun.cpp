@@ -6,6 +6,7 @@
 #include "app/run/FtpSession.h"
 #include "app/run/TransferProgress.h"
 #include "service/DownloadList.h"
+#include "store/Articles.h"
 #include "store/IndexFile.h"
 #include "store/modGlobal.h"
 #include "ui/ClippingsBrowser.h"
@@ -88,6 +89,7 @@ void DownloadRun::fetchAll() {
     state.gLastProgressBytes = 0;
     books_.open();
     p_.View.showProgress(0, 0);
+    const Articles::Batch printing(p_.Article);
     p_.Log.WriteLog("Number of files to download :" + std::to_string(count));
     p_.Browser.refresh();
     for (std::int32_t i = 1; i <= count && !state.gStopRequested; ++i)

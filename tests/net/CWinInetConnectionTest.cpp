@@ -63,6 +63,10 @@ TEST_F(CWinInetConnectionTest, reportsAFailureThatHasANumberInABoxAndTheLog) {
     EXPECT_EQ(report(5, [&] { EXPECT_FALSE(inet_.Autodial(0, 0, true) || inet_.HangUp()); }), Lines{});
     api_.reason = "not authorised";
     EXPECT_EQ(report(0, [&] { inet_.AutodialHangup(); }), Lines{"log: AutodialHangup: not authorised"});
+    EXPECT_EQ(inet_.failureReason(), "not authorised");
+    api_.works = true;
+    EXPECT_TRUE(inet_.HangUp());
+    EXPECT_EQ(inet_.failureReason(), "");
 }
 
 TEST_F(CWinInetConnectionTest, passesAnUnexpectedErrorOnUnderItsOwnName) {

@@ -6,13 +6,13 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/posix/files/FileHandle.h"
 #include "platform/posix/printing/CupsPrinters.h"
+#include "platform/posix/printing/cupsReasons.h"
 #include "platform/posix/program/PosixShell.h"
 #include "tests/support/TempFolder.h"
 
@@ -68,12 +68,15 @@ class PosixShellTest : public testing::Test {
     static inline FileHandle said_;
     TempFolder folder_;
     std::string systemPath_ = std::getenv("PATH"), path_ = ":.:" + folder_.text() + "/bin";
-    PosixShell shell_{{folder_.text() + "/own"}};
+    PosixShell shell_{{{folder_.text() + "/own"}, folder_.text() + "/no helper"}};
 };
 
 TEST_F(PosixShellTest, aDocumentGoesToTheDesktopsApplicationUnderItsRealName) {
     folder_.put("Day 1/Άρθρο.PDF", "%PDF-1.4\n");
     EXPECT_GT(shell_.Open(at("DAY 1\\\xDC\xF1\xE8\xF1\xEF.pdf"), ""), 32);
+    EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1/Άρθρο.PDF]");
+    std::filesystem::permissions(folder_.path() / "Day 1/Άρθρο.PDF", perms::owner_all);
+    EXPECT_GT(shell_.Open(at("DAY 1\\\xDC\xF1\xE8\xF1\xEF.pdf"), ""), 32) << "it need not be a program";
     EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1/Άρθρο.PDF]");
     EXPECT_GT(shell_.Open(at("day 1\\"), ""), 32);
     EXPECT_EQ(said(), "[" + folder_.text() + "/Day 1]");
@@ -109,8 +112,6 @@ TEST_F(PosixShellTest, failuresHaveShellExecutesCodes) {
     folder_.put("a.unknown-kind", std::string("\0\1\2", 3));
     folder_.put("b.desktop", "[Desktop Entry]\nType=Application\nExec=/bin/true\n");
     folder_.put("script", "#!/bin/sh\n");
-    folder_.put("marked.pdf", "%PDF-1.4\n");
-    std::filesystem::permissions(folder_.path() / "marked.pdf", perms::owner_all);
     folder_.put("bin/garbage", std::string("\0no program", 11));
     std::filesystem::permissions(folder_.path() / "bin/garbage", perms::owner_all);
     const struct {
@@ -122,7 +123,6 @@ TEST_F(PosixShellTest, failuresHaveShellExecutesCodes) {
                  {at("a.unknown-kind"), 31},
                  {at("b.desktop"), 5},
                  {at("script"), 5},
-                 {at("marked.pdf"), 5},
                  {"\\dev\\null", 5},
                  {"garbage", 11},
                  {"gone", 2},
@@ -134,30 +134,36 @@ TEST_F(PosixShellTest, failuresHaveShellExecutesCodes) {
         EXPECT_EQ(shell_.Open(one.File, ""), one.Code) << one.File;
 }
 
-TEST_F(PosixShellTest, printingHandsTheFileToLp) {
-    putProgram(folder_, "bin/lp", "exit 3\n");
+TEST_F(PosixShellTest, printingHandsTheFileToCupsAndGivesItsAnswer) {
     setenv("PATH", (path_ + ":" + systemPath_).c_str(), 1);
     folder_.put("-a b.PDF", "x");
-    PosixShell beside;  // the helper lies beside the test
-    EXPECT_GT(beside.Open(PosixShell::printHelper, " /p /h \"" + at("-A B.pdf") + "\""), 32);
-    EXPECT_EQ(said(), "[--][" + folder_.text() + "/-a b.PDF]");
-
-    const auto helper = std::filesystem::read_symlink("/proc/self/exe").parent_path() / "Acrord32.exe";
-    const auto exitCode = [&](std::vector<std::string> arguments) {
-        std::vector<char*> argv;
-        argv.reserve(arguments.size() + 1);
-        for (auto& argument : arguments)
-            argv.push_back(argument.data());
-        argv.push_back(nullptr);
-        pid_t child = 0;
-        int status = -1;
-        EXPECT_EQ(posix_spawn(&child, helper.c_str(), nullptr, nullptr, argv.data(), environ), 0);
-        waitpid(child, &status, 0);
-        return WEXITSTATUS(status);
+    const std::string parameters = " /p /h \"" + at("-A B.pdf") + "\"";
+    const struct {
+        std::string Ending;  // of lp
+        std::chrono::milliseconds Patience;
+        int Code;
+        std::string Reason;
+    } cases[] = {
+        {"", std::chrono::seconds{20}, 33, ""},
+        {"echo 'lp: Error - No default destination.' >&2; exit 1\n", std::chrono::seconds{20}, 29,
+         "There is no default printer. Choose one in the system's printer settings, or with 'lpoptions -d NAME'. CUPS "
+         "says: No default destination."},
+        {"exit 3\n", std::chrono::seconds{20}, 29, std::string(cups_reason::Refused)},
+        {"exec sleep 60\n", std::chrono::milliseconds{300}, 28, std::string(cups_reason::NoAnswer)},
     };
-    EXPECT_EQ(exitCode({"Acrord32.exe", "/p", "/h", "a.pdf"}), 3);
-    EXPECT_EQ(said(), "[--][a.pdf]");
-    EXPECT_EQ(exitCode({"Acrord32.exe", "/p", "/h"}), 2);
+    for (const auto& one : cases) {
+        putProgram(folder_, "bin/lp", one.Ending);
+        PosixShell installed(PosixShell::Places::ofThisProgram(), one.Patience);
+        EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), one.Code) << one.Ending;
+        EXPECT_EQ(installed.LastReason(), one.Reason);
+        EXPECT_EQ(said(), "[--][" + folder_.text() + "/-a b.PDF]");
+    }
+    setenv("PATH", "/nowhere", 1);
+    PosixShell installed;
+    EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), 2);
+    EXPECT_EQ(installed.LastReason(), cups_reason::NotInstalled);
+    EXPECT_EQ(installed.Open("", ""), 2);
+    EXPECT_EQ(installed.LastReason(), "") << "of another failure";
 }
 
 }  // namespace

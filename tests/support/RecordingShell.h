@@ -15,6 +15,9 @@ class RecordingShell : public Shell {
         return Result;
     }
 
+    [[nodiscard]] std::string LastReason() const override { return Reason; }
+
+    std::string Reason;
     int Result = shell_code::Started;
     std::string Opened;  // what it was asked for: a file and its parameters in each line
 };

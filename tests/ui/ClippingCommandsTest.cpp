@@ -110,6 +110,22 @@ TEST_F(ClippingCommandsTest, opensTheNextTwentyThatWereNotOpenedAndStopsAtAFailu
     EXPECT_EQ(shell.Opened, day.gDayFolder + " <>\n");
 }
 
+TEST_F(ClippingCommandsTest, tellsWhenWhatWasOpenedOrPrintedCannotBeMarked) {
+    std::filesystem::create_directory(folder.path() / "clips/07032004/OPENED.DIR");
+    std::filesystem::create_directory(folder.path() / "clips/07032004/PRINTED.DIR");
+    opening.openRow(0);
+    EXPECT_THAT(statuses, ElementsAre("Opened, but it could not be marked as opened. The log says why."));
+    EXPECT_THAT(logged(), testing::HasSubstr(" in IniWriteString()\n"));
+    const std::string notMarked = "Printed, but it could not be marked as printed. The log says why.";
+    printing.mnuPrintSel_Click(1);
+    EXPECT_EQ(statuses.back(), notMarked);
+    statuses.clear();
+    boxes.Answers = {Answer::Yes};
+    printing.mnuPrintAll_Click();
+    EXPECT_EQ(statuses.back(), notMarked);
+    EXPECT_EQ(marks(), "----");
+}
+
 TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
     printing.mnuPrintAll_Click();
     EXPECT_THAT(asked(), IsEmpty());
@@ -129,6 +145,14 @@ TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
     printing.mnuPrintAll_Click();
     EXPECT_EQ(clock.Steady() - begun, std::chrono::seconds{12}) << "what did not print is passed without a pause";
     EXPECT_THAT(statuses, ElementsAre(""));
+    shell.Reason = "There is no printer.";
+    for (const bool again : {false, true}) {  // a batch tells it once, and so does the next one
+        boxes.Shown.clear();
+        boxes.Answers = {Answer::Yes};
+        printing.mnuPrintAll_Click();
+        EXPECT_THAT(boxes.Shown, ElementsAre(testing::_, testing::HasSubstr("/p /h"))) << again;
+        EXPECT_THAT(boxes.Shown.back(), testing::EndsWith("'.\r\nThere is no printer."));
+    }
 }
 
 TEST_F(ClippingCommandsTest, aBatchStopsBeforeTheNextDocument) {

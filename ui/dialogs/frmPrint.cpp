@@ -90,6 +90,7 @@ Names frmPrint::documents() const {
 }
 
 bool frmPrint::print(const Names& documents, const StatusText& status) {
+    const Articles::Batch batch(p_.Article);
     bool all = true;
     for (std::size_t k = 0; k < documents.size() && !batch_.StopRequested; ++k) {
         const std::string& path = documents[k];

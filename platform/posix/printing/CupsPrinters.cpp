@@ -2,24 +2,20 @@
 #include "platform/posix/printing/CupsPrinters.h"
 
 #include <string_view>
+#include <utility>
 
 #include "base/text.h"
 #include "platform/Shell.h"
 #include "platform/posix/printing/CupsOptions.h"
+#include "platform/posix/printing/cupsReasons.h"
 #include "platform/posix/program/GlibPointers.h"
 #include "platform/posix/program/desktopApplications.h"
-#include "platform/posix/program/programOutput.h"
+#include "platform/posix/program/runProgram.h"
 #include "platform/posix/program/startProgram.h"
 
 namespace vell {
 
 namespace {
-
-constexpr std::string_view notInstalled =
-    "The printers are not known: CUPS is not installed. Install the package cups-client.";
-constexpr std::string_view noAnswer = "The print server does not answer. Make sure that CUPS is running.";
-constexpr std::string_view noDefault =
-    "There is no default printer. Choose one in the system's printer settings, or with 'lpoptions -d NAME'.";
 
 // Of a printer without its instance, which the web interface does not know. A name that the code page cannot hold has
 // question marks, which no printer's name has; then it is the page of all printers.
@@ -36,9 +32,10 @@ std::string pageOf(const std::string& deviceName) {
 std::optional<std::string> CupsPrinters::answer(const std::string& command, const std::vector<std::string>& arguments,
                                                 std::string& reason) const {
     const std::string program = findProgram(command);
-    auto said = program.empty() ? std::nullopt : programOutput(program, arguments, patience_);
-    if (!said) reason = program.empty() ? notInstalled : noAnswer;
-    return said;
+    auto end = program.empty() ? std::nullopt : runProgram(program, arguments, patience_);
+    if (end) return std::move(end->Output);
+    reason = program.empty() ? cups_reason::NotInstalled : cups_reason::NoAnswer;
+    return std::nullopt;
 }
 
 std::optional<std::string> CupsPrinters::defaultName(std::string& reason) const {
@@ -47,7 +44,7 @@ std::optional<std::string> CupsPrinters::defaultName(std::string& reason) const 
     if (!said) return std::nullopt;
     const std::string_view line = std::string_view(*said).substr(0, said->find('\n'));
     if (line.starts_with(announcement)) return std::string(line.substr(announcement.size()));
-    reason = noDefault;
+    reason = cups_reason::NoDefault;
     // It says so on its standard output when the environment names a printer that is not there.
     if (line.starts_with("lpstat: ")) reason += " CUPS says: " + codePageFromUtf8Lossy(line);
     return std::nullopt;

@@ -10,6 +10,7 @@
 
 #include "base/text.h"
 #include "platform/posix/files/paths.h"
+#include "platform/posix/printing/printDocument.h"
 #include "platform/posix/program/desktopApplications.h"
 #include "platform/posix/program/startProgram.h"
 
@@ -56,17 +57,24 @@ int openPath(const std::string& path) {
 
 }  // namespace
 
-PosixShell::PosixShell(std::vector<std::string> ownFolders) : ownFolders_(std::move(ownFolders)) {}
+PosixShell::PosixShell(Places places, std::chrono::milliseconds patience)
+    : places_(std::move(places)), patience_(patience) {}
 
-std::vector<std::string> PosixShell::foldersOfThisProgram() {
+PosixShell::Places PosixShell::Places::ofThisProgram() {
     std::error_code unknown;
     const auto executable = std::filesystem::read_symlink("/proc/self/exe", unknown);
     if (unknown) return {};
     const auto folder = executable.parent_path();
-    return {folder.string(), (folder.parent_path() / "share" / "vell").string()};
+    const auto prefix = folder.parent_path();
+    return {{folder.string(), (prefix / "share" / "vell").string()}, (prefix / "libexec/vell/vell-print").string()};
 }
 
 int PosixShell::Open(std::string_view file, std::string_view parameters) {
+    lastReason_.clear();
+    return open(file, parameters);
+}
+
+int PosixShell::open(std::string_view file, std::string_view parameters) {
     file = Trim(file);
     if (!isUsablePath(file)) return shell_code::FileNotFound;
     if (const auto address = utf8FromCodePage(file); isAddress(address)) return openAddress(address);
@@ -75,10 +83,13 @@ int PosixShell::Open(std::string_view file, std::string_view parameters) {
 }
 
 int PosixShell::openByName(std::string_view name, std::string_view parameters) {
-    // The helper itself would be started, and nobody would hear that it could not print.
-    if (equalNoCase(name, printHelper) && findProgram("lp").empty()) return shell_code::FileNotFound;
+    if (equalNoCase(name, pdfReader)) {
+        auto outcome = printDocument(places_.PrintHelper, arguments(parameters), patience_);
+        lastReason_ = std::move(outcome.Reason);
+        return outcome.Code;
+    }
     const auto systemName = systemPath(name);
-    for (const auto& folder : ownFolders_) {
+    for (const auto& folder : places_.OwnFolders) {
         const auto path = names_.realPath(joined(folder, systemName));
         if (isProgram(path)) return codeOf(startProgram(path, arguments(parameters)));
         if (exists(path)) return openPath(path);

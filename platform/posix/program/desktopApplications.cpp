@@ -9,9 +9,6 @@
 #include <string_view>
 
 #include <gio/gio.h>
-#include <sys/stat.h>
-#include <sys/vfs.h>
-#include <unistd.h>
 
 #include "platform/Shell.h"
 
@@ -53,25 +50,13 @@ std::string lowered(std::string text) {
     return text;
 }
 
-// Where a file system without permissions is mounted, every file looks like a program.
-bool hasPermissions(const std::string& path) {
-    // Of linux/magic.h: FAT, exFAT, NTFS (both drivers), FUSE, SMB (both versions), 9P.
-    constexpr std::array<std::uint32_t, 8> without{0x4d44,     0x2011bab0, 0x5346544e, 0x7366746e,
-                                                   0x65735546, 0xff534d42, 0xfe534d42, 0x01021997};
-    struct statfs drive {};
-    return statfs(path.c_str(), &drive) != 0 ||
-           std::ranges::find(without, static_cast<std::uint32_t>(drive.f_type)) == without.end();
-}
-
+// The execute bit says nothing: it comes with every file of some drives, and an application opens the file, never the
+// system.
 bool isRunnable(const std::string& path, const char* type) {
     if (g_content_type_is_a(type, "inode/directory")) return false;
     if (std::ranges::find(runnableEndings, lowered(std::filesystem::path(path).extension())) != runnableEndings.end())
         return true;
-    if (std::ranges::any_of(runnableTypes, [&](const char* one) { return g_content_type_is_a(type, one) != FALSE; }))
-        return true;
-    struct stat status {};
-    const bool marked = stat(path.c_str(), &status) == 0 && (status.st_mode & (S_IXUSR | S_IXGRP | S_IXOTH)) != 0;
-    return marked && hasPermissions(path);
+    return std::ranges::any_of(runnableTypes, [&](const char* one) { return g_content_type_is_a(type, one) != FALSE; });
 }
 
 // `launch` is called with the place for its error.

@@ -7,7 +7,7 @@ namespace vell {
 
 // Both hand something to the application that the desktop has for it, and give a shell_code.
 
-// A document, which must exist, or a folder. What can be run is refused.
+// A document, which must exist, or a folder. What is there to be run is refused.
 [[nodiscard]] int openWithApplication(const std::string& systemPath);
 // An address of a scheme that leads to a browser or a mail program.
 [[nodiscard]] int openAddress(const std::string& address);
