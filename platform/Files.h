@@ -99,7 +99,8 @@ class Files {
     virtual void DeleteFile(std::string_view path) = 0;
     // One level only.
     virtual void MakeFolder(std::string_view path) = 0;
-    // The folder must be empty but for parts, which go with it unless they are being written.
+    // The folder must be empty but for what Enumerate shows nobody, which goes with it: parts that are not being
+    // written, files whose names the code page cannot say, links that lead nowhere.
     virtual void RemoveFolder(std::string_view path) = 0;
 
     // Free bytes for the calling user on the drive that holds `path`, which need not exist itself; nothing when the

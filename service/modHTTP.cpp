@@ -26,6 +26,26 @@ constexpr std::size_t longestBodyLogged = 64U << 10;
 // How far an announced length is believed before the bytes have come.
 constexpr std::int64_t mostReserved = 512LL << 20;
 
+// What may stand bare in the path of an address (RFC 3986, 3.3), "/" included.
+bool isBareInPath(char c) {
+    const bool isAlphanumeric = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return isAlphanumeric || std::string_view("-._~!$&'()*+,;=:@/").find(c) != std::string_view::npos;
+}
+
+std::string pathText(std::string_view path) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (const char c : path) {
+        if (isBareInPath(c)) {
+            text += c;
+        } else {
+            const auto byte = static_cast<unsigned char>(c);
+            text.append({'%', digits[byte / 16], digits[byte % 16]});
+        }
+    }
+    return text;
+}
+
 std::string shownBody(const std::string& body) {
     if (body.size() <= longestBodyLogged) return body;
     return body.substr(0, longestBodyLogged) + "\r\n(" + std::to_string(body.size() - longestBodyLogged) +
@@ -51,9 +71,9 @@ std::string GetFileNamePart(std::string_view part, std::string_view fileName) {
 std::string BuildClippingUrl(std::string_view host, std::string_view remoteName) {
     const std::string server = "http://" + std::string(host);
     const std::string name(Mid(remoteName, InStrRev(remoteName, "/") + 1));
-    if (name.size() <= longestShortName) return server + "/clippings/" + std::string(remoteName);
-    return server + "/archive/" + GetFileNamePart("y", name) + "/" + GetFileNamePart("m", name) + "/" +
-           GetFileNamePart("d", name) + "/" + name;
+    if (name.size() <= longestShortName) return server + "/clippings/" + pathText(remoteName);
+    return server + pathText("/archive/" + GetFileNamePart("y", name) + "/" + GetFileNamePart("m", name) + "/" +
+                             GetFileNamePart("d", name) + "/" + name);
 }
 
 modHTTP::modHTTP(InternetApi& internet, Files& files, MessageBoxes& boxes, RunFeedback& feedback, EventLog& log,

@@ -16,7 +16,8 @@ class RunFeedback;
 struct Settings;
 
 // Where a file of the service lies: "http://host/archive/yyyy/mm/dd/name" for a name that carries its day, as the
-// eight characters before its last ".", and "http://host/clippings/name" for a name of up to eight characters.
+// eight characters before its last ".", and "http://host/clippings/name" for a name of up to eight characters. What
+// an address cannot hold bare is written as "%" and the byte's two digits.
 [[nodiscard]] std::string BuildClippingUrl(std::string_view host, std::string_view remoteName);
 // A part of a file name of the service: "ext" (with its dot), "y", "m" or "d". What lies outside the name is left out.
 [[nodiscard]] std::string GetFileNamePart(std::string_view part, std::string_view fileName);

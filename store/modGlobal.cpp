@@ -151,10 +151,21 @@ void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, st
 }
 
 namespace {
+
 // The place behind the last backslash of a trimmed path; 0 when there is none.
 std::size_t nameStart(std::string_view path) {
     return InStrRev(path, "\\");
 }
+
+// A file's name as a key: what would end the key, or make its line a comment or a section, is written as a character
+// that no clipping's name has.
+std::string markKey(std::string_view name) {
+    std::string key = Replace(name, "=", "|");
+    if (key.starts_with(';')) key.front() = '<';
+    if (key.starts_with('[')) key.front() = '>';
+    return key;
+}
+
 }  // namespace
 
 bool modGlobal::setMark(const Mark& mark, std::string_view path) {
@@ -163,7 +174,7 @@ bool modGlobal::setMark(const Mark& mark, std::string_view path) {
         const std::size_t start = nameStart(path);
         if (start == 0) return false;
         const std::string file = std::string(Left(path, start)).append(mark.File);
-        return ini_.IniWriteString(file, mark.Section, Mid(path, start + 1), "1");
+        return ini_.IniWriteString(file, mark.Section, markKey(Mid(path, start + 1)), "1");
     });
 }
 
@@ -174,7 +185,7 @@ bool modGlobal::hasMark(const Mark& mark, std::string_view path) const {
         if (start == 0) return false;
         const std::string file = std::string(Left(path, start)).append(mark.File);
         std::string value;
-        return ini_.IniReadString(file, mark.Section, Mid(path, start + 1), value) && Trim(value) == "1";
+        return ini_.IniReadString(file, mark.Section, markKey(Mid(path, start + 1)), value) && Trim(value) == "1";
     });
 }
 

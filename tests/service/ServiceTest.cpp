@@ -59,7 +59,9 @@ TEST_F(ServiceTest, asksForFilesUnderTheDayThatTheirNamesCarry) {
              {"far/1234.PDF", "/clippings/far/1234.PDF"},
              {"12345.PDF", "/archive/1/23/45/12345.PDF"},
              {"NOEXTENSION", "/archive////NOEXTENSION"},
-             {"", "/clippings/"}})
+             {"", "/clippings/"},
+             {"A#F.PDF", "/clippings/A%23F.PDF"},
+             {"\xC1 %[?]20040307.PDF", "/archive/2004/03/07/%C1%20%25%5B%3F%5D20040307.PDF"}})
         EXPECT_EQ(BuildClippingUrl("h", file), std::string("http://h") + path);
     EXPECT_EQ(GetFileNamePart("ext", "A.B.PDF") + GetFileNamePart("x", name), ".PDF");
 }
@@ -132,6 +134,10 @@ TEST_F(ServiceTest, aFileAppearsWholeOrNotAtAll) {
         if (has(name)) files.DeleteFile(day.gDayFolder + name);
     }
     EXPECT_EQ(status, "before File Not Available File Not Available");
+    service.Answers["/clippings/A%23F.PDF"] = HttpPeer::ok("hash");
+    EXPECT_TRUE(http.HttpDownloadFile("A#F.PDF", day.gDayFolder + "A#F.PDF", received));
+    EXPECT_EQ(get("A#F.PDF"), "hash");
+    files.DeleteFile(day.gDayFolder + "A#F.PDF");
     EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "clips/07032004"));
 }
 

@@ -62,6 +62,12 @@ TEST_F(modGlobalTest, marksArticlesInTheirOwnFolder) {
     EXPECT_FALSE(store.IsFilePrinted(article));
     EXPECT_TRUE(store.MarkFilePrinted(article) && store.IsFilePrinted(article));
     EXPECT_EQ(get("OPENED.DIR") + get("PRINTED.DIR"), "[VIEW]\r\nA.PDF=1\r\n[PRINT]\r\nA.PDF=1\r\n");
+    for (const char* name : {"A=B=1.PDF", ";B.PDF", "[C].PDF", "D%3D; E.PDF"}) {
+        EXPECT_TRUE(store.MarkFileOpened(day.gDayFolder + name)) << name;
+        EXPECT_TRUE(store.IsFileOpened(day.gDayFolder + name)) << name;
+    }
+    EXPECT_FALSE(store.IsFileOpened(day.gDayFolder + "A"));
+    EXPECT_TRUE(store.IsFileOpened(article));
     put("OPENED.DIR", "[VIEW]\r\nA.PDF=\" 1 \"\r\nB.PDF=2\r\nC.PDF=yes\r\nD.PDF=\r\n");
     EXPECT_TRUE(store.IsFileOpened(article));
     for (const char* other : {"B.PDF", "C.PDF", "D.PDF", "E.PDF", ""})
@@ -72,8 +78,9 @@ TEST_F(modGlobalTest, marksArticlesInTheirOwnFolder) {
 }
 
 TEST_F(modGlobalTest, deletesADayAndAsksAgainWhileSomethingIsInUse) {
-    for (const char* name : {"A.PDF", "A.TXT", "ALLFILES.DIR", ".vell-999999999-1.part"})
+    for (const char* name : {"A.PDF", "A.TXT", "ALLFILES.DIR", ".vell-999999999-1.part", "\xE6\x97\xA5.PDF"})
         put(name, "x");
+    std::filesystem::create_symlink("nowhere", folder.path() / "clips/07032004/E.PDF");
     files.Trouble = "A.TXT";
     boxes.Answers = {Answer::Retry, Answer::Cancel};
     store.DeleteContent(march7);

@@ -40,6 +40,19 @@ bool describe(const FolderReader& folder, const dirent& entry, Files::Kind kind,
     return S_ISREG(status.st_mode);
 }
 
+// What nobody is shown, nobody can remove but us. What cannot be removed is told when the folder cannot.
+void removeUnseenFiles(const std::string& folder) {
+    removeLeftoverParts(folder, std::chrono::hours{0});
+    const FolderReader reader(opendir(folder.c_str()));
+    while (const dirent* found = reader ? readdir(reader.get()) : nullptr) {
+        const std::string_view name = found->d_name;
+        Files::Entry entry;
+        if (found->d_type == DT_DIR || isPartName(name)) continue;
+        if (codePageFromUtf8(name) && describe(reader, *found, Files::Kind::Files, entry)) continue;
+        (void)unlinkat(dirfd(reader.get()), found->d_name, 0);
+    }
+}
+
 bool comesBefore(const Files::Entry& a, const Files::Entry& b) {
     const int order = compareNoCase(a.Name, b.Name);
     return order != 0 ? order < 0 : a.Name < b.Name;
@@ -187,8 +200,7 @@ void PosixFiles::MakeFolder(std::string_view path) {
 
 void PosixFiles::RemoveFolder(std::string_view path) {
     const auto place = locate(path);
-    // Nobody sees them, so nobody can make the folder empty but us.
-    removeLeftoverParts(place.System, std::chrono::hours{0});
+    removeUnseenFiles(place.System);
     names_.removing(place.System, [&] {
         if (rmdir(place.System.c_str()) == 0) return;
         throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
