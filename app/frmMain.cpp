@@ -55,6 +55,7 @@ bool frmMain::Form_Load(Start start) {
     }
     loader_.setAppVersion(session_.gVersion);
     loader_.GetSetup();
+    log_.onFailure([this](std::string_view text) { view_.displayInfoMessageBox(text); });
     if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
     GetSchedule(session_.Setup, ini_, log_);
     reading_.Browser.PopulateDateCombo();

@@ -9,6 +9,16 @@
 
 namespace vell {
 
+namespace {
+
+std::string downloadFolderIn(std::string_view documents) {
+    if (documents.empty()) return {};
+    const char* const separator = documents.find('/') == std::string_view::npos ? "\\" : "/";  // as the person knows it
+    return plainEntry(rowOf(&Settings::LocalDir), documents) + separator + "Clippings";
+}
+
+}  // namespace
+
 frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log, Files& files,
                    std::string_view documents)
     : settings_(settings),
@@ -16,7 +26,7 @@ frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, Erro
       ini_(ini),
       log_(log),
       files_(files),
-      proposedFolder_(documents.empty() ? "" : plainEntry(rowOf(&Settings::LocalDir), documents) + "\\Clippings"),
+      proposedFolder_(downloadFolderIn(documents)),
       entries_(settingRows().size()) {}
 
 std::span<const std::string_view> frmSetup::hosts() {

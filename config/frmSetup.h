@@ -53,8 +53,6 @@ class frmSetup {
     // Makes a number's entry the plain form of the number that it begins with.
     void normalise(const SettingField& field);
 
-    // The first entry, in the order of the checks, that is wrong.
-    [[nodiscard]] std::optional<SetupProblem> firstProblem() const;
     [[nodiscard]] std::optional<SetupProblem> problemOf(const SettingField& field) const;
 
     // Saves every entry when none is wrong and loads the settings again. Else saves nothing and tells what is wrong; a
@@ -80,6 +78,8 @@ class frmSetup {
         bool IsUnreadable = false;  // which leaves the text empty
         bool IsTouched = false;
     };
+    // The first entry, in the order of the checks, that is wrong.
+    [[nodiscard]] std::optional<SetupProblem> firstProblem() const;
     [[nodiscard]] std::string proposed(const SettingRow& row) const;
     [[nodiscard]] bool makeProposedFolder();
     [[nodiscard]] std::optional<SetupProblem> write(const std::vector<const SettingRow*>& rows);

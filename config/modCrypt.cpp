@@ -22,7 +22,7 @@ std::int32_t codeOf(char c) {
 }
 
 // The only thing of the key that the scrambling uses. Each rule sees what the rule before it left, and a character may
-// be taken off twice: files written long ago depend on exactly this.
+// be taken off twice: every build that reads the same file has to come to the same number.
 std::int32_t offsetOf(std::string_view key) {
     std::int32_t off = codeOf(key[0]);
     for (std::size_t i = 1; i < key.size(); ++i) {

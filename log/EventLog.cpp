@@ -12,6 +12,7 @@ EventLog::EventLog(const Clock& clock, Files& files) : clock_(clock), files_(fil
 void EventLog::Start(std::string programFolder, std::string fileName) {
     log_ = std::make_unique<clsLog>(files_, std::move(programFolder));
     log_->setFileName(std::move(fileName));
+    log_->onFailure(tell_);
     WriteLog("==========  Program Started ===============");
 }
 

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/errors.h"
 #include "log/clsLog.h"
@@ -18,6 +20,8 @@ class EventLog : public ErrorLog, public TextLog {
   public:
     EventLog(const Clock& clock, Files& files);
 
+    // Whom to tell, once in a session, that the log cannot be written. To be set before Start.
+    void onFailure(std::function<void(std::string_view)> tell) { tell_ = std::move(tell); }
     // From here on lines go to `fileName`. Writes the session's first line.
     void Start(std::string programFolder, std::string fileName);
     // Writes the session's last line.
@@ -34,6 +38,7 @@ class EventLog : public ErrorLog, public TextLog {
     const Clock& clock_;
     Files& files_;
     std::unique_ptr<clsLog> log_;
+    std::function<void(std::string_view)> tell_;
 };
 
 }  // namespace vell

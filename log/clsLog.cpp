@@ -3,13 +3,14 @@
 
 #include <utility>
 
+#include "log/logLine.h"
 #include "platform/Files.h"
 
 namespace vell {
 
 namespace {
 
-// The log's own failures have nowhere to be told.
+// Not even memory that runs short may stop the work that a line tells of.
 template <class Body>
 void ignoringErrors(Body&& body) noexcept {
     try {
@@ -47,10 +48,22 @@ std::string clsLog::GetLogFileName() {
 
 void clsLog::log(std::string_view text) noexcept {
     ignoringErrors([&] {
-        const std::string path = GetLogFileName();
-        files_.MakePrivateFile(path);
-        files_.Append(path, std::string(text) + "\r\n");
+        try {
+            append(text);
+        } catch (const RunTimeError& error) {
+            tellOnce(error.Description);
+        }
     });
+}
+
+void clsLog::append(std::string_view text) {
+    const std::string path = GetLogFileName();
+    files_.MakePrivateFile(path);
+    files_.Append(path, logLine(text) + "\r\n");
+}
+
+void clsLog::tellOnce(std::string_view reason) {
+    if (const auto tell = std::exchange(tell_, nullptr)) tell("The log cannot be written: " + std::string(reason));
 }
 
 void clsLog::Reset() noexcept {

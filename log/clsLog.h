@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "base/errors.h"
 
@@ -13,7 +15,8 @@ class Files;
 
 // The log file: appends lines to it, each ended by CR LF. The file is opened and closed for every line, so that it
 // survives a crash and can be read while the program runs. Only its owner may read it, since what the service is sent
-// stands in it. No failure leaves this class: a log that cannot be written must never disturb anybody.
+// stands in it; one that is there already keeps the permissions that it was given. No failure leaves this class: a log
+// that cannot be written must never disturb anybody.
 class clsLog {
   public:
     // `programFolder` takes the lines when the wanted file cannot be made.
@@ -23,6 +26,10 @@ class clsLog {
     // The file that lines really go to. Makes an empty one when there is none.
     [[nodiscard]] std::string FileName() noexcept;
 
+    // Called with a text for people when a line could not be written: once, since the next lines will fail as well.
+    void onFailure(std::function<void(std::string_view)> tell) { tell_ = std::move(tell); }
+
+    // As logLine makes it.
     void log(std::string_view text) noexcept;
     // Deletes the file.
     void Reset() noexcept;
@@ -33,10 +40,13 @@ class clsLog {
 
   private:
     [[nodiscard]] std::string GetLogFileName();
+    void append(std::string_view text);
+    void tellOnce(std::string_view reason);
 
     Files& files_;
     std::string programFolder_;
     std::string fileName_;
+    std::function<void(std::string_view)> tell_;
 };
 
 }  // namespace vell

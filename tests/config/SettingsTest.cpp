@@ -159,7 +159,8 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
         for (const std::string& wrong : step.wrong) {
             dialog.setEntry(step.field, wrong);
             const auto problem = dialog.cmdOk_Click().value_or(SetupProblem{{}, "none"});
-            EXPECT_TRUE(problem.Message == "Error! " + step.message && problem.Field == step.field) << problem.Message;
+            EXPECT_EQ(problem.Message, "Error! " + step.message) << wrong;
+            EXPECT_TRUE(problem.Field == step.field) << wrong;
         }
         dialog.setEntry(step.field, step.right);
     }
@@ -173,13 +174,13 @@ TEST_F(SettingsTest, proposesWorkingSettingsWhereThereAreNoneAndAsksForTheRestAl
     std::string shown;
     for (const SettingRow& row : setupRows())
         shown += dialog.entry(row.Field) + ";";
-    EXPECT_EQ(shown, "HTTP;;21;;3;5;20;0;;;;" + folder.text() + "\\Clippings;;0;0;1;0;0;5;5;");
+    EXPECT_EQ(shown, "HTTP;;21;;3;5;20;0;;;;" + folder.text() + "/Clippings;;0;0;1;0;0;5;5;");
     dialog.setEntry(&Settings::Host, "h");
     dialog.setEntry(&Settings::Uid, "u");
     dialog.setEntry(&Settings::Pwd, "p");
     dialog.setEntry(&Settings::TimeOut, "0");  // its box is disabled
     EXPECT_EQ(dialog.cmdOk_Click().value_or(SetupProblem{}).Message, "");
-    EXPECT_EQ(setup.LocalDir, folder.text() + "\\Clippings");
+    EXPECT_EQ(setup.LocalDir, folder.text() + "/Clippings");
     EXPECT_TRUE(folder.has("Clippings"));
     EXPECT_EQ(setup.RetryOnFailure, 3);
     dialog.Form_Load();
@@ -219,17 +220,21 @@ TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
 TEST_F(SettingsTest, theDialogChangesTheSettingsAtOnceOnlyUntilItIsClosed) {
     load("[Host]\r\nProtocol=HTTP\r\n");
     dialog.Form_Load();
-    EXPECT_FALSE(dialog.isEnabled(&Settings::Port) || dialog.isEnabled(&Settings::TimeOut) ||
-                 dialog.isEnabled(&Settings::Passive));
+    const std::array<SettingField, 3> ofFtp{&Settings::Port, &Settings::TimeOut, &Settings::Passive};
+    for (const SettingField& field : ofFtp)
+        EXPECT_FALSE(dialog.isEnabled(field)) << rowOf(field).Key;
     dialog.setEntry(&Settings::Protocol, "FTP");
-    EXPECT_TRUE(dialog.isEnabled(&Settings::Port) && !setup.UseHTTP);
+    for (const SettingField& field : ofFtp)
+        EXPECT_TRUE(dialog.isEnabled(field)) << rowOf(field).Key;
+    EXPECT_FALSE(setup.UseHTTP);
     dialog.Form_Unload();
     EXPECT_TRUE(setup.UseHTTP);
     dialog.setEntry(&Settings::RetryDelay, " 7.50x");
     dialog.setEntry(&Settings::Pwd, "007");
     dialog.normalise(&Settings::RetryDelay);
     dialog.normalise(&Settings::Pwd);
-    EXPECT_EQ(dialog.entry(&Settings::RetryDelay) + dialog.entry(&Settings::Pwd), "7.5007");
+    EXPECT_EQ(dialog.entry(&Settings::RetryDelay), "7.5");
+    EXPECT_EQ(dialog.entry(&Settings::Pwd), "007");
 }
 
 }  // namespace vell::test

@@ -31,7 +31,7 @@ TEST_F(modCryptTest, givesBackEveryByteAtEveryLength) {
     EXPECT_EQ(errors_, "");
 }
 
-TEST_F(modCryptTest, scramblesAsTheFilesOfEarlierVersionsDo) {
+TEST_F(modCryptTest, comesToTheNumbersThatEveryBuildReads) {
     std::string rising(255, '\0');
     std::iota(rising.begin(), rising.end(), '\1');
     for (const auto& [clear, given, scrambled] :

@@ -12,6 +12,7 @@
 namespace vell::test {
 
 using testing::EndsWith;
+using testing::HasSubstr;
 using testing::StartsWith;
 
 class ConsoleTest : public testing::Test, protected StoreRig {
@@ -157,7 +158,8 @@ TEST_F(ConsoleTest, changesOneSettingWithTheDialogsChecksAndShowsNoPassword) {
         EXPECT_EQ(change(std::string(pieces[0]), std::string(pieces[1])), answer) << entry;
     }
     const std::string all = change("UID", {}) + change("", {});
-    EXPECT_TRUE(all.starts_with("0 ann\n!0 Protocol = HTTP") && all.find("\nPwd = (set)") != std::string::npos) << all;
+    EXPECT_THAT(all, StartsWith("0 ann\n!0 Protocol = HTTP"));
+    EXPECT_THAT(all, HasSubstr("\nPwd = (set)"));
     EXPECT_EQ((all + folder.get("vell.ini")).find("topsecret"), std::string::npos);
     files.Trouble = "vell.ini";
     EXPECT_EQ(change("Pwd", "other"), "1 !Error! The settings file could not be written\n");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
+#include "log/logLine.h"
 #include "tests/support/SettingsRig.h"
 
 namespace vell::test {
@@ -47,9 +48,20 @@ TEST(EventLogTest, survivesEverythingThatHappensToItsFile) {
     EXPECT_EQ(log.FileName(), folder.text() + "\\vell.log");
     EXPECT_TRUE(folder.has("vell.log"));  // asking for the name makes the file
     std::filesystem::remove_all(folder.path());
+    std::vector<std::string> told;
+    log.onFailure([&](std::string_view text) { told.emplace_back(text); });
+    log.log("lost");
     log.log("lost");
     log.Reset();
     EXPECT_FALSE(std::filesystem::exists(folder.path()));
+    EXPECT_THAT(told, testing::ElementsAre(testing::HasSubstr(folder.text() + "\\Log.txt"))) << "once";
+}
+
+TEST(EventLogTest, letsNobodyElseWriteItsLinesOrSteerTheTerminal) {
+    const std::string stamp = "07/03/2004 06:05:09,   ";
+    EXPECT_EQ(logLine(stamp + "220 a\tb\x1b[2J\x07\x7F\xE1\r\n" + stamp + "forged\n" + "07/03/2004 06:05"),
+              stamp + "220 a\tb.[2J..\xE1\r\n\t\t" + stamp + "forged\n07/03/2004 06:05");
+    EXPECT_EQ(logLine(std::string(70000, 'x')), std::string(65536, 'x') + " ... (4464 bytes more)");
 }
 
 }  // namespace vell::test
