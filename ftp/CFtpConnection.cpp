@@ -240,7 +240,8 @@ bool CFtpConnection::CloseConnection() {
         BreakeConnection();
         return true;
     }
-    const bool closed = operation<bool>("CloseConnection()", {}, [this] { return commands_.SendQuit() == 221; });
+    const bool closed =
+        operation<bool>("CloseConnection()", {}, [this] { return !IsConnected() || commands_.SendQuit() == 221; });
     BreakeConnection();
     return closed;
 }

@@ -18,6 +18,7 @@ class ByteBlock {
         if (!room_) room_ = std::make_unique_for_overwrite<char[]>(capacity);
         return room_.get();
     }
+    [[nodiscard]] bool hasRoom() const { return room_ != nullptr; }
     void filled(std::size_t bytes) { size_ = bytes; }
     [[nodiscard]] std::string_view bytes() const { return {room_.get(), size_}; }
     [[nodiscard]] std::size_t size() const { return size_; }

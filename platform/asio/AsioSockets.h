@@ -7,6 +7,7 @@
 namespace vell {
 
 class AsioEventLoop;
+class BlockPool;
 
 // Sockets on the loop's context. The loop must outlive them.
 class AsioSockets : public Sockets {
@@ -18,6 +19,7 @@ class AsioSockets : public Sockets {
   private:
     AsioEventLoop& loop_;
     HostResolver resolver_;
+    std::shared_ptr<BlockPool> blocks_;
 };
 
 }  // namespace vell

@@ -35,8 +35,9 @@ std::string textOf(const std::optional<tcp::endpoint>& end) {
 
 }  // namespace
 
-AsioTcpSocket::AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, TcpSocketEvents& events)
-    : loop_(loop), resolver_(std::move(resolver)), events_(events) {}
+AsioTcpSocket::AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, std::shared_ptr<BlockPool> blocks,
+                             TcpSocketEvents& events)
+    : loop_(loop), resolver_(std::move(resolver)), blocks_(std::move(blocks)), events_(events) {}
 
 AsioTcpSocket::~AsioTcpSocket() {
     AsioTcpSocket::Close();
@@ -163,7 +164,7 @@ void AsioTcpSocket::adopt(tcp::socket socket) {
     std::error_code problem;
     local_ = unlessGone(socket.local_endpoint(problem), problem);
     remote_ = unlessGone(socket.remote_endpoint(problem), problem);
-    stream_ = std::make_shared<SocketStream>(std::move(socket), *this);
+    stream_ = std::make_shared<SocketStream>(std::move(socket), *this, blocks_);
     state_ = SocketState::Connected;
     stream_->start();
 }

@@ -22,7 +22,8 @@ class AsioTcpSocket final : public TcpSocket,
                             public SocketListener::Owner,
                             public SocketStream::Owner {
   public:
-    AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, TcpSocketEvents& events);
+    AsioTcpSocket(AsioEventLoop& loop, HostResolver resolver, std::shared_ptr<BlockPool> blocks,
+                  TcpSocketEvents& events);
     ~AsioTcpSocket() override;
     AsioTcpSocket(const AsioTcpSocket&) = delete;
     AsioTcpSocket& operator=(const AsioTcpSocket&) = delete;
@@ -57,6 +58,7 @@ class AsioTcpSocket final : public TcpSocket,
 
     AsioEventLoop& loop_;
     HostResolver resolver_;
+    std::shared_ptr<BlockPool> blocks_;
     TcpSocketEvents& events_;
     SocketState state_ = SocketState::Closed;
     std::optional<asio::ip::address> expected_;

@@ -38,7 +38,13 @@ class SocketStream::Telling {
     std::shared_ptr<SocketStream> stream_;
 };
 
-SocketStream::SocketStream(tcp::socket socket, Owner& owner) : socket_(std::move(socket)), owner_(owner) {}
+SocketStream::SocketStream(tcp::socket socket, Owner& owner, std::shared_ptr<BlockPool> blocks)
+    : socket_(std::move(socket)), owner_(owner), blocks_(std::move(blocks)) {}
+
+SocketStream::~SocketStream() {
+    blocks_->give(std::move(arrived_));
+    blocks_->give(std::move(incoming_));
+}
 
 void SocketStream::start() {
     // A connection that is gone already refuses options; reading tells why.
@@ -101,6 +107,7 @@ void SocketStream::goOn() {
 void SocketStream::read() {
     if (stopped_ || reading_ || readEnded_ || depth_ >= deepest || incoming_.size() > 0) return;
     reading_ = true;
+    if (!incoming_.hasRoom()) incoming_ = blocks_->take();
     socket_.async_read_some(
         asio::buffer(incoming_.room(), ByteBlock::capacity),
         [self = shared_from_this()](const std::error_code& problem, std::size_t n) { self->onRead(problem, n); });

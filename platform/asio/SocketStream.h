@@ -10,6 +10,7 @@
 
 #include "base/errors.h"
 #include "platform/ByteBlock.h"
+#include "platform/asio/BlockPool.h"
 
 namespace vell {
 
@@ -25,7 +26,10 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
         virtual void onFailed(const RunTimeError& error) = 0;
     };
 
-    SocketStream(asio::ip::tcp::socket socket, Owner& owner);
+    SocketStream(asio::ip::tcp::socket socket, Owner& owner, std::shared_ptr<BlockPool> blocks);
+    ~SocketStream();
+    SocketStream(const SocketStream&) = delete;
+    SocketStream& operator=(const SocketStream&) = delete;
 
     void start();
     // At once: the owner is not spoken to again. What has arrived can still be taken.
@@ -53,6 +57,7 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
 
     asio::ip::tcp::socket socket_;
     Owner& owner_;
+    std::shared_ptr<BlockPool> blocks_;
     bool stopped_ = false;
     int depth_ = 0;  // of the owner's handlers that are running, each but the first inside a yield of another
 

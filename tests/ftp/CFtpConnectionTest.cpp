@@ -206,6 +206,13 @@ TEST_F(CFtpConnectionTest, losesNothingWhenTheServerSaysMoreThanItOwes) {
         EXPECT_EQ(ftp.IsConnected(), c.Connected);
         EXPECT_TRUE(ftp.CloseConnection());
     }
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", file + "|~9|421 Idle|!");
+    connectTo(server);
+    EXPECT_TRUE(ftp.downloadFile("a.pdf", local("a.pdf"), 0));
+    clock.advance(std::chrono::milliseconds{9});
+    loop.DoEvents();
+    EXPECT_TRUE(ftp.CloseConnection());  // the server was the first to leave
     EXPECT_LT(seconds(), 5);
 }
 
