@@ -64,8 +64,11 @@ bool InternetLink::dial() {
     };
     say("Starting " + name);
     const bool ok = p_.gInet.Dial(0, p_.Setup.DialUp, dialUnattended, false);
+    const std::string reason = p_.gInet.failureReason();
     p_.Loop.DoEvents();
     if (!ok) say("Error starting " + name);
+    // The message stays where it is read at leisure, while the status line goes on.
+    if (!ok && !reason.empty()) p_.Status.displayInfoMessageBox("Error starting " + name + "\r\n" + reason);
     return ok;
 }
 

@@ -79,6 +79,13 @@ TEST_F(InternetLinkTest, dialsOnlyWhereAModemIsTheWay) {
     EXPECT_FALSE(link.StartINET());
     EXPECT_EQ(logged(), flags("True", "False", starting + "\n" + notStarted + "\n"));
     EXPECT_EQ(statuses(), (Lines{starting, notStarted}));
+    EXPECT_EQ(view.Message, "");
+    api.reason = "no carrier";
+    EXPECT_FALSE(link.StartINET());
+    EXPECT_EQ(view.Message, notStarted + "\r\nno carrier");
+    api.reason.clear();
+    logged();
+    statuses();
     api.flags = ConnectionApi::RasInstalled;
     EXPECT_FALSE(link.StartINET());
     EXPECT_EQ(logged(), flags("False", "False", "Error! There is no LAN connection to the internet.\n"));

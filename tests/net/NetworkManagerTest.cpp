@@ -75,7 +75,8 @@ TEST_F(NetworkManagerTest, dialsAProfileAndHangsItUp) {
         EXPECT_EQ(state(), (State{false, configured | Api::Modem}));
         EXPECT_EQ(connection_->InternetHangUp(handle_), 0U);
     }
-    EXPECT_TRUE(dial("My ISP") && connection_->InternetAutodialHangup());
+    EXPECT_TRUE(dial("My ISP"));
+    EXPECT_TRUE(connection_->InternetAutodialHangup());
     EXPECT_TRUE(client_->links().empty());
 }
 
@@ -113,7 +114,8 @@ TEST_F(NetworkManagerTest, joinsADialThatIsUnderWay) {
         loop_.KillTimer(timer);
         inner = dial("My ISP");
     });
-    EXPECT_TRUE(dial("My ISP") && inner);
+    EXPECT_TRUE(dial("My ISP"));
+    EXPECT_TRUE(inner);
     EXPECT_EQ(client_->links().size(), 1U);
 }
 
@@ -123,9 +125,12 @@ TEST_F(NetworkManagerTest, isAPhoneBook) {
     Lines names;
     EXPECT_EQ(ras.VBRasGetAllEntries("", names), 7);
     EXPECT_EQ(names, (Lines{"My ISP", mobile, "Forbidden", "Endless", "Crash", "No bus", "Wrong PIN"}));
-    EXPECT_TRUE(dial("My ISP") && dial(mobile) && ras.hangUp(" My ISP"));
+    EXPECT_TRUE(dial("My ISP"));
+    EXPECT_TRUE(dial(mobile));
+    EXPECT_TRUE(ras.hangUp(" My ISP"));
     EXPECT_EQ(ras.GetDialUpConnections(), Lines{mobile});
-    EXPECT_TRUE(ras.hangUpAll() && client_->links().empty());
+    EXPECT_TRUE(ras.hangUpAll());
+    EXPECT_TRUE(client_->links().empty());
     EXPECT_EQ(ras.errorText(668), "The connection dropped.");
 }
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <poll.h>
 #include <sys/stat.h>
@@ -13,6 +14,8 @@
 
 namespace vell::test {
 namespace {
+
+using testing::EndsWith, testing::StartsWith;
 
 // CUPS as far as its commands show it.
 class CupsPrintersTest : public testing::Test {
@@ -59,17 +62,17 @@ TEST_F(CupsPrintersTest, tellsThePrintersOptionsInNumbers) {
 
 TEST_F(CupsPrintersTest, saysWhyThereIsNoPrinterAndWaitsForNoneForEver) {
     put("lpstat", "echo no system default destination\n");
-    EXPECT_TRUE(asked().starts_with("There is no default printer. Choose one"));
+    EXPECT_THAT(asked(), StartsWith("There is no default printer. Choose one"));
     put("lpstat", "echo 'lpstat: error - PRINTER names \"gone\".'\n");
-    EXPECT_TRUE(asked().ends_with(" CUPS says: lpstat: error - PRINTER names \"gone\"."));
+    EXPECT_THAT(asked(), EndsWith(" CUPS says: lpstat: error - PRINTER names \"gone\"."));
     ASSERT_EQ(mkfifo((folder_.path() / "life").c_str(), 0600), 0);
     const FileHandle life({"", folder_.text() + "/life"}, O_RDONLY | O_NONBLOCK);
     put("lpstat", "exec 3>\"" + folder_.text() + "/life\"\nexec sleep 60\n");
-    EXPECT_TRUE(asked(std::chrono::seconds{1}).starts_with("The print server does not answer."));
+    EXPECT_THAT(asked(std::chrono::seconds{1}), StartsWith("The print server does not answer."));
     pollfd ended{life.get(), POLLIN, 0};
     EXPECT_EQ(poll(&ended, 1, 20'000), 1) << "the command that hangs goes on";
     setenv("PATH", "/nowhere", 1);
-    EXPECT_TRUE(asked().ends_with("Install the package cups-client."));
+    EXPECT_THAT(asked(), EndsWith("Install the package cups-client."));
 }
 
 }  // namespace

@@ -128,7 +128,7 @@ TEST_F(CurlInternetTest, sendsCredentialsOnlyWhenTheServerAsksForThem) {
     EXPECT_EQ(internet_.RawHeaders(*request, 1024).substr(0, 15), "HTTP/1.0 200 OK");
     ASSERT_EQ(peer.requests().size(), 2U);
     EXPECT_EQ(peer.requests()[0].find("Authorization"), std::string::npos);
-    EXPECT_TRUE(peer.requests()[1].ends_with("a=b"));
+    EXPECT_THAT(peer.requests()[1], testing::EndsWith("a=b"));
 }
 
 TEST_F(CurlInternetTest, aHandlerThatHoldsTheLoopForMinutesIsNoSilenceOfTheServers) {
