@@ -101,7 +101,7 @@ int FtpControlChannel::reply(Codes expected, const FtpReading& how) {
         last_ = take();
         const int code = last_.Code;
         const bool fits = std::ranges::find(expected, code) != expected.end();
-        if (!fits && (code == transferComplete || code == how.Late)) continue;
+        if (!fits && (code == transferComplete || (how.Late != 0 && code == how.Late))) continue;
         if (!fits) context_.Errors.CheckReplyCode(code);
         if (!isPreliminary(code)) settle(code);
         return code;

@@ -151,11 +151,13 @@ TEST_F(CFtpConnectionTest, downloadsWholeFilesAndTellsAtOnceWhyItCannot) {
 struct Received : OutputFile {
     void Write(std::string_view bytes) override {
         if (Full) throw RunTimeError(61, "Disk full");
+        Slows();
         Bytes += bytes;
     }
     void Close() override { FAIL() << "it is the caller's to close"; }
     std::string Bytes;
     bool Full = false;
+    std::function<void()> Slows = [] {};
 };
 
 TEST_F(CFtpConnectionTest, writesToTheFileItIsHandedAndLeavesTheDiskAlone) {
@@ -185,7 +187,7 @@ TEST_F(CFtpConnectionTest, losesNothingWhenTheServerSaysMoreThanItOwes) {
     // clang-format off
     for (const Case& c : std::vector<Case>{
              {"RETR", file + "\r\n226 b"}, {"RETR", file + "|~9|226 b"}, {"RETR", file + "\r\n"}, {"RETR", file + "|~9|"
-              ">\r\n"}, {"RETR", file + "|~9|200 Hi"}, {"RETR", file + "|~9|>22"},
+              ">\r\n"}, {"RETR", file + "|~9|200 Hi"}, {"RETR", file + "|~9|>25"}, {"RETR", "200 late|" + file},
              {"TYPE", "226 late|200 Fine"}, {"TYPE", "200 late|200 Fine"}, {"TYPE", ">\r\n|200 Fine"},
              {"RETR", file + "\r\n421 Idle", false}, {"RETR", file + "|~9|421 Idle", false},
          }) {
@@ -200,7 +202,7 @@ TEST_F(CFtpConnectionTest, losesNothingWhenTheServerSaysMoreThanItOwes) {
             EXPECT_EQ(folder.get("a.pdf"), "new");
             for (int turn = 0; turn < 5; ++turn)
                 loop.WaitForEvents(10);
-            if (c.Steps.ends_with(">22")) server.on("TYPE", ">6 b\r\n|200 Fine");
+            if (c.Steps.ends_with(">25")) server.on("TYPE", ">0 b\r\n|200 Fine");
             server.on("RETR", file);
         }
         EXPECT_EQ(ftp.IsConnected(), c.Connected);
@@ -255,6 +257,12 @@ TEST_F(CFtpConnectionTest, givesUpATransferThatOnlyDripsForFiveMinutes) {
         EXPECT_NEAR(seconds() - begin, everyFourSeconds > 256 ? 400 : 302, 3);
     }
     EXPECT_EQ(ftp.FtpGetLastError(), 33);
+    ScriptedServer server(sockets, loop);
+    server.on("RETR", "150 a|+x|~9|+x|=|226 b");
+    connectTo(server);
+    Received file;
+    file.Slows = [this] { clock.advance(std::chrono::minutes{6}); };  // a full disk that somebody is asked about
+    EXPECT_TRUE(ftp.downloadFile("a.pdf", file, 0));
 }
 
 TEST_F(CFtpConnectionTest, asksWhetherToKeepWaitingWhenSomebodyIsThere) {
