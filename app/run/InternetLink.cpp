@@ -120,7 +120,7 @@ bool InternetLink::hangUpByRas(Refreshing refreshing) {
     step([&] { p_.Ras.hangUpAll(); });
     step([&] { p_.Loop.DoEvents(); });
     // Without a question the state is read as the last attempt left it: such a hang-up counts as failed even when it
-    // worked. People and their logs know it so.
+    // worked: rather a warning too many than a line left open unnoticed.
     if (refreshing == Refreshing::Yes) step([&] { p_.gInet.Refresh(); });
     return !p_.gInet.IsConnected();
 }
