@@ -300,24 +300,6 @@ TEST_F(DemoFtpTest, takesCommandsInPiecesTogetherOverlongAndWithTelnetCodes) {
     EXPECT_EQ(caller.code(), 200);
 }
 
-TEST_F(DemoFtpTest, worksWithCurlActivePassiveFromAnOffsetAndWithQuotedCommands) {
-    const std::string base = "ftp://vell:ruxo@" + service_.ftp() + "/torvoarchive/X.PDF", content = contentOf("X.PDF");
-    const auto curl = [&](std::vector<std::string> words) {
-        words.insert(words.begin(), {"curl", "-sS", "-m", "20"});
-        const Ended ended = run(words);
-        EXPECT_EQ(ended.ExitCode, 0) << ended.Errors;
-        return ended.Out;
-    };
-    EXPECT_EQ(curl({base}), content);
-    EXPECT_EQ(curl({"--ftp-port", "-", base}), content);
-    EXPECT_EQ(curl({"-C", "700", "--ftp-port", "-", base}), content.substr(700));
-    EXPECT_EQ(curl({"-r", "10-19", base}), content.substr(10, 10));
-    tree_.put("up.txt", "from curl");
-    curl({"-T", tree_.text() + "/up.txt", "-Q", "MKD upload/new", "-Q", "-RNFR b.txt", "-Q", "-RNTO c.txt",
-          "ftp://demo:demo@" + service_.ftp() + "/upload/new/b.txt"});
-    EXPECT_EQ(tree_.get("upload/new/c.txt"), "from curl");
-}
-
 // A file that takes a minute, so that something can happen in the middle.
 class DemoLongTransferTest : public testing::Test {
   protected:

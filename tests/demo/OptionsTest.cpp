@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <chrono>
 #include <csignal>
 
 #include <gtest/gtest.h>
@@ -87,23 +86,6 @@ TEST(DemoOptionsTest, endsCleanlyBySignalEvenWhileCallersAreConnected) {
         EXPECT_NE(ended.Out.find("GET /none -> 404"), std::string::npos) << ended.Out;
         EXPECT_NE(ended.Out.find("07/03/2004  2 clippings"), std::string::npos) << ended.Out;
     }
-}
-
-TEST(DemoOptionsTest, stopsByItself) {
-    const SmallTree tree;
-    const auto begin = std::chrono::steady_clock::now();
-    EXPECT_EQ(runService({"--root", tree.text(), "--for", "1"}).ExitCode, 0);
-    const auto took = std::chrono::steady_clock::now() - begin;
-    EXPECT_GE(took, std::chrono::seconds{1});
-    EXPECT_LT(took, patience);
-}
-
-TEST(DemoOptionsTest, listensElsewhereWhenThatIsAskedFor) {
-    const SmallTree tree;
-    const DemoProcess service(tree.path(), {"--public", "--http", "0.0.0.0:0", "--ftp", "localhost:0"});
-    EXPECT_TRUE(service.http().starts_with("0.0.0.0:"));
-    EXPECT_TRUE(service.ftp().starts_with("127.0.0.1:"));
-    EXPECT_EQ(get("127.0.0.1" + service.http().substr(service.http().rfind(':')), "/").Status, 404);
 }
 
 }  // namespace
