@@ -3,6 +3,7 @@
 """Attacks the console program from outside, with the demo service as its peer, and counts which promises break.
 
     tests/robustness/robustness.py BIN_FOLDER [--seed N] [--kills 500] [--other-kills 300] [--only WORD]
+                                     [--tell 4]
 
 BIN_FOLDER holds vell-console and vell-demo-service of a build without sanitizers (build/release/bin). Kills come at
 random moments of downloads over HTTP and FTP, of clippings that are published again meanwhile, and of setup, schedule,
@@ -29,7 +30,9 @@ ERRORS = (errno.ENOSPC, errno.EIO, errno.EACCES)
 
 
 class Tally:
-    """The figures of one scenario, and the first few faults in words."""
+    """The figures of one scenario, and the first few faults of each kind in words."""
+
+    told = 4
 
     def __init__(self, name):
         self.name, self.attacks, self.hits, self.faults = name, 0, 0, collections.Counter()
@@ -38,7 +41,7 @@ class Tally:
     def add(self, found, how):
         for kind, what in found:
             self.faults[kind] += 1
-            if self.faults[kind] <= 4:
+            if self.faults[kind] <= self.told:
                 print(f"  {self.name}: {kind}: {what} [{how}]", flush=True)
 
     def row(self):
@@ -196,6 +199,11 @@ def log_of(box):
     return {re.sub(r"[0-9.,/:() ]+", " ", line) for line in lines}
 
 
+def keeps_no_log(errors):
+    """Whether it ended before it could know that there is to be a log."""
+    return "vell-console:" in errors or "settings file" in errors
+
+
 def every_fault(box, faults, tally, words, prepare, check):
     """The n-th call fails, once and from then on, n rising until the program makes no such call any more."""
     prepare()
@@ -216,7 +224,7 @@ def every_fault(box, faults, tally, words, prepare, check):
                 tally.add([("wrong exit code", f"{code} {said(errors)}")], label)
             elif code and not said(errors) and "error" not in out.lower() and not log_of(box) - usual_log:
                 tally.add([("silent failure", out[-120:])], label)
-            elif code and not faults.in_log and "vell-console:" not in errors and not log_of(box) - usual_log:
+            elif code and not (faults.in_log or log_of(box) - usual_log or keeps_no_log(errors)):
                 tally.add([("not in the log", f"{out[-120:]} {said(errors)}")], label)
             check(before, code, label)
 
@@ -265,7 +273,9 @@ def main():
     parser.add_argument("--kills", type=int, default=500, help="of downloads, over each protocol")
     parser.add_argument("--other-kills", type=int, default=300, help="of the other commands together")
     parser.add_argument("--only", default="", help="only scenarios whose name has this word")
+    parser.add_argument("--tell", type=int, default=4, help="so many faults of each kind in words")
     options = parser.parse_args()
+    Tally.told = options.tell
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(143))
     tallies = []
     with tempfile.TemporaryDirectory(prefix="vell-robustness-") as name:
