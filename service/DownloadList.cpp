@@ -127,7 +127,7 @@ void DownloadList::fillDownloadList(const std::vector<std::string>& records,
         if (record.empty()) continue;
         ++state_.gClippingsCount;
         const std::string name(indexKey(record));
-        const std::string change(indexField(record, IndexField::Change));
+        const std::string change(indexChange(record));
         auto forms = clippingForms(name);
         for (std::size_t i = 0; i < forms.size(); ++i)
             append({std::move(forms[i]), indexSize(record, sizeFields[i]), change, changed.contains(name)});

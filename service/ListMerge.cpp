@@ -12,8 +12,8 @@ namespace {
 
 // What the old line says of the files that are here.
 void takeOver(std::string& line, std::string_view old, std::unordered_set<std::string>& changed) {
-    const std::string_view oldChange = indexField(old, IndexField::Change);
-    if (oldChange != indexField(line, IndexField::Change)) {
+    const std::string_view oldChange = indexChange(old);
+    if (oldChange != indexChange(line)) {
         changed.emplace(indexKey(line));
         setIndexField(line, IndexField::Change, oldChange);
     } else if (isMarked(old)) {

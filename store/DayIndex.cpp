@@ -13,7 +13,7 @@ DayIndex::DayIndex(Files& files) : files_(files) {}
 
 int DayIndex::markDownloaded(const std::string& dayFolder, const std::string& pdfName, std::string_view change) {
     load(dayFolder + std::string(indexFileName));
-    const auto isOther = [&](const Line& line) { return indexField(textOf(line), IndexField::Change) != change; };
+    const auto isOther = [&](const Line& line) { return indexChange(textOf(line)) != change; };
     if (std::ranges::any_of(linesOf_[pdfName], isOther)) setChange(pdfName, change);
     const std::vector<Line>& lines = linesOf_[pdfName];
     std::vector<std::size_t> changed;

@@ -40,6 +40,11 @@ std::string_view indexKey(std::string_view line) {
     return line.substr(0, line.find(separator));
 }
 
+std::string_view indexChange(std::string_view line) {
+    const std::string_view change = indexField(line, IndexField::Change);
+    return change.substr(0, change.find_last_not_of('|') + 1);
+}
+
 std::int32_t indexSize(std::string_view line, IndexField field) {
     constexpr double most = std::numeric_limits<std::int32_t>::max();
     try {

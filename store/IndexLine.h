@@ -34,6 +34,8 @@ inline constexpr std::size_t fewestIndexFields = 5;
 [[nodiscard]] std::string_view indexField(std::string_view line, IndexField field);
 // The text before the first "||".
 [[nodiscard]] std::string_view indexKey(std::string_view line);
+// The change field, without a "|" at its end: when another field follows, it would count to the separator.
+[[nodiscard]] std::string_view indexChange(std::string_view line);
 // The number in a field with a size; 0 for none and the greatest number for one beyond it. A size is of use for
 // progress and checks: an absurd one must not cost the user the day.
 [[nodiscard]] std::int32_t indexSize(std::string_view line, IndexField field);
