@@ -20,7 +20,7 @@ void SettingsLoader::GetSetup() {
     if (!ini_.isReadable()) return log_.WriteLog("GetSetup()");
     complaint_ =
         "The settings file holds a password that cannot be read, and what stands behind it is left out. Set the "
-        "passwords anew: in Setup, or with 'vell-console setup Pwd -' and 'vell-console setup proxyPwd -'.";
+        "passwords anew in Setup ('vell-console setup Pwd -' and 'vell-console setup proxyPwd -').";
     try {
         for (const SettingRow& row : settingRows())
             loadSetting(row, ini_, settings_, errors_);

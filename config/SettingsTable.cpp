@@ -115,6 +115,11 @@ constexpr std::array<SettingRow, 21> table{{
     {"General", "Debug", Kind::WholeNumber, &Settings::Debug},
 }};
 
+constexpr bool hasBox(const SettingRow& row) {
+    return !row.Meaning.empty();
+}
+static_assert(std::ranges::is_partitioned(table, hasBox));
+
 std::int16_t bounded16(double value) {
     return CInt16(std::clamp(value, least16, double{most16}));
 }
@@ -183,6 +188,10 @@ std::string_view failedCheck(const SettingRow& row, std::string_view entry) {
 
 std::span<const SettingRow> settingRows() {
     return table;
+}
+
+std::span<const SettingRow> setupRows() {
+    return settingRows().first(static_cast<std::size_t>(std::ranges::count_if(table, hasBox)));
 }
 
 const SettingRow& rowOf(const SettingField& field) {

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <ranges>
 #include <span>
 #include <string>
 #include <string_view>
@@ -35,10 +34,10 @@ using SettingField =
 
 // What an entry must be before the setup dialog saves it.
 struct SettingCheck {
-    int Turn = 0;                   // in which the checks are made; 0 for an entry that may be anything
-    std::string_view Missing = "";  // the complaint about an entry that is empty, or a number below `Least`
+    int Turn = 0;                // in which the checks are made; 0 for an entry that may be anything
+    std::string_view Missing{};  // the complaint about an entry that is empty, or a number below `Least`
     int Least = 0;
-    std::string_view TooHigh = "";  // the complaint about a number above `Most`
+    std::string_view TooHigh{};  // the complaint about a number above `Most`
     int Most = 0;
 };
 
@@ -48,19 +47,17 @@ struct SettingRow {
     std::string_view Key;
     SettingKind Kind = SettingKind::Text;
     SettingField Field;
-    std::string_view Meaning = "";             // in a few words, for people; empty for a setting that has no box
+    std::string_view Meaning{};                // in a few words, for people; empty for a setting without a box
     std::size_t Cut = std::string_view::npos;  // so many characters of a stored number count
     SettingCheck Check{};
-    std::string_view Default = "";   // stands for a missing or empty value
-    std::string_view Proposed = "";  // what the setup dialog shows instead of a missing or empty value
+    std::string_view Default{};   // stands for a missing or empty value
+    std::string_view Proposed{};  // what the setup dialog shows instead of a missing or empty value
 };
 
-// In the order in which the settings are loaded and saved.
+// In the order in which the settings are loaded and saved; those without a box come last.
 [[nodiscard]] std::span<const SettingRow> settingRows();
 // Those that the setup dialog has a box for.
-[[nodiscard]] inline auto setupRows() {
-    return settingRows() | std::views::filter([](const SettingRow& row) { return !row.Meaning.empty(); });
-}
+[[nodiscard]] std::span<const SettingRow> setupRows();
 [[nodiscard]] const SettingRow& rowOf(const SettingField& field);
 [[nodiscard]] bool isNumber(const SettingRow& row);
 [[nodiscard]] bool isFlag(const SettingRow& row);

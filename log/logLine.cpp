@@ -8,7 +8,7 @@ namespace vell {
 
 namespace {
 
-constexpr std::size_t longest = 64 * 1024;
+constexpr std::size_t longest = 65'536;
 
 bool isLineEnd(char c) {
     return c == '\r' || c == '\n';

@@ -184,9 +184,7 @@ TEST_F(ConsoleTest, takesPasswordsUnseenAndRepairsDamagedOnes) {
     const std::string shown = change("", {});
     const std::string damaged = "!" + std::string(loader.complaint()) + "\n";
     EXPECT_THAT(
-        shown,
-        EndsWith(
-            "passwords anew: in Setup, or with 'vell-console setup Pwd -' and 'vell-console setup proxyPwd -'.\n"));
+        shown, EndsWith("passwords anew in Setup ('vell-console setup Pwd -' and 'vell-console setup proxyPwd -').\n"));
     EXPECT_EQ(change("Pwd", "new"), "0 Pwd was saved.\n" + damaged);
     EXPECT_EQ(change("proxyPwd", "") + setup.Pwd + setup.LocalDir, "0 proxyPwd = (not set)\n!new/kept");
 }
