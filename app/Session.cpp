@@ -1,18 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "app/Session.h"
 
-#include <utility>
-
 namespace vell {
 
 const DownloadEntry* Session::currentEntry() const {
     const auto& list = Downloads.gDownloadList;
     const auto index = static_cast<std::size_t>(gCurrentFileIndex);
     return gCurrentFileIndex < 1 || index > list.size() ? nullptr : &list[index - 1];
-}
-
-DownloadEntry* Session::currentEntry() {
-    return const_cast<DownloadEntry*>(std::as_const(*this).currentEntry());
 }
 
 std::string Session::currentFile() const {

@@ -36,7 +36,6 @@ struct Session {
     std::int32_t gLastProgressBytes = 0;    // of the previous progress report of the current file
 
     // The entry of the list that is being fetched; null when none is.
-    [[nodiscard]] DownloadEntry* currentEntry();
     [[nodiscard]] const DownloadEntry* currentEntry() const;
     [[nodiscard]] std::string currentFile() const;
 };

@@ -10,7 +10,9 @@ namespace vell {
 // The client's own error numbers that are set outside the tables of FtpErrors.cpp.
 namespace ftp_error {
 inline constexpr std::int32_t ServiceReadyLater = 37;
-inline constexpr std::int32_t BadArgument = 48;  // as for reply 501
+inline constexpr std::int32_t UnknownCommand = 47;    // as for reply 500
+inline constexpr std::int32_t BadArgument = 48;       // as for reply 501
+inline constexpr std::int32_t UnknownParameter = 51;  // as for reply 504
 inline constexpr std::int32_t TimedOut = 58;
 inline constexpr std::int32_t TransferInProgress = 59;
 }  // namespace ftp_error

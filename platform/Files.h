@@ -41,6 +41,8 @@ class PartFile : public OutputFile {
     virtual void StartAt(std::int64_t offset) = 0;
     // A call that raises has left the length as it was and may be made again.
     void Write(std::string_view bytes) override = 0;
+    // Becomes what the file of that name in the same folder is, and that name is free; what the part held is gone.
+    virtual void Adopt(std::string_view path) = 0;
     // Closes, and becomes the file of that name in the same folder. An older file of that name gives way in the same
     // step, as does a link; its permissions are kept, and one that must not be written is left as it is.
     virtual void MoveTo(std::string_view path) = 0;

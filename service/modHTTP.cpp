@@ -3,12 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <limits>
 
 #include "base/text.h"
 #include "config/Settings.h"
-#include "platform/Files.h"
-#include "platform/MessageBoxes.h"
 #include "service/RunFeedback.h"
 
 namespace vell {
@@ -23,8 +20,6 @@ constexpr std::string_view formHeader = "Content-Type: application/x-www-form-ur
 // A list is some hundred kilobytes on the busiest day; an answer without end must not eat the machine's memory.
 constexpr std::size_t longestAnswer = 16U << 20;
 constexpr std::size_t longestBodyLogged = 64U << 10;
-// How far an announced length is believed before the bytes have come.
-constexpr std::int64_t mostReserved = 512LL << 20;
 
 // What may stand bare in the path of an address (RFC 3986, 3.3), "/" included.
 bool isBareInPath(char c) {
@@ -78,7 +73,11 @@ std::string BuildClippingUrl(std::string_view host, std::string_view remoteName)
 
 modHTTP::modHTTP(InternetApi& internet, Files& files, MessageBoxes& boxes, RunFeedback& feedback, EventLog& log,
                  const Settings& settings)
-    : internet_(internet), files_(files), boxes_(boxes), feedback_(feedback), log_(log), settings_(settings) {}
+    : internet_(internet),
+      feedback_(feedback),
+      log_(log),
+      settings_(settings),
+      receiver_(internet, files, boxes, feedback, log) {}
 
 struct modHTTP::Exchange {
     std::string_view Method;
@@ -182,13 +181,14 @@ void modHTTP::logFailure(std::string_view what) {
     log_.WriteLog("        " + std::string(what) + ". Error " + std::to_string(internet_.LastError()));
 }
 
-bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string& localPath,
+bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string& localPath, PartFile& part,
                                std::int32_t& bytesReceived) {
     bytesReceived = 0;
-    return trap(log_, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, bytesReceived); });
+    return trap(log_, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, part, bytesReceived); });
 }
 
-bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived) {
+bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
+                    std::int32_t& bytesReceived) {
     const auto session = internet_.InternetOpen(settings_.AgentName);
     const auto file =
         session ? internet_.InternetOpenUrl(*session, BuildClippingUrl(settings_.Host, remoteName)) : nullptr;
@@ -202,48 +202,9 @@ bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath,
         log_.WriteLog("        The service answered with status " + status);
         return false;
     }
-    std::string content;
-    if (!readContent(*file, content, bytesReceived)) {
-        logFailure("The file was cut short");
-        return false;
-    }
-    if (!makeSureOfSpace(localPath, bytesReceived)) return false;
-    files_.WriteWhole(localPath, content, Durability::Rename);
-    return true;
-}
-
-bool modHTTP::readContent(InternetApi::Object& file, std::string& content, std::int32_t& bytesReceived) {
-    content.reserve(static_cast<std::size_t>(std::clamp<std::int64_t>(internet_.ContentLength(file), 0, mostReserved)));
-    std::array<char, readStep> buffer;  // NOLINT(*-member-init): filled by each read
-    bool whole = true;
-    std::size_t read = 0;
-    do {
-        read = 0;
-        whole = internet_.InternetReadFile(file, buffer.data(), buffer.size(), read);
-        if (read > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max() - bytesReceived))
-            throw RunTimeError(error_number::Overflow, "Overflow");
-        content.append(buffer.data(), read);
-        bytesReceived += static_cast<std::int32_t>(read);
-        feedback_.HTTPDownloadProgress(bytesReceived);
-    } while (whole && read > 0);
-    return whole;
-}
-
-bool modHTTP::makeSureOfSpace(const std::string& localPath, std::int32_t bytes) {
-    if (localPath.starts_with("\\\\") || localPath.starts_with("//")) return true;
-    const std::string question = "Not enough free space available to save " + localPath + ". Please free up at least " +
-                                 std::to_string(bytes / 1024) + " kb from your disk and click Retry";
-    while (!HasFreeSpace(localPath, bytes)) {
-        log_.WriteLog("        " + question);
-        if (boxes_.Show(question, "Not enough free space", Buttons::RetryCancel, BoxIcon::None) != Answer::Retry)
-            return false;
-    }
-    return true;
-}
-
-bool modHTTP::HasFreeSpace(std::string_view localPath, std::int32_t bytes) const {
-    const auto free = files_.FreeBytes(localPath);
-    return free && *free > static_cast<std::uint64_t>(bytes);
+    const auto end = receiver_.receive(*file, localPath, part, bytesReceived);
+    if (end == FileReceiver::End::Cut) logFailure("The file was cut short");
+    return end == FileReceiver::End::Whole;
 }
 
 }  // namespace vell

@@ -7,11 +7,13 @@
 
 #include "log/EventLog.h"
 #include "platform/InternetApi.h"
+#include "service/FileReceiver.h"
 
 namespace vell {
 
 class Files;
 class MessageBoxes;
+class PartFile;
 class RunFeedback;
 struct Settings;
 
@@ -34,8 +36,10 @@ class modHTTP {
     bool OpenUrl(std::string_view method, std::string_view host, std::string_view script, std::string_view postData,
                  std::string& body, std::string& headers);
 
-    // Fetches a file of the service into memory, and from there to `localPath`, where it appears whole or not at all.
-    bool HttpDownloadFile(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived);
+    // Fetches a file of the service to `part`, which begins anew and is the caller's to put in place under
+    // `localPath`. True for status 200 and a whole answer; what it is worth the caller must see.
+    bool HttpDownloadFile(const std::string& remoteName, const std::string& localPath, PartFile& part,
+                          std::int32_t& bytesReceived);
 
   private:
     struct Exchange;
@@ -47,17 +51,14 @@ class modHTTP {
     [[nodiscard]] bool judge(std::string_view headers);
     void logFailure(std::string_view what);
 
-    [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, std::int32_t& bytesReceived);
-    [[nodiscard]] bool readContent(InternetApi::Object& file, std::string& content, std::int32_t& bytesReceived);
-    [[nodiscard]] bool makeSureOfSpace(const std::string& localPath, std::int32_t bytes);
-    [[nodiscard]] bool HasFreeSpace(std::string_view localPath, std::int32_t bytes) const;
+    [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
+                             std::int32_t& bytesReceived);
 
     InternetApi& internet_;
-    Files& files_;
-    MessageBoxes& boxes_;
     RunFeedback& feedback_;
     EventLog& log_;
     const Settings& settings_;
+    FileReceiver receiver_;
 };
 
 }  // namespace vell

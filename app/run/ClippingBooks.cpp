@@ -10,31 +10,52 @@
 
 namespace vell {
 
+namespace {
+constexpr std::chrono::seconds markInterval{10};
+}
+
 void ClippingBooks::open() {
     pdfOk_ = false;
     textOk_ = false;
+    arrived_.clear();
+    markedAt_ = p_.Time.Steady();
 }
 
-void ClippingBooks::enter(const std::string& name, bool ok) {
+void ClippingBooks::enter(const DownloadEntry& entry, bool ok) {
+    const std::string& name = entry.FileName;
     const std::string_view ending = Right(name, 3);
     if (ending == "PDF") pdfOk_ = ok;
     if (ending == "TXT") textOk_ = ok;
     if (ending != ".MT") return;
-    if (ok && textOk_ && pdfOk_) markDownloaded(Replace(name, ".MT", ".PDF"));
+    if (ok && textOk_ && pdfOk_) {
+        arrived_.push_back({Replace(name, ".MT", ".PDF"), entry.Change});
+        ++p_.State.gClippingsDownloaded;
+    }
     pdfOk_ = false;
     textOk_ = false;
+    if (p_.Time.Steady() - markedAt_ >= markInterval) markArrived();
 }
 
-void ClippingBooks::markDownloaded(const std::string& pdfName) {
-    try {
-        const DownloadEntry* entry = p_.State.currentEntry();
-        const std::string change = entry != nullptr ? entry->Change : std::string();
-        p_.State.gClippingsDownloaded += index_.markDownloaded(p_.State.Run.Day.gDayFolder, pdfName, change);
-    } catch (...) {
-        // An index that cannot be written must not keep the next clippings from coming.
-        p_.Log.LogError(currentError(), "StartDownload()");
-        ++p_.State.Run.Outcome.FilesFailed;
-    }
+void ClippingBooks::close() {
+    markArrived();
+    const int lost = static_cast<int>(arrived_.size());
+    p_.State.gClippingsDownloaded -= lost;
+    p_.State.Run.Outcome.FilesFailed += lost;
+    arrived_.clear();
+}
+
+// An index that cannot be written must not keep the next clippings from coming: it is tried again the next time.
+void ClippingBooks::markArrived() {
+    markedAt_ = p_.Time.Steady();
+    if (arrived_.empty()) return;
+    trapStep(p_.Log, "StartDownload()", [&] {
+        const std::string& folder = p_.State.Run.Day.gDayFolder;
+        p_.Disk.Flush(folder);
+        while (!arrived_.empty()) {
+            (void)index_.markDownloaded(folder, arrived_.back().PdfName, arrived_.back().Change);
+            arrived_.pop_back();
+        }
+    });
 }
 
 void ClippingBooks::printWhenNew(const std::string& name, std::int64_t before) {

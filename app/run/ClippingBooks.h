@@ -3,8 +3,10 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 #include "log/EventLog.h"
+#include "platform/Clock.h"
 #include "store/DayIndex.h"
 
 namespace vell {
@@ -13,14 +15,17 @@ class Articles;
 class Files;
 class modGlobal;
 class TransferProgress;
+struct DownloadEntry;
 struct Session;
 
 // What a run does with a file once its attempts have ended: it marks a clipping whose three files have all come, and
-// prints what is new where that is wished.
+// prints what is new where that is wished. A mark is written when the disk has the files that it speaks of; making
+// sure of that costs a wait, so it is done at most every ten seconds, for all that has come, and at the end.
 class ClippingBooks {
   public:
     struct Parts {
         Session& State;
+        const Clock& Time;
         Files& Disk;
         EventLog& Log;
         modGlobal& Store;
@@ -31,19 +36,27 @@ class ClippingBooks {
 
     // A run begins.
     void open();
+    // It ends. What could not be marked counts as failed.
+    void close();
     // The attempts at a file have ended. The files of a clipping come as PDF, TXT, MT; the last one closes it.
-    void enter(const std::string& name, bool ok);
+    void enter(const DownloadEntry& entry, bool ok);
     // `before`: the length that the file had before its turn. One that has it still is no news.
     void printWhenNew(const std::string& name, std::int64_t before);
 
   private:
-    void markDownloaded(const std::string& pdfName);
+    struct Clipping {
+        std::string PdfName;
+        std::string Change;  // of the version that has come
+    };
+    void markArrived();
     void say(const std::string& text);
 
     Parts p_;
     DayIndex index_;
     bool pdfOk_ = false;
     bool textOk_ = false;
+    std::vector<Clipping> arrived_;  // without their mark yet
+    SteadyTime markedAt_{};
 };
 
 }  // namespace vell

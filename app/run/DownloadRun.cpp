@@ -15,9 +15,9 @@ namespace vell {
 
 DownloadRun::DownloadRun(const Parts& parts)
     : p_(parts),
-      books_({p_.State, p_.Disk, p_.Log, p_.Store, p_.Article, p_.Progress}),
-      turns_({p_.State, p_.View, p_.Loop, p_.Time, p_.Disk, p_.Log, p_.Http, p_.Ftp, books_, p_.Browser, p_.Progress}) {
-}
+      transfer_({p_.State, p_.Loop, p_.Time, p_.Disk, p_.Log, p_.Http, p_.Ftp}),
+      books_({p_.State, p_.Time, p_.Disk, p_.Log, p_.Store, p_.Article, p_.Progress}),
+      turns_({p_.State, p_.View, p_.Loop, p_.Time, p_.Disk, p_.Log, transfer_, books_, p_.Browser, p_.Progress}) {}
 
 void DownloadRun::StartDownload() {
     Session& state = p_.State;
@@ -31,6 +31,7 @@ void DownloadRun::StartDownload() {
         p_.Log.WriteLog("ERROR while downloading files.");
         p_.Log.LogError(error, "StartDownload()");
         p_.Progress.StatusBar("ERROR while downloading files.");
+        books_.close();
     }
     p_.Browser.loadAlert();
 }
@@ -87,6 +88,7 @@ void DownloadRun::fetchAll() {
     const auto count = static_cast<std::int32_t>(state.Downloads.gDownloadList.size());
     state.gClippingsDownloaded = 0;
     state.gLastProgressBytes = 0;
+    transfer_.begin();
     books_.open();
     p_.View.showProgress(0, 0);
     const Articles::Batch printing(p_.Article);
@@ -94,6 +96,7 @@ void DownloadRun::fetchAll() {
     p_.Browser.refresh();
     for (std::int32_t i = 1; i <= count && !state.gStopRequested; ++i)
         lastOk_ = turns_.take(i);
+    books_.close();
     p_.Browser.refresh();
 }
 

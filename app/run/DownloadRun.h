@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/run/ClippingBooks.h"
+#include "app/run/FileTransfer.h"
 #include "app/run/FileTurns.h"
 #include "log/EventLog.h"
 
@@ -57,6 +58,7 @@ class DownloadRun {
     void say(const std::string& text);  // in the status line and the log
 
     Parts p_;
+    FileTransfer transfer_;
     ClippingBooks books_;
     FileTurns turns_;
     bool lastOk_ = true;

@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <string>
 
+#include "app/run/FileTransfer.h"
 #include "log/EventLog.h"
+#include "service/DownloadState.h"
 
 namespace vell {
 
@@ -13,9 +15,7 @@ class ClippingsBrowser;
 class Clock;
 class EventLoop;
 class Files;
-class FtpSession;
 class MainView;
-class modHTTP;
 class TransferProgress;
 struct Session;
 
@@ -29,8 +29,7 @@ class FileTurns {
         const Clock& Time;
         Files& Disk;
         EventLog& Log;
-        modHTTP& Http;
-        FtpSession& Ftp;
+        FileTransfer& Transfer;
         ClippingBooks& Books;
         ClippingsBrowser& Browser;
         TransferProgress& Progress;
@@ -43,14 +42,13 @@ class FileTurns {
   private:
     struct Turn {
         std::int32_t Index;
-        std::string Name;
-        std::int64_t Start;  // bytes of it that were there before
+        DownloadEntry Entry;
+        std::int64_t Start;  // length that the file had before
         bool IsAdvertisement;
     };
 
-    [[nodiscard]] bool attempt(const Turn& turn);
+    [[nodiscard]] bool attempt(const Turn& turn, FileTransfer::Attempt attempt);
     [[nodiscard]] bool retry(const Turn& turn);
-    [[nodiscard]] bool adownloadFile(const std::string& name, const std::string& localPath);
     [[nodiscard]] std::string counter(std::int32_t index) const;
 
     Parts p_;

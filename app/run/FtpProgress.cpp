@@ -56,7 +56,6 @@ void FtpProgress::StateChanged(FtpState state) {
 }
 
 void FtpProgress::DownloadProgress(std::int32_t bytes) {
-    if (DownloadEntry* entry = session_.currentEntry()) entry->IsOutdated = false;  // what lies there now is new
     if (log_.isOn() || pacer_.isDue()) {
         pacer_.run([&] {
             const std::string text =

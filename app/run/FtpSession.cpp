@@ -78,24 +78,20 @@ bool FtpSession::isUp() {
     return true;
 }
 
-bool FtpSession::download(const std::string& name, const std::string& localPath) {
+bool FtpSession::download(const std::string& name, PartFile& part, std::int64_t offset,
+                          std::optional<std::int64_t> expectedLength) {
     if (!isUp()) return false;
-    if (!m_objFTP_.downloadFile(name, localPath, resumeOffset(name, localPath))) return false;
-    return isWhole(name, localPath);
+    if (m_objFTP_.downloadFile(name, part, offset, expectedLength)) return true;
+    if (offset > 0 && part.Length() == offset && refusedToResume()) {
+        log_.WriteLog("        The server cannot go on within a file. The next attempt fetches the whole of it.");
+        part.StartAt(0);
+    }
+    return false;
 }
 
-std::int32_t FtpSession::resumeOffset(const std::string& name, const std::string& localPath) const {
-    const DownloadEntry* entry = session_.currentEntry();
-    if (entry == nullptr || entry->IsOutdated || equalNoCase(name, advertisementFile)) return 0;
-    const auto length = platform_.Disk.FileSize(localPath).value_or(0);
-    return length < entry->Size ? static_cast<std::int32_t>(length) : 0;
-}
-
-// A transfer that ends well may still have brought less than the service announced.
-bool FtpSession::isWhole(const std::string& name, const std::string& localPath) const {
-    const DownloadEntry* entry = session_.currentEntry();
-    if (entry == nullptr || equalNoCase(name, advertisementFile)) return true;  // whose size is a guess
-    return platform_.Disk.FileSize(localPath).value_or(0) >= entry->Size;
+bool FtpSession::refusedToResume() const {
+    const std::int32_t error = m_objFTP_.FtpGetLastError();
+    return error >= ftp_error::UnknownCommand && error <= ftp_error::UnknownParameter;
 }
 
 bool FtpSession::StopFTP(bool ask) {

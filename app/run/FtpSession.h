@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "app/run/FtpProgress.h"
@@ -12,6 +13,7 @@
 namespace vell {
 
 class MainView;
+class PartFile;
 class TransferProgress;
 struct Platform;
 struct Session;
@@ -24,8 +26,10 @@ class FtpSession {
 
     // Opens the session and goes to the folder of clippings.
     [[nodiscard]] bool open();
-    // Fetches the current file of the download list; goes on where an earlier attempt has ended.
-    [[nodiscard]] bool download(const std::string& name, const std::string& localPath);
+    // Fetches a file to the part, from `offset` on, which is the part's length. Of a file of known length a server need
+    // not confirm that it was sent.
+    [[nodiscard]] bool download(const std::string& name, PartFile& part, std::int64_t offset,
+                                std::optional<std::int64_t> expectedLength);
     // Closes the session. A transfer that is under way is ended only when the user says so; without asking it goes on,
     // which is a failure.
     [[nodiscard]] bool StopFTP(bool ask);
@@ -36,8 +40,7 @@ class FtpSession {
     [[nodiscard]] bool StartFTP();
     [[nodiscard]] bool connect();
     [[nodiscard]] bool isUp();
-    [[nodiscard]] std::int32_t resumeOffset(const std::string& name, const std::string& localPath) const;
-    [[nodiscard]] bool isWhole(const std::string& name, const std::string& localPath) const;
+    [[nodiscard]] bool refusedToResume() const;
 
     Session& session_;
     const Platform& platform_;

@@ -9,6 +9,7 @@
 #include "service/DownloadList.h"
 #include "service/RunFeedback.h"
 #include "service/modHTTP.h"
+#include "tests/support/FaultyFiles.h"
 #include "tests/support/ServicePeer.h"
 #include "tests/support/StoreRig.h"
 
@@ -31,7 +32,14 @@ class ServiceTest : public testing::Test, protected StoreRig, protected RunFeedb
     void openSetup() override { onSetup(); }
 
     bool post() { return http.OpenUrl("POST", setup.Host, "/x.asp", "a=1&b=\xE1", body, headers); }
-    bool download() { return http.HttpDownloadFile(name, day.gDayFolder + name, received); }
+    // What came takes its place, as the run has it.
+    bool download() { return download(name); }
+    bool download(const std::string& file) {
+        const auto part = files.OpenPart(day.gDayFolder + ".part");
+        const bool whole = http.HttpDownloadFile(file, day.gDayFolder + file, *part, received);
+        whole ? part->MoveTo(day.gDayFolder + file) : part->Discard();
+        return whole;
+    }
     bool getFiles(const std::string& answer) {
         service.Answers[ServicePeer::listScript] = HttpPeer::ok(answer);
         return list.GetDownloadFiles();
@@ -135,7 +143,7 @@ TEST_F(ServiceTest, aFileAppearsWholeOrNotAtAll) {
     }
     EXPECT_EQ(status, "before File Not Available File Not Available");
     service.Answers["/clippings/A%23F.PDF"] = HttpPeer::ok("hash");
-    EXPECT_TRUE(http.HttpDownloadFile("A#F.PDF", day.gDayFolder + "A#F.PDF", received));
+    EXPECT_TRUE(download("A#F.PDF"));
     EXPECT_EQ(get("A#F.PDF"), "hash");
     files.DeleteFile(day.gDayFolder + "A#F.PDF");
     EXPECT_TRUE(std::filesystem::is_empty(folder.path() / "clips/07032004"));
@@ -155,13 +163,23 @@ TEST_F(ServiceTest, asksForRoomUntilThereIsMoreThanTheFileNeeds) {
                                  name + ". Please free up at least 2 kb from your disk and click Retry|";
     EXPECT_EQ(boxes.shown(), question + question);
     boxes.Answers = {Answer::Retry, Answer::Retry};
-    EXPECT_TRUE(download() && free.empty());
-    EXPECT_TRUE(http.HttpDownloadFile(name, "/" + day.gDayFolder + name, received));  // a network path: nobody asks
-    files.Trouble = "ABC";
+    EXPECT_TRUE(download());
+    EXPECT_TRUE(free.empty());
+    boxes.Shown.clear();
+    FaultyFiles faulty(files);
+    const auto part = faulty.OpenPart(day.gDayFolder + ".part");
+    files.Free = [] { return 1; };
+    const std::string networkPath = "/" + day.gDayFolder + name;  // where nobody asks
+    EXPECT_TRUE(http.HttpDownloadFile(name, networkPath, *part, received));
+    faulty.failAt(2);  // the writing, after the start
+    EXPECT_FALSE(http.HttpDownloadFile(name, networkPath, *part, received));
+    EXPECT_TRUE(boxes.Shown.empty());
     files.Free = nullptr;
-    EXPECT_FALSE(download());
-    EXPECT_EQ(get(name), std::string(3000, 'x'));
-    EXPECT_TRUE(logged().ends_with(" in HttpDownloadFile()\n"));
+    faulty.failAt(2);
+    boxes.Answers = {Answer::Retry};
+    EXPECT_TRUE(http.HttpDownloadFile(name, day.gDayFolder + name, *part, received));
+    EXPECT_EQ(boxes.shown(), question);
+    EXPECT_EQ(part->Beginning(4000), std::string(3000, 'x'));
 }
 
 TEST_F(ServiceTest, asksForTheDayAndStoresWhatTheServiceLists) {

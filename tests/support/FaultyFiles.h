@@ -113,6 +113,7 @@ class FaultyFiles : public Files {
         void StartAt(std::int64_t offset) override { counted().StartAt(offset); }
         void Write(std::string_view bytes) override { counted().Write(bytes); }
         void Close() override { counted().Close(); }
+        void Adopt(std::string_view path) override { counted().Adopt(path); }
         void MoveTo(std::string_view path) override { counted().MoveTo(path); }
         void Discard() override { counted().Discard(); }
 

@@ -28,14 +28,15 @@ class ServicePeer {
     static std::string pathOf(const std::string& name) { return "/archive/2004/03/07/" + name; }
 
     // From now on lists N120040307.PDF, N220040307.PDF ... for every day, and has their files.
-    void serve(int clippings) {
+    void serve(int clippings, std::size_t pdfSize = 1500) {
         Answers[listScript].Bytes = "HTTP/1.0 200 OK\r\n\r\n";
         for (int i = 1; i <= clippings; ++i) {
             const char number = static_cast<char>('0' + i);
             const std::string n(1, number), base = "N" + n + "20040307";
-            Answers[listScript].Bytes += base + ".pdf||paper||title " + n + "||cat||type||1||-||150000||300||20<br>";
+            Answers[listScript].Bytes +=
+                base + ".pdf||paper||title " + n + "||cat||type||1||-||" + std::to_string(pdfSize) + "||300||300<br>";
             for (const char* ending : {".PDF", ".TXT", ".MT"})
-                Answers[pathOf(base + ending)] = HttpPeer::ok(std::string(ending[1] == 'P' ? 1500 : 300, number));
+                Answers[pathOf(base + ending)] = HttpPeer::ok(std::string(ending[1] == 'P' ? pdfSize : 300, number));
         }
         Answers[alertScript] = HttpPeer::ok("strike");
         Answers["/archive/RTIS/ME/NT/ADVERTISMENT.JPG"] = HttpPeer::ok("jpeg");

@@ -20,7 +20,6 @@
 #include "platform/posix/files/PosixPartFile.h"
 #include "platform/posix/files/WholeFile.h"
 #include "platform/posix/files/paths.h"
-#include "platform/posix/files/replacing.h"
 
 namespace vell {
 
@@ -222,11 +221,9 @@ std::string PosixFiles::realPath(std::string_view path) const {
     return names_.realPath(systemPath(path));
 }
 
-void PosixFiles::putInPlace(const FilePlace& part, const FileHandle& file, std::string_view path) {
-    const auto target = locate(path);
-    if (const auto permissions = permissionsToKeep(target)) setPermissions(file, *permissions, target);
-    names_.moving(part.System, target.System, [&] {
-        if (std::rename(part.System.c_str(), target.System.c_str()) != 0) raiseFileError(target);
+void PosixFiles::rename(const FilePlace& from, const FilePlace& to) {
+    names_.moving(from.System, to.System, [&] {
+        if (std::rename(from.System.c_str(), to.System.c_str()) != 0) raiseFileError(to);
     });
 }
 

@@ -38,12 +38,12 @@ class PosixFiles : public Files {
     // The path in the system's form, of the file that is meant.
     [[nodiscard]] std::string realPath(std::string_view path) const;
 
-    // What a part that is whole, or of no use, does. Both raise.
-    void putInPlace(const FilePlace& part, const FileHandle& file, std::string_view path);
+    [[nodiscard]] FilePlace locate(std::string_view path) const;
+    // Both raise.
+    void rename(const FilePlace& from, const FilePlace& to);  // in the same folder
     void remove(const FilePlace& place);
 
   private:
-    [[nodiscard]] FilePlace locate(std::string_view path) const;
     // Nothing when the attributes cannot be read.
     [[nodiscard]] std::optional<struct stat> status(std::string_view path) const;
     template <class Operation>

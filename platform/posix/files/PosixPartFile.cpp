@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "platform/posix/files/PosixFiles.h"
+#include "platform/posix/files/replacing.h"
 
 namespace vell {
 
@@ -18,6 +19,13 @@ struct stat statusOf(const FileHandle& file, const FilePlace& place) {
     struct stat status {};
     if (fstat(file.get(), &status) != 0) raiseFileError(place);
     return status;
+}
+
+// Neither behind a link nor anything but a file.
+FileHandle openFile(const FilePlace& place, int flags) {
+    FileHandle file(place, O_RDWR | O_NOFOLLOW | O_NONBLOCK | flags, 0666);
+    if (!S_ISREG(statusOf(file, place).st_mode)) throw fileError(EEXIST, place);
+    return file;
 }
 
 // Who had the lock before may have moved or removed what was opened meanwhile.
@@ -36,11 +44,10 @@ bool isInUse(const RunTimeError& error) {
 std::unique_ptr<PosixPartFile> PosixPartFile::open(PosixFiles& files, const FilePlace& place) {
     try {
         while (true) {
-            FileHandle file(place, O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK, 0666);
-            const struct stat opened = statusOf(file, place);
-            if (!S_ISREG(opened.st_mode)) throw fileError(EEXIST, place);
+            FileHandle file = openFile(place, O_CREAT);
             if (!file.tryLock()) return nullptr;
-            if (isStillThere(opened, place)) return std::make_unique<PosixPartFile>(files, std::move(file), place);
+            if (isStillThere(statusOf(file, place), place))
+                return std::make_unique<PosixPartFile>(files, std::move(file), place);
         }
     } catch (const RunTimeError& error) {
         if (isInUse(error)) return nullptr;
@@ -87,9 +94,21 @@ void PosixPartFile::Close() {
     if (file_.isOpen()) std::exchange(file_, FileHandle()).close(place_);
 }
 
+void PosixPartFile::Adopt(std::string_view path) {
+    const FilePlace other = files_.locate(path);
+    FileHandle file = openFile(other, 0);
+    if (!file.tryLock()) throw fileError(EBUSY, other);
+    const auto length = statusOf(file, other).st_size;
+    files_.rename(other, place_);
+    file_ = std::move(file);
+    length_ = length;
+}
+
 void PosixPartFile::MoveTo(std::string_view path) {
-    file_.reportLateErrors(place_);
-    files_.putInPlace(place_, file_, path);
+    const FilePlace target = files_.locate(path);
+    if (const auto permissions = permissionsToKeep(target)) setPermissions(file_, *permissions, target);
+    file_.reportLateErrors(target);
+    files_.rename(place_, target);
     Close();
 }
 

@@ -26,6 +26,7 @@ class PosixPartFile : public PartFile {
     void StartAt(std::int64_t offset) override;
     void Write(std::string_view bytes) override;
     void Close() override;
+    void Adopt(std::string_view path) override;
     void MoveTo(std::string_view path) override;
     void Discard() override;
 

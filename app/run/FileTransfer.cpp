@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+#include "app/run/FileTransfer.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+
+#include "app/Session.h"
+#include "app/run/FtpSession.h"
+#include "base/text.h"
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "service/modHTTP.h"
+#include "store/PartName.h"
+
+namespace vell {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+// How long another program's transfer of the same file is waited for in one attempt.
+constexpr seconds longestWait{60};
+constexpr milliseconds waitStep{200};
+
+bool isAdvertisement(const DownloadEntry& entry) {
+    return equalNoCase(entry.FileName, advertisementFile);
+}
+
+// Does the list say how long the file is? The advertisement's size is a guess.
+bool hasSize(const DownloadEntry& entry) {
+    return entry.Size > 0 && !isAdvertisement(entry);
+}
+
+// What the login page of a wireless network answers in place of any file.
+bool isWebPage(const PartFile& part) {
+    constexpr std::size_t lookedAt = 512;
+    constexpr std::array<std::string_view, 2> beginnings{"<!DOCTYPE HTML", "<HTML"};
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    const std::string beginning = part.Beginning(lookedAt);
+    std::string_view text = beginning;
+    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
+    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
+    return std::ranges::any_of(beginnings,
+                               [&](std::string_view one) { return equalNoCase(Left(text, one.size()), one); });
+}
+
+}  // namespace
+
+void FileTransfer::begin() {
+    leftOver_.clear();
+    trapStep(p_.Log, "StartDownload()", [&] {
+        for (auto& entry : p_.Disk.Enumerate(p_.State.Run.Day.gDayFolder, ".*.part", Files::Kind::Files))
+            leftOver_.push_back(std::move(entry.Name));
+    });
+}
+
+bool FileTransfer::adownloadFile(const DownloadEntry& entry, const std::string& folder, Attempt attempt) {
+    return trap(p_.Log, "adownloadFile()", false, [&] {
+        const std::string path = folder + entry.FileName;
+        const auto before = p_.Disk.Stamp(path);
+        const auto begun = p_.Time.Steady();
+        const auto part = openPart(folder + partName(entry.FileName, entry.Change));
+        if (!part) return false;
+        const bool hasWaited = p_.Time.Steady() - begun >= waitStep;
+        if (hasWaited && hasSize(entry) && p_.Disk.Stamp(path) != before && p_.Disk.FileSize(path) == entry.Size)
+            return true;  // the other program has brought it
+        if (!fetch(entry, path, *part) || !take(entry, path, *part, attempt)) return false;
+        dropOtherVersions(entry, folder);
+        return true;
+    });
+}
+
+// Null when another program has it for too long, or the user stops the waiting.
+std::unique_ptr<PartFile> FileTransfer::openPart(const std::string& path) {
+    auto part = p_.Disk.OpenPart(path);
+    if (part) return part;
+    p_.Log.WriteLog("        Another program is fetching this file.");
+    const SteadyTime end = p_.Time.Steady() + longestWait;
+    while (!part && !p_.State.gStopRequested && p_.Time.Steady() < end) {
+        p_.Loop.WaitForEvents(static_cast<int>(waitStep.count()));
+        part = p_.Disk.OpenPart(path);
+    }
+    return part;
+}
+
+bool FileTransfer::fetch(const DownloadEntry& entry, const std::string& path, PartFile& part) {
+    if (!p_.State.Run.OverHttp) {
+        const std::int64_t offset = startOffset(entry, path, part);
+        part.StartAt(offset);
+        return p_.Ftp.download(entry.FileName, part, offset, hasSize(entry) ? std::optional{entry.Size} : std::nullopt);
+    }
+    std::int32_t bytes = 0;
+    if (p_.Http.HttpDownloadFile(entry.FileName, path, part, bytes)) return true;
+    part.Discard();  // over HTTP nothing is gone on with
+    return false;
+}
+
+std::int64_t FileTransfer::startOffset(const DownloadEntry& entry, const std::string& path, PartFile& part) {
+    if (!hasSize(entry)) return 0;
+    const auto isBeginning = [&](std::int64_t length) { return length > 0 && length < entry.Size; };
+    if (part.Length() == 0 && !entry.IsOutdated && isBeginning(p_.Disk.FileSize(path).value_or(0))) part.Adopt(path);
+    return isBeginning(part.Length()) ? part.Length() : 0;
+}
+
+// A complete answer has come. Is it the file?
+bool FileTransfer::take(const DownloadEntry& entry, const std::string& path, PartFile& part, Attempt attempt) {
+    if (isWebPage(part)) {
+        p_.Log.WriteLog("        A web page came in place of " + entry.FileName + ".");
+        part.Discard();
+        return false;
+    }
+    const std::int64_t length = part.Length();
+    if (!hasSize(entry) || length == entry.Size) {
+        part.MoveTo(path);
+        return true;
+    }
+    p_.Log.WriteLog("        " + entry.FileName + " came with " + std::to_string(length) + " bytes, the list says " +
+                    std::to_string(entry.Size) + ".");
+    if (attempt == Attempt::Last && !p_.Disk.PathExists(path))
+        part.MoveTo(path);
+    else if (p_.State.Run.OverHttp || length > entry.Size)
+        part.Discard();
+    return false;
+}
+
+void FileTransfer::dropOtherVersions(const DownloadEntry& entry, const std::string& folder) {
+    for (const std::string& name : leftOver_) {
+        if (!isPartOf(name, entry.FileName)) continue;
+        if (const auto other = p_.Disk.OpenPart(folder + name)) other->Discard();
+    }
+    std::erase_if(leftOver_, [&](const std::string& name) { return isPartOf(name, entry.FileName); });
+}
+
+}  // namespace vell

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "log/EventLog.h"
+#include "platform/Files.h"
+
+namespace vell {
+
+class Clock;
+class EventLoop;
+class FtpSession;
+class modHTTP;
+struct DownloadEntry;
+struct Session;
+
+// Attempts at files of the download list. What comes goes to a part beside the file, which stays as it is until the
+// part is whole and takes its place. Over FTP the next attempt, of this run or a later one, goes on with the part.
+class FileTransfer {
+  public:
+    struct Parts {
+        Session& State;
+        EventLoop& Loop;
+        const Clock& Time;
+        Files& Disk;
+        EventLog& Log;
+        modHTTP& Http;
+        FtpSession& Ftp;
+    };
+    explicit FileTransfer(const Parts& parts) : p_(parts) {}
+
+    // A run begins.
+    void begin();
+    // One attempt. After the last one, and where there is no older file, a complete answer of another length than the
+    // list's is better than nothing and kept, but false all the same.
+    enum class Attempt { Repeatable, Last };
+    [[nodiscard]] bool adownloadFile(const DownloadEntry& entry, const std::string& folder, Attempt attempt);
+
+  private:
+    [[nodiscard]] std::unique_ptr<PartFile> openPart(const std::string& path);
+    [[nodiscard]] bool fetch(const DownloadEntry& entry, const std::string& path, PartFile& part);
+    [[nodiscard]] std::int64_t startOffset(const DownloadEntry& entry, const std::string& path, PartFile& part);
+    [[nodiscard]] bool take(const DownloadEntry& entry, const std::string& path, PartFile& part, Attempt attempt);
+    void dropOtherVersions(const DownloadEntry& entry, const std::string& folder);
+
+    Parts p_;
+    std::vector<std::string> leftOver_;  // names of the parts that lay in the day's folder when the run began
+};
+
+}  // namespace vell
