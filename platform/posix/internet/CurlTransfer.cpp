@@ -15,7 +15,7 @@ namespace {
 constexpr std::chrono::seconds longestSilence{30};
 // A server that brings 64 bytes a second at least has a portion ready in time.
 constexpr std::chrono::minutes longestForPortion{5};
-constexpr std::size_t wholePortion = 64 * 300;
+constexpr std::size_t wholePortion = std::size_t{64} * 300;
 constexpr long mostRedirects = 10;
 constexpr long receiveSize = 256L << 10;
 // A reader that falls behind makes the server wait, not the memory grow.

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-using GProxyResolver = struct _GProxyResolver;  // GIO's own name for it
+using GProxyResolver = struct _GProxyResolver;  // NOLINT(bugprone-reserved-identifier): GIO's own name for it
 
 namespace vell {
 
