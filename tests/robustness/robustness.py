@@ -117,6 +117,35 @@ def runs_over_a_bad_line(box, chance, tally, count):
             tally.add([(f"exit {code} is untrue", f"{box.incomplete()} {said(errors)}")], how)
 
 
+def two_clients(one, other, chance, tally, count):
+    """Two program folders on one download folder, at the same time: a run of each, then a mark of each."""
+    usual = duration(one, one.reset, "download", "--date", DATE)
+    for number in range(count):
+        if chance.random() < 0.3:
+            one.reset()
+        for name in SIZES:
+            if chance.random() < 0.5:
+                one.service.publish(name)
+        before, how = one.files(), f"pair {number}"
+        first = one.start("download", "--date", DATE)
+        time.sleep(chance.uniform(0, usual))
+        second = other.start("download", "--date", DATE)
+        errors = [process.communicate(b"", timeout=60)[1].decode() for process in (first, second)]
+        tally.attacks += 1
+        tally.hits += first.returncode == second.returncode == 0
+        for process, words in zip((first, second), errors):
+            if process.returncode not in (0, 1):
+                tally.add([("wrong exit code", f"{process.returncode} {said(words)}")], how)
+        tally.add(one.broken(before), how)
+        recover(one, tally, how)
+        marks = [box.start("open", f"{name}_20040307.PDF", "--date", DATE) for box, name in ((one, "AAA01"), (other, "BBB02"))]
+        codes = [(process.communicate(b"", timeout=60), process.returncode)[1] for process in marks]
+        kept = one.files().get("OPENED.DIR", b"")
+        if codes != [0, 0] or not (b"AAA01_20040307.PDF=1" in kept and b"BBB02_20040307.PDF=1" in kept):
+            tally.add([("marks lost", f"codes {codes}: {kept}")], how)
+        (one.day / "OPENED.DIR").unlink(missing_ok=True)
+
+
 # What the commands do, each on a day that is whole: the words, and whether the folders tell that it is done.
 def commands(box):
     def ini():
@@ -302,6 +331,9 @@ def main():
                     bad_box = Box(options.bin / "vell-console", folder / f"bad{each}", line, protocol)
                     scenario(f"each {each}. file breaks, {protocol}",
                              lambda chance, tally, box=bad_box: runs_over_a_bad_line(box, chance, tally, 60))
+                other = Box(options.bin / "vell-console", folder, service, protocol, number=2)
+                scenario(f"two clients, {protocol}",
+                         lambda chance, tally, box=box, other=other: two_clients(box, other, chance, tally, 60))
                 faults = Faults(folder, box)
                 for first in (True, False):
                     scenario(f"faults, {'first' if first else 'second'} fetch, {protocol}",

@@ -71,10 +71,11 @@ class Service:
 class Box:
     """A program folder and a download folder of one client."""
 
-    def __init__(self, console, folder, service, protocol):
+    def __init__(self, console, folder, service, protocol, number=1):
+        """Boxes of one protocol share their download folder; each number has a program folder of its own."""
         self.console, self.service = console, service
         self.root = folder / f"box-{protocol}"
-        self.program, self.clips, self.home = self.root / "program", self.root / "clips", folder / "home"
+        self.program, self.clips, self.home = self.root / f"program{number}", self.root / "clips", folder / "home"
         self.day = self.clips / DAY
         for place in (self.program, self.day, self.clips / OTHER_DAY, self.home / "bin", self.home / "applications"):
             place.mkdir(parents=True, exist_ok=True)
