@@ -19,7 +19,6 @@ constexpr std::size_t longestShortName = 8;
 constexpr std::string_view formHeader = "Content-Type: application/x-www-form-urlencoded\r\n";
 // A list is some hundred kilobytes on the busiest day; an answer without end must not eat the machine's memory.
 constexpr std::size_t longestAnswer = 16U << 20;
-constexpr std::size_t longestBodyLogged = 64U << 10;
 
 // What may stand bare in the path of an address (RFC 3986, 3.3), "/" included.
 bool isBareInPath(char c) {
@@ -39,12 +38,6 @@ std::string pathText(std::string_view path) {
         }
     }
     return text;
-}
-
-std::string shownBody(const std::string& body) {
-    if (body.size() <= longestBodyLogged) return body;
-    return body.substr(0, longestBodyLogged) + "\r\n(" + std::to_string(body.size() - longestBodyLogged) +
-           " more bytes are left out here)";
 }
 
 }  // namespace
@@ -116,12 +109,14 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     std::size_t read = 0;
     bool whole = false;
     while ((whole = internet_.InternetReadFile(*http, buffer.data(), buffer.size(), read)) && read > 0) {
-        if (body.size() + read > longestAnswer)
+        if (body.size() + read > longestAnswer) {
+            body = {};
             throw RunTimeError(error_number::OutOfMemory, "The answer is longer than 16 MB");
+        }
         body.append(buffer.data(), read);
     }
     log_.WriteLog("InternetReadFile function loop");
-    log_.WriteLog("        Body:" + shownBody(body));
+    log_.WriteLog("        Body:" + body);
 
     headers = internet_.RawHeaders(*http, longestHeaders);
     log_.WriteLog("        Headers:" + headers);

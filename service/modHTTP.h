@@ -31,8 +31,8 @@ class modHTTP {
             const Settings& settings);
 
     // Sends a form to a script of the service; true only for status 200 and a whole answer. `body` and `headers` (at
-    // most 1024 characters) are filled for every answer that has a status. The log gets all of it, the password in
-    // the post data included. A failing service is told to the user.
+    // most 1024 characters) are filled for every answer that has a status and an end within 16 MB. The log gets all of
+    // it, the password in the post data included. A failing service is told to the user.
     bool OpenUrl(std::string_view method, std::string_view host, std::string_view script, std::string_view postData,
                  std::string& body, std::string& headers);
 

@@ -88,7 +88,7 @@ TEST_F(ServiceTest, tracesEveryStepOfAnExchange) {
     } table[] = {
         {"HTTP/1.0 200 OK\r\nA: b\r\n", "one\r\ntwo", "", "", yes},
         {"HTTP/1.1 200 OK\r\n", "", "", "", yes},
-        {longHeaders, std::string(65536, '\xC1'), "", "", yes},
+        {longHeaders, std::string(60000, '\xC1'), "", "", yes},
         {"HTTP/1.0 500 No\r\n", "x", "Quillon Service not available. Please try again later.", "", no},
         {"HTTP/1.0 404 No\r\n", "x", "Quillon Service not accessible.\r\n\r\nHTTP/1.0 404 No\r\n", "", no},
         {"HTTP/1.0 200 OK\r\nContent-Length: 9\r\n", "x", "", "        The answer was cut short. Error 12030\n", no},
@@ -228,7 +228,7 @@ TEST_F(ServiceTest, readsNoFurtherThanAListCanReach) {
     service.Answers["/x.asp"] = {"HTTP/1.0 200 OK\r\n\r\n" + std::string(64U << 20, '<'), false,
                                  [&] { sentAll = true; }};
     EXPECT_FALSE(post());
-    EXPECT_LE(body.size(), 16U << 20);
+    EXPECT_EQ(body, "");
     EXPECT_FALSE(sentAll);
     EXPECT_NE(logged().find("The answer is longer than 16 MB"), std::string::npos);
 }
