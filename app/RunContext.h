@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "config/Settings.h"
 #include "store/DayState.h"
 
 namespace vell {
@@ -29,8 +30,9 @@ struct RunContext {
     // A person can be asked things; the schedule's runs are alone, and nobody would answer.
     Starter BegunBy = Starter::Person;
     RunOutcome Outcome;  // over all days
-    // How files are fetched, from the first of a day on: who tries the protocols in Setup does not change it.
-    bool OverHttp = true;
+    // As they were at the begin, or as the user has saved them since: what is only being tried out in the setup dialog
+    // is no matter of the run.
+    Settings Setup;
 };
 
 }  // namespace vell

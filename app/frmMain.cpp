@@ -127,6 +127,11 @@ std::vector<std::string> frmMain::dialUpNames() {
     return names;
 }
 
+void frmMain::settingsSaved() {
+    session_.Run.Setup = session_.Setup;
+    reading_.Days.reload();
+}
+
 frmSetup frmMain::setupDialog() {
     return {session_.Setup, loader_, ini_, log_, platform_.Disk, platform_.Program.DocumentsFolder()};
 }

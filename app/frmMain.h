@@ -47,6 +47,8 @@ class frmMain {
 
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] frmSchedule scheduleDialog();
+    // The user has saved other settings: a run goes on with them, and the days may lie in another folder.
+    void settingsSaved();
     // The dial-up connections that the setup dialog offers.
     [[nodiscard]] std::vector<std::string> dialUpNames();
     [[nodiscard]] const std::string& version() const { return session_.gVersion; }

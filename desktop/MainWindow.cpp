@@ -190,6 +190,10 @@ bool MainWindow::offersStop() const {
     return download_->isRunning();
 }
 
+void MainWindow::takeTypedDays() {
+    download_->takeTyped();
+}
+
 void MainWindow::placeWindow(const WindowPlace& place) {
     const auto pixels = [this](int twips) { return pixelsFromTwips(*this, twips); };
     wxRect window(pixels(place.Left), pixels(place.Top), pixels(place.Width), pixels(place.Height));

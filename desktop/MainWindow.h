@@ -40,6 +40,8 @@ class MainWindow : public wxFrame, public MainView {
     [[nodiscard]] ClippingsList& list() { return *list_; }
     // Stop is there to be pressed, which it also is after a download that could not begin.
     [[nodiscard]] bool offersStop() const;
+    // The days that the user is typing count from now on.
+    void takeTypedDays();
 
     void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override;
     void showClippings(const std::vector<ClippingRow>& rows) override;

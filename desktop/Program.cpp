@@ -19,6 +19,7 @@
 #include "desktop/dialogs/WxMessageBoxes.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/native/showQuietly.h"
+#include "desktop/screenText.h"
 #include "platform/SystemPlatform.h"
 
 namespace vell {
@@ -78,7 +79,10 @@ bool Program::start() {
         }
         exitCode_ = parts_->Main.isSecondInstance() ? exit_code::AlreadyRunning : exit_code::Good;
     } catch (const std::exception& error) {
-        wxLogError("%s", error.what());
+        // Whoever starts the window from the desktop sees no terminal.
+        std::cerr << "vell: " << shownText(error.what()).utf8_string() << '\n';
+        WxMessageBoxes().Show("Vell cannot start. " + std::string(error.what()), programCaption, Buttons::Ok,
+                              BoxIcon::Error);
         exitCode_ = exit_code::Failed;
     }
     return false;

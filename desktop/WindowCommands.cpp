@@ -24,6 +24,10 @@ WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxe
     listen();
 }
 
+WindowCommands::~WindowCommands() {
+    window_.listenTo({});
+}
+
 void WindowCommands::listen() {
     window_.listenTo({
         .CommandChosen = [this](int id) { commandChosen(id); },
@@ -77,12 +81,10 @@ void WindowCommands::addDayCommands() {
 
 void WindowCommands::addProgramCommands() {
     const auto always = [] { return true; };
-    table_[command::Start] = {[this] { program_.downloads().mnuForceDownload_Click(); },
-                              [this] { return !program_.downloads().isBusy(); }};
+    table_[command::Start] = {[this] { download(); }, [this] { return !program_.downloads().isBusy(); }};
     table_[command::Stop] = {[this] { program_.downloads().cmdStopDownload_Click(); },
                              [this] { return program_.downloads().isBusy() || window_.offersStop(); }};
-    table_[command::Setup] = {[this] { dialogs_.open(setupDialog(), [this] { program_.reading().Days.reload(); }); },
-                              always};
+    table_[command::Setup] = {[this] { dialogs_.open(setupDialog(), [this] { program_.settingsSaved(); }); }, always};
     table_[command::Schedule] = {[this] { dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog())); },
                                  always};
     table_[command::Refresh] = {[this] { program_.reading().Days.reload(); }, always};
@@ -116,13 +118,19 @@ SetupDialog* WindowCommands::setupDialog() {
 // For a run that cannot go on without the settings.
 void WindowCommands::setUpAndWait() {
     const std::unique_ptr<SetupDialog> dialog(setupDialog());
-    if (dialog->ShowModal() == wxID_OK) program_.reading().Days.reload();
+    if (dialog->ShowModal() == wxID_OK) program_.settingsSaved();
 }
 
 void WindowCommands::showAbout() {
     const std::string address = program_.settings().Host.empty() ? "" : "http://" + program_.settings().Host + "/";
     dialogs_.open(new AboutDialog(&window_, program_.version(), address,
                                   [this, address] { program_.reading().Opening.openAddress(address); }));
+}
+
+// A key or a tool takes the keyboard from no entry: a day that was typed is not yet known.
+void WindowCommands::download() {
+    window_.takeTypedDays();
+    program_.downloads().mnuForceDownload_Click();
 }
 
 void WindowCommands::commandChosen(int id) {

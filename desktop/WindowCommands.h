@@ -19,8 +19,11 @@ class frmMain;
 // Leads what the user does in the window to the program.
 class WindowCommands {
   public:
-    // `end` ends the process.
+    // `end` ends the process. The window is deaf before this lives and after it.
     WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end);
+    ~WindowCommands();
+    WindowCommands(const WindowCommands&) = delete;
+    WindowCommands& operator=(const WindowCommands&) = delete;
 
   private:
     struct Entry {
@@ -35,6 +38,7 @@ class WindowCommands {
     void addClippingCommands();
     void addDayCommands();
     void addProgramCommands();
+    void download();
     void printByCategory();
     void chooseFilter();
     void showAutoView();

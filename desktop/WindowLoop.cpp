@@ -12,6 +12,8 @@ namespace vell {
 
 namespace {
 
+constexpr std::chrono::milliseconds pulse{50};
+
 void handleWindowMessages() {
     // YieldFor, unlike wxYield, may be called from inside what it is handling, to any depth.
     if (wxEventLoopBase* active = wxEventLoopBase::GetActive()) active->YieldFor(wxEVT_CATEGORY_ALL);
@@ -22,21 +24,37 @@ void handleWindowMessages() {
 WindowLoop::WindowLoop(AsioEventLoop& loop) : loop_(loop) {
     loop_.setPump(handleWindowMessages);
     loop_.setOnTimersChanged([this] { arm(); });
+    Register();
     arm();
 }
 
 WindowLoop::~WindowLoop() {
+    Unregister();
     loop_.setPump(nullptr);
     loop_.setOnTimersChanged(nullptr);
 }
 
+// What happens may open a modal dialog, and not come back before that is closed.
 void WindowLoop::Notify() {
+    StartOnce(static_cast<int>(pulse.count()));
     loop_.DoEvents();
     arm();
 }
 
+int WindowLoop::Enter(wxDialog* /*dialog*/) {
+    ++modalDialogs_;
+    arm();
+    return wxID_NONE;
+}
+
+void WindowLoop::Exit(wxDialog* /*dialog*/) {
+    --modalDialogs_;
+    arm();
+}
+
 void WindowLoop::arm() {
-    const auto next = loop_.untilNextTimer();
+    auto next = loop_.untilNextTimer();
+    if (modalDialogs_ > 0) next = std::min(next.value_or(pulse), pulse);
     if (!next) {
         Stop();
         return;

@@ -60,7 +60,7 @@ void ClippingBooks::markArrived() {
 
 void ClippingBooks::printWhenNew(const std::string& name, std::int64_t before) {
     const Session& state = p_.State;
-    if (!state.Setup.PrintOnDownload || InStr(Upper(name), ".PDF") == 0) return;
+    if (!state.Run.Setup.PrintOnDownload || InStr(Upper(name), ".PDF") == 0) return;
     const std::string path = state.Run.Day.gDayFolder + name;
     if (p_.Disk.FileSize(path).value_or(0) == before) return;
     say("Printing " + name);

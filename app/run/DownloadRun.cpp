@@ -38,8 +38,7 @@ void DownloadRun::StartDownload() {
 
 void DownloadRun::run() {
     if (!prepare()) return;
-    p_.State.Run.OverHttp = p_.State.Setup.UseHTTP;
-    if (!p_.State.Run.OverHttp && !p_.Ftp.open()) {
+    if (!p_.State.Run.Setup.UseHTTP && !p_.Ftp.open()) {
         p_.State.Run.Outcome.FtpFailed = !p_.State.gStopRequested;
         return;
     }

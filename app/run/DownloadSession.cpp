@@ -11,7 +11,7 @@ bool DownloadSession::RunDownloadSession(Starter begunBy, const Date& first, con
     if (!session_.isIdle() || session_.IsEnding) return false;
     const ActivityScope whole(session_, Activity::BetweenDays);
     session_.gStopRequested = false;
-    session_.Run = {.Day = {}, .BegunBy = begunBy, .Outcome = {}};
+    session_.Run = {.Day = {}, .BegunBy = begunBy, .Outcome = {}, .Setup = session_.Setup};
     if (connect()) runDays(first, next);
     session_.Run.Outcome.Stopped = session_.gStopRequested;
     hangUp();
@@ -34,7 +34,7 @@ void DownloadSession::runDays(const Date& first, const NextDay& next) {
 }
 
 void DownloadSession::hangUp() {
-    if (!session_.Setup.CloseConnection || session_.gStopRequested) return;
+    if (!session_.Run.Setup.CloseConnection || session_.gStopRequested) return;
     const ActivityScope hangingUp(session_, Activity::HangingUp);
     log_.WriteLog("Stopping internet connection.");
     if (!link_.StopINET(false)) log_.WriteLog("\t\tFAILED.");

@@ -86,7 +86,7 @@ std::unique_ptr<PartFile> FileTransfer::openPart(const std::string& path) {
 }
 
 bool FileTransfer::fetch(const DownloadEntry& entry, const std::string& path, PartFile& part) {
-    if (!p_.State.Run.OverHttp) {
+    if (!p_.State.Run.Setup.UseHTTP) {
         const std::int64_t offset = startOffset(entry, path, part);
         part.StartAt(offset);
         return p_.Ftp.download(entry.FileName, part, offset, hasSize(entry) ? std::optional{entry.Size} : std::nullopt);
@@ -120,7 +120,7 @@ bool FileTransfer::take(const DownloadEntry& entry, const std::string& path, Par
                     std::to_string(entry.Size) + ".");
     if (attempt == Attempt::Last && !p_.Disk.PathExists(path))
         part.MoveTo(path);
-    else if (p_.State.Run.OverHttp || length > entry.Size)
+    else if (p_.State.Run.Setup.UseHTTP || length > entry.Size)
         part.Discard();
     return false;
 }

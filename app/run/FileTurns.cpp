@@ -56,7 +56,7 @@ bool FileTurns::attempt(const Turn& turn, FileTransfer::Attempt attempt) {
 bool FileTurns::retry(const Turn& turn) {
     const Session& state = p_.State;
     using Attempt = FileTransfer::Attempt;
-    const std::int16_t most = state.Setup.RetryOnFailure;
+    const std::int16_t most = state.Run.Setup.RetryOnFailure;
     bool ok = false;
     for (int r = 1; !ok && (r == 1 || r <= most) && !state.gStopRequested; ++r) {
         const std::string attemptOf = std::to_string(r) + "/" + std::to_string(most) + " " + turn.Entry.FileName;

@@ -50,7 +50,7 @@ bool FtpSession::StartFTP() {
         if (attempt > 1) retryPause(session_, platform_.Loop, platform_.Time);
         ok = !session_.gStopRequested && connect();
         platform_.Loop.DoEvents();
-        if (!ok && attempt >= session_.Setup.RetryOnFailure && !session_.gStopRequested) {
+        if (!ok && attempt >= session_.Run.Setup.RetryOnFailure && !session_.gStopRequested) {
             constexpr std::string_view failed = "Error starting FTP connection. Please check Host name";
             progress_.StatusBar(failed);
             log_.WriteLog(failed);
@@ -61,12 +61,12 @@ bool FtpSession::StartFTP() {
 }
 
 bool FtpSession::connect() {
-    m_objFTP_.FtpServer = session_.Setup.Host;
+    m_objFTP_.FtpServer = session_.Run.Setup.Host;
     m_objFTP_.UserName = ftpUser;
     m_objFTP_.Password = ftpPassword;
-    m_objFTP_.Port = session_.Setup.Port;
-    m_objFTP_.PassiveMode = session_.Setup.Passive;
-    m_objFTP_.Timeout = session_.Setup.TimeOut;
+    m_objFTP_.Port = session_.Run.Setup.Port;
+    m_objFTP_.PassiveMode = session_.Run.Setup.Passive;
+    m_objFTP_.Timeout = session_.Run.Setup.TimeOut;
     m_objFTP_.AskOnTimeout = !session_.isAlone();
     return m_objFTP_.Connect();
 }

@@ -54,6 +54,7 @@ void TransferProgress::displayInfoMessageBox(std::string_view text) {
 
 void TransferProgress::openSetup() {
     view_.openSetup();
+    session_.Run.Setup = session_.Setup;
 }
 
 std::string TransferProgress::clippingCounter() const {

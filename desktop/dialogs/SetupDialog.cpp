@@ -239,7 +239,13 @@ void SetupDialog::ok() {
     if (const auto problem = rules_.cmdOk_Click())
         complain(problem->Message, problem->Field);
     else
-        AcceptAndClose();
+        accept();
+}
+
+// A dialog without an event loop of its own is told apart from a cancelled one by its return code alone.
+void SetupDialog::accept() {
+    SetReturnCode(wxID_OK);
+    AcceptAndClose();
 }
 
 // A name that the code page cannot hold would be stored as another one.

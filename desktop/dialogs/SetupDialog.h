@@ -55,6 +55,7 @@ class SetupDialog : public wxDialog {
     void chooseProtocol(const std::string& protocol);
     void showEnabled();
     void ok();
+    void accept();
     [[nodiscard]] bool isExpressible();
     void complain(const std::string& message, const SettingField& field);
 

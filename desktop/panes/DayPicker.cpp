@@ -37,7 +37,6 @@ void DayPicker::take(const Date& day) {
     changed_(day);
 }
 
-// What is no day becomes the last one again.
 void DayPicker::takeTyped() {
     const auto typed = Date::fromDayName(typedText(GetValue().Strip(wxString::both)));
     if (typed)

@@ -19,10 +19,11 @@ class DayPicker : public wxComboCtrl {
     DayPicker(wxWindow* parent, const wxString& name, std::function<void(const Date&)> changed);
 
     void show(const Date& day);
+    // What stands there counts; what is no day becomes the last one again.
+    void takeTyped();
 
   private:
     void take(const Date& day);
-    void takeTyped();
     void onKey(wxKeyEvent& event);
 
     std::function<void(const Date&)> changed_;

@@ -83,6 +83,11 @@ void ForcedDownloadPane::showRunning(bool running) {
     Refresh();
 }
 
+void ForcedDownloadPane::takeTyped() {
+    dtFromDate_->takeTyped();
+    dtToDate_->takeTyped();
+}
+
 void ForcedDownloadPane::showRange(const Date& from, const Date& to) {
     dtFromDate_->show(from);
     dtToDate_->show(to);

@@ -27,6 +27,8 @@ class ForcedDownloadPane : public wxPanel {
 
     void showRunning(bool running);
     [[nodiscard]] bool isRunning() const { return running_; }
+    // What stands in the pickers counts, also while the keyboard is still in one.
+    void takeTyped();
     void showRange(const Date& from, const Date& to);
 
   private:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "app/Session.h"
 #include "app/run/InternetLink.h"
@@ -164,6 +164,8 @@ TEST_F(InternetLinkTest, dialsAndHangsUpThroughNetworkManager) {
     session.Setup.DialUp = "Forbidden";
     EXPECT_FALSE(real.StartINET());
     EXPECT_NE(logged().find("Dial: NetworkManager refused, not authorised: Not auth"), std::string::npos);
+    EXPECT_THAT(view.Message,
+                testing::StartsWith("Error starting 'Forbidden' Dial-Up connection.\r\nNetworkManager refused"));
     EXPECT_EQ(boxes.Shown, Lines{});
 }
 

@@ -93,6 +93,24 @@ TEST_F(WindowLoopTest, timersTickUnderAModalDialogAndInTheIdleWindow) {
     loop.KillTimer(timer);
 }
 
+TEST_F(WindowLoopTest, aDialogThatATickOpensHoldsUpNoOtherTick) {
+    int ticks = 0;
+    wxDialog dialog(nullptr, wxID_ANY, "modal");
+    const auto timer = loop.SetTimer(20, [&] {
+        if (++ticks == 1) {
+            dialog.ShowModal();
+            endMainLoop();
+        } else if (ticks == 4) {
+            dialog.EndModal(wxID_OK);
+        }
+    });
+    wxTimer lastResort;  // ends a test whose ticks do not come
+    lastResort.Bind(wxEVT_TIMER, [&](wxTimerEvent&) { dialog.EndModal(wxID_CANCEL); });
+    inMainLoop([&] { lastResort.StartOnce(5000); });
+    loop.KillTimer(timer);
+    EXPECT_EQ(dialog.GetReturnCode(), wxID_OK);
+}
+
 TEST_F(WindowLoopTest, anIdleWindowUsesNoProcessorTime) {
     wxTimer end;
     end.Bind(wxEVT_TIMER, [](wxTimerEvent&) { endMainLoop(); });
