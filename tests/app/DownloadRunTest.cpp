@@ -154,7 +154,9 @@ TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartDoNotDisturbTheR
 
 TEST_F(DownloadRunTest, stopLetsTheFileUnderWayEndAndStartsNoOther) {
     onStatus("N220040307.PDF", [&] { program.downloads().cmdStopDownload_Click(); });
-    EXPECT_TRUE(runToday() && program.downloads().outcome().Stopped && service.wasAskedLastFor("N220040307.PDF"));
+    EXPECT_TRUE(runToday());
+    EXPECT_TRUE(program.downloads().outcome().Stopped);
+    EXPECT_TRUE(service.wasAskedLastFor("N220040307.PDF"));
     EXPECT_EQ(inDay("N220040307.PDF").size(), 1500U);
     EXPECT_EQ(view.Status, "Download STOPED by user.");
     EXPECT_TRUE(logHas("\t\tEnded with status True\nDownload STOPED by user.\nFORCEd download ENDED\n"));
@@ -218,7 +220,8 @@ TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
         EXPECT_EQ(service.requests().size() - before, requests) << status;
         EXPECT_EQ(folder.has("clips/07032004/ALLFILES.DIR"), line != emptied);
     }
-    EXPECT_FALSE(folder.has("ADVERTISMENT.JPG") || view.Running);
+    EXPECT_FALSE(folder.has("ADVERTISMENT.JPG"));
+    EXPECT_FALSE(view.Running);
 }
 
 TEST_F(DownloadRunTest, whatAPersonLooksAtIsNoBusinessOfTheRun) {

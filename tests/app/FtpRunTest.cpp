@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include <optional>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "tests/ftp/FtpServerProcess.h"
 #include "tests/support/ProgramRig.h"
 
 namespace vell::test {
+
+using testing::AllOf, testing::HasSubstr, testing::Not;
 
 // Whole runs over FTP, from servers that we did not write.
 class FtpRunTest : public testing::TestWithParam<const char*>, protected ProgramRig {
@@ -54,10 +56,11 @@ TEST_P(FtpRunTest, fetchesADayAndResumesWhatAnEarlierRunHasLeft) {
     expectTheDayOnDisk();
     EXPECT_TRUE(logHas("Starting FTP connection.\nFTP-->Resolving host...\nFTP-->Host resolved\nFTP-->Connected\n"));
     EXPECT_TRUE(logHas("FTP-->Authentication...\nFTP-->USER vell\nFTP-->331 "));
-    EXPECT_TRUE(logHas("FTP-->PASS **********\nFTP-->230 ") && logHas("FTP-->CWD torvoarchive\nFTP-->250 "));
-    EXPECT_TRUE(logHas("(Starting from 1000 bytes)") && logHas("FTP-->REST 1000\nFTP-->350 "));
+    for (const char* lines : {"FTP-->PASS **********\nFTP-->230 ", "FTP-->CWD torvoarchive\nFTP-->250 ",
+                              "(Starting from 1000 bytes)", "FTP-->REST 1000\nFTP-->350 ", "FTP-->QUIT\nFTP-->221"})
+        EXPECT_THAT(logged(), HasSubstr(lines));
     EXPECT_TRUE(logHas("FTP-->Transfer of (7/7) N220040307.MT completed.\n\t\tEnded with status True\nStopping FTP\n"));
-    EXPECT_TRUE(logHas("FTP-->QUIT\nFTP-->221") && !logHas("ruxo"));
+    EXPECT_THAT(logged(), Not(HasSubstr("ruxo")));
 }
 
 TEST_P(FtpRunTest, goesOnWhereAServerThatDiedHadCome) {
@@ -70,7 +73,9 @@ TEST_P(FtpRunTest, goesOnWhereAServerThatDiedHadCome) {
         server_.emplace(GetParam(), root_, port);
     };
     EXPECT_TRUE(runToday());
-    EXPECT_TRUE(died && logHas("  Retrying 1/3 N120040307.PDF (Starting from 0 bytes)") && logHas("FTP-->REST "));
+    EXPECT_TRUE(died);
+    EXPECT_THAT(logged(),
+                AllOf(HasSubstr("  Retrying 1/3 N120040307.PDF (Starting from 0 bytes)"), HasSubstr("FTP-->REST ")));
     expectTheDayOnDisk();
 }
 
@@ -82,15 +87,16 @@ TEST_P(FtpRunTest, stopEndsTheTransferWhenTheUserAgrees) {
         program.downloads().cmdStopDownload_Click();
     };
     (void)runToday();
-    EXPECT_TRUE(program.downloads().outcome().Stopped && logHas("Download STOPED by user.") &&
-                !logHas("N220040307.PDF ("));
+    EXPECT_TRUE(program.downloads().outcome().Stopped);
+    EXPECT_THAT(logged(), AllOf(HasSubstr("Download STOPED by user."), Not(HasSubstr("N220040307.PDF ("))));
     EXPECT_EQ(boxes.Shown.back(), "Data transfer in progress. Do you want to cancel the data transfer?");
 }
 
 TEST_P(FtpRunTest, saysSoWhenNobodyAnswers) {
     server_.reset();
     EXPECT_FALSE(runToday());
-    EXPECT_TRUE(program.downloads().outcome().FtpFailed && !logHas("Stopping FTP"));
+    EXPECT_TRUE(program.downloads().outcome().FtpFailed);
+    EXPECT_THAT(logged(), Not(HasSubstr("Stopping FTP")));
     EXPECT_TRUE(logHas("Error starting FTP connection. Please check Host name\nFORCEd download ENDED"));
 }
 

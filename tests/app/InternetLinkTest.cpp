@@ -93,7 +93,8 @@ TEST_F(InternetLinkTest, dialsOnlyWhereAModemIsTheWay) {
     api.flags |= ConnectionApi::Lan;
     api.connected = true;
     api.calls.clear();
-    EXPECT_TRUE(link.StartINET() && link.StopINET(true));
+    EXPECT_TRUE(link.StartINET());
+    EXPECT_TRUE(link.StopINET(true));
     EXPECT_EQ(logged(), flags("False", "True", ""));
     EXPECT_EQ(api.calls, Lines{"state 1 0"});
 }

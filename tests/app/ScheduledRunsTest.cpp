@@ -114,6 +114,17 @@ TEST_F(ScheduledRunsTest, aTickBetweenTheDaysOfARangeForgetsNothing) {
     EXPECT_FALSE(folder.has("clips/07032004"));
 }
 
+TEST_F(ScheduledRunsTest, aScheduledRunWaitsForNobody) {
+    service.Answers[ServicePeer::listScript] = HttpPeer::ok("ERROR 1001");
+    load(program, "Schedule1=Sun 06:30\r\n");
+    pass(std::chrono::minutes{1});
+    EXPECT_THAT(boxes.Shown, testing::IsEmpty());
+    EXPECT_EQ(service.requests().size(), 1U);
+    const std::string told = "Please enter a correct username/password combination. -> Cancel";
+    EXPECT_EQ(view.Message, told);
+    EXPECT_THAT(logged(), testing::HasSubstr(told + "\n"));
+}
+
 TEST_F(ScheduledRunsTest, aClockThatJumpsStartsNothingTwice) {
     service.serve(0);
     load(program, "Schedule1=Sun 06:30\r\n");

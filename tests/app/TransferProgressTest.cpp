@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "app/Session.h"
 #include "app/run/TransferProgress.h"
@@ -56,7 +56,8 @@ TEST_F(TransferProgressTest, keepsItsErrorsToItselfAndPaintsOnlyWhatAnEyeCanFoll
     session.Downloads.gDownloadList[1].Size = 0;
     report({100});
     EXPECT_EQ(session.Downloads.gBytesDownloaded, 100);
-    EXPECT_TRUE(logged().ends_with(" in HTTPDownloadProgress()\n") && view.Statuses.empty());
+    EXPECT_THAT(logged(), testing::EndsWith(" in HTTPDownloadProgress()\n"));
+    EXPECT_EQ(view.Statuses, "");
     log.Stop();
     list(4, 2);
     for (std::int32_t bytes = 0; bytes <= 10240; bytes += 1024, clock.advance(std::chrono::milliseconds{10}))
