@@ -7,7 +7,7 @@
 namespace vell {
 
 Reading::Reading(const Parts& p)
-    : Store(p.Os.Disk, p.Os.Loop, p.Os.Boxes, p.Ini, p.Log, p.State.Setup, Shown),
+    : Store({p.Os.Disk, p.Os.Loop, p.Os.Boxes, p.Ini, p.Log, p.State.Setup, Shown}),
       Article(p.Os.DesktopShell, p.Os.Boxes, p.Os.Loop, p.Log),
       Browser({Store, p.Os.Disk, p.View, p.Os.Time, p.Log, p.State.Setup, Shown}),
       Opening(Browser, Store, Article, p.Log, p.Status),

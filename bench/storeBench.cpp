@@ -91,7 +91,7 @@ class Day {
     modIni Inis{Ini, Log};
     Settings settings_;
     DayState State{{2004, 3, 7}, "", Date{2004, 3, 7}};
-    modGlobal Store{Disk, Loop, Boxes, Inis, Log, settings_, State};
+    modGlobal Store{{Disk, Loop, Boxes, Inis, Log, settings_, State}};
     NoView View;
     ClippingsBrowser Browser{{Store, Disk, View, Time, Log, settings_, State}};
 };

@@ -40,48 +40,34 @@ std::string dayFields(const Date& day, std::string_view suffix) {
 
 }  // namespace
 
-DownloadList::DownloadList(modHTTP& http, modGlobal& store, Files& files, MessageBoxes& boxes, RunFeedback& feedback,
-                           EventLog& log, const Settings& settings, const DayState& day, DownloadState& state,
-                           std::string version)
-    : http_(http),
-      store_(store),
-      files_(files),
-      boxes_(boxes),
-      feedback_(feedback),
-      log_(log),
-      settings_(settings),
-      day_(day),
-      state_(state),
-      version_(std::move(version)) {}
-
 bool DownloadList::GetDownloadFiles() {
-    return trap(log_, "GetDownloadFiles()", false, [&] { return getList(); });
+    return trap(p_.Log, "GetDownloadFiles()", false, [&] { return getList(); });
 }
 
 bool DownloadList::getList() {
-    state_ = {};
+    p_.Downloads = {};
     std::optional<ListAnswer> answer;
     do {
         answer = ask();
         if (!answer) return false;
     } while (answer->What == ListAnswer::Kind::LoginRefused && mayAskAgain());
     for (const std::string& record : answer->Dropped)
-        log_.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" + record + "'");
+        p_.Log.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" + record + "'");
     switch (answer->What) {
         case ListAnswer::Kind::LoginRefused:
             return false;
         case ListAnswer::Kind::NoList:
-            log_.WriteLog("        The answer is no list of clippings, " + answer->Fault);
+            p_.Log.WriteLog("        The answer is no list of clippings, " + answer->Fault);
             return false;
         case ListAnswer::Kind::Silence:
-            state_.ServiceWasSilent = true;
+            p_.Downloads.ServiceWasSilent = true;
             fillDownloadList({}, {});
             return true;
         case ListAnswer::Kind::NothingForTheDay:
         case ListAnswer::Kind::List:
             break;
     }
-    state_.DroppedRecords = static_cast<std::int32_t>(answer->Dropped.size());
+    p_.Downloads.DroppedRecords = static_cast<std::int32_t>(answer->Dropped.size());
     fillDownloadList(answer->Records, storeIndex(answer->Records));
     return true;
 }
@@ -89,33 +75,33 @@ bool DownloadList::getList() {
 std::optional<ListAnswer> DownloadList::ask() {
     std::string body;
     std::string headers;
-    const bool answered = http_.OpenUrl("POST", settings_.Host, listScript, listRequest(), body, headers);
-    if (settings_.Debug >= 1) boxes_.Show(body, programCaption, Buttons::Ok, BoxIcon::None);
+    const bool answered = p_.Http.OpenUrl("POST", p_.Setup.Host, listScript, listRequest(), body, headers);
+    if (p_.Setup.Debug >= 1) p_.Boxes.Show(body, programCaption, Buttons::Ok, BoxIcon::None);
     if (!answered) return std::nullopt;
-    feedback_.StatusBar("Getting list of files to download: Done");
+    p_.Feedback.StatusBar("Getting list of files to download: Done");
     return readListAnswer(body);
 }
 
 bool DownloadList::mayAskAgain() {
-    if (boxes_.Show("Please enter a correct username/password combination.", "Incorrect username/password combination",
-                    Buttons::OkCancel, BoxIcon::None) != Answer::Ok)
+    if (p_.Boxes.Show("Please enter a correct username/password combination.",
+                      "Incorrect username/password combination", Buttons::OkCancel, BoxIcon::None) != Answer::Ok)
         return false;
-    feedback_.openSetup();
+    p_.Feedback.openSetup();
     return true;
 }
 
 std::string DownloadList::listRequest() const {
-    return "username=" + settings_.Uid + "&password=" + settings_.Pwd + "&" + dayFields(day_.gCurrentDate, "1") + "&" +
-           dayFields(day_.gCurrentDate, "2") + "&vellVersion=" + version_;
+    return "username=" + p_.Setup.Uid + "&password=" + p_.Setup.Pwd + "&" + dayFields(p_.Day.gCurrentDate, "1") + "&" +
+           dayFields(p_.Day.gCurrentDate, "2") + "&vellVersion=" + p_.Version;
 }
 
 std::unordered_set<std::string> DownloadList::storeIndex(const std::vector<std::string>& records) {
-    const std::string path = day_.gDayFolder + std::string(indexFileName);
-    const Merged merged = mergeWithIndex(records, files_.PathExists(path) ? files_.ReadFile(path) : std::string());
-    files_.WriteWhole(path, merged.Index, Durability::Rename);
+    const std::string path = p_.Day.gDayFolder + std::string(indexFileName);
+    const Merged merged = mergeWithIndex(records, p_.Disk.PathExists(path) ? p_.Disk.ReadFile(path) : std::string());
+    p_.Disk.WriteWhole(path, merged.Index, Durability::Rename);
     for (const std::string& name : merged.GoneFiles) {
-        log_.WriteLog("        The service does not list " + name + " any more");
-        store_.DeleteArticleFiles(name);
+        p_.Log.WriteLog("        The service does not list " + name + " any more");
+        p_.Store.DeleteArticleFiles(name);
     }
     return merged.ChangedFiles;
 }
@@ -125,7 +111,7 @@ void DownloadList::fillDownloadList(const std::vector<std::string>& records,
     append({.FileName = advertisementFile, .Size = advertisementSize, .Change = {}});
     for (const std::string& record : records) {
         if (record.empty()) continue;
-        ++state_.gClippingsCount;
+        ++p_.Downloads.gClippingsCount;
         const std::string name(indexKey(record));
         const std::string change(indexChange(record));
         auto forms = clippingForms(name);
@@ -135,20 +121,20 @@ void DownloadList::fillDownloadList(const std::vector<std::string>& records,
 }
 
 void DownloadList::append(DownloadEntry entry) {
-    state_.gTotalBytes += entry.Size;
-    state_.gDownloadList.push_back(std::move(entry));
+    p_.Downloads.gTotalBytes += entry.Size;
+    p_.Downloads.gDownloadList.push_back(std::move(entry));
 }
 
 bool DownloadList::GetAlert() {
-    return trap(log_, "GetAlert()", false, [&] {
+    return trap(p_.Log, "GetAlert()", false, [&] {
         std::string body;
         std::string headers;
-        if (!http_.OpenUrl("POST", settings_.Host, alertScript, dayFields(day_.gCurrentDate, ""), body, headers))
+        if (!p_.Http.OpenUrl("POST", p_.Setup.Host, alertScript, dayFields(p_.Day.gCurrentDate, ""), body, headers))
             return false;
         const std::string_view alert = Trim(body);
         if (alert.empty()) return false;
-        files_.WriteWhole(day_.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",
-                          Durability::Rename);
+        p_.Disk.WriteWhole(p_.Day.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",
+                           Durability::Rename);
         return true;
     });
 }

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <utility>
 #include <vector>
 
 #include "log/EventLog.h"
@@ -24,9 +25,19 @@ struct Settings;
 // Asks the service what there is for the day of the run.
 class DownloadList {
   public:
-    DownloadList(modHTTP& http, modGlobal& store, Files& files, MessageBoxes& boxes, RunFeedback& feedback,
-                 EventLog& log, const Settings& settings, const DayState& day, DownloadState& state,
-                 std::string version);
+    struct Parts {
+        modHTTP& Http;
+        modGlobal& Store;
+        Files& Disk;
+        MessageBoxes& Boxes;
+        RunFeedback& Feedback;
+        EventLog& Log;
+        const Settings& Setup;
+        const DayState& Day;
+        DownloadState& Downloads;
+        std::string Version;
+    };
+    explicit DownloadList(Parts parts) : p_(std::move(parts)) {}
 
     // Gets the day's list, stores it as the day's index, merged with the old one, and fills the download list. False,
     // with index and articles as they were, when no usable list came.
@@ -46,16 +57,7 @@ class DownloadList {
     void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
     void append(DownloadEntry entry);
 
-    modHTTP& http_;
-    modGlobal& store_;
-    Files& files_;
-    MessageBoxes& boxes_;
-    RunFeedback& feedback_;
-    EventLog& log_;
-    const Settings& settings_;
-    const DayState& day_;
-    DownloadState& state_;
-    std::string version_;
+    Parts p_;
 };
 
 }  // namespace vell

@@ -17,30 +17,26 @@
 
 namespace vell {
 
-modGlobal::modGlobal(Files& files, EventLoop& loop, MessageBoxes& boxes, modIni& ini, EventLog& log,
-                     const Settings& settings, DayState& day)
-    : files_(files), loop_(loop), boxes_(boxes), ini_(ini), log_(log), settings_(settings), day_(day) {}
-
 bool modGlobal::CreateDownloadDirPath() {
-    return trap(log_, "CreateDownloadDirPath()", false, [&] {
-        const std::string path = folderOfDay(day_.gCurrentDate);
-        log_.WriteLog("Download directory is '" + path + "'");
-        const bool isFile = files_.FileSize(path).has_value();  // which making the folder then tells
-        if (isFile || !PathExists(path)) files_.MakeFolder(path);
-        day_.gDayFolder = path;
+    return trap(p_.Log, "CreateDownloadDirPath()", false, [&] {
+        const std::string path = folderOfDay(p_.Day.gCurrentDate);
+        p_.Log.WriteLog("Download directory is '" + path + "'");
+        const bool isFile = p_.Disk.FileSize(path).has_value();  // which making the folder then tells
+        if (isFile || !PathExists(path)) p_.Disk.MakeFolder(path);
+        p_.Day.gDayFolder = path;
         return true;
     });
 }
 
 bool modGlobal::PathExists(std::string_view path) const {
-    return files_.PathExists(path);
+    return p_.Disk.PathExists(path);
 }
 
 std::vector<std::string> modGlobal::GetLocalDirectories(const std::string& folder, bool includeDotEntries) {
-    return trap(log_, "GetLocalDirectories()", std::vector<std::string>{}, [&] {
+    return trap(p_.Log, "GetLocalDirectories()", std::vector<std::string>{}, [&] {
         std::vector<std::string> names;
         if (includeDotEntries) names = {".", ".."};
-        for (auto& entry : files_.Enumerate(folder, "*.*", Files::Kind::Folders))
+        for (auto& entry : p_.Disk.Enumerate(folder, "*.*", Files::Kind::Folders))
             names.push_back(std::move(entry.Name));
         return names;
     });
@@ -48,7 +44,7 @@ std::vector<std::string> modGlobal::GetLocalDirectories(const std::string& folde
 
 CFtpFiles modGlobal::GetLocalFiles(const std::string& dayFolder, std::span<const std::string> patterns) {
     CFtpFiles files;
-    trapStep(log_, "GetLocalFiles()", [&] {
+    trapStep(p_.Log, "GetLocalFiles()", [&] {
         for (std::size_t i = 0; i + 1 < patterns.size(); ++i)
             addMatches(files, dayFolder, patterns[i]);
         loadIndex(dayFolder);
@@ -58,7 +54,7 @@ CFtpFiles modGlobal::GetLocalFiles(const std::string& dayFolder, std::span<const
 }
 
 void modGlobal::addMatches(CFtpFiles& files, const std::string& dayFolder, const std::string& pattern) const {
-    for (auto& entry : files_.Enumerate(dayFolder, pattern, Files::Kind::Files)) {
+    for (auto& entry : p_.Disk.Enumerate(dayFolder, pattern, Files::Kind::Files)) {
         auto file = std::make_shared<CFtpFile>();
         file->FileName = std::move(entry.Name);
         file->FilePath = dayFolder;
@@ -71,7 +67,7 @@ void modGlobal::addMatches(CFtpFiles& files, const std::string& dayFolder, const
 void modGlobal::loadIndex(const std::string& dayFolder) {
     const std::string path = dayFolder + std::string(indexFileName);
     indexTable_.clear();
-    if (files_.PathExists(path)) indexTable_ = readIndex(files_.ReadFile(path));
+    if (p_.Disk.PathExists(path)) indexTable_ = readIndex(p_.Disk.ReadFile(path));
 }
 
 void modGlobal::joinIndex(CFtpFiles& files) const {
@@ -90,15 +86,15 @@ void modGlobal::joinIndex(CFtpFiles& files) const {
 }
 
 std::vector<Date> modGlobal::DateSort(std::vector<Date> days) {
-    trapStep(log_, "DateSort()", [&] { std::ranges::sort(days, std::greater{}); });
+    trapStep(p_.Log, "DateSort()", [&] { std::ranges::sort(days, std::greater{}); });
     return days;
 }
 
 std::string modGlobal::folderOfDay(const Date& day) const {
     if (!day.isReal()) throw RunTimeError(error_number::PathNotFound, "Path not found: no day '" + day.dayName() + "'");
-    if (Trim(settings_.LocalDir).empty())
+    if (Trim(p_.Setup.LocalDir).empty())
         throw RunTimeError(error_number::PathNotFound, "Path not found: no download folder is set");
-    return settings_.LocalDir + "\\" + day.folderName() + "\\";
+    return p_.Setup.LocalDir + "\\" + day.folderName() + "\\";
 }
 
 void modGlobal::DeleteContent(const Date& day) {
@@ -107,18 +103,18 @@ void modGlobal::DeleteContent(const Date& day) {
         again = false;
         try {
             const std::string folder = folderOfDay(day);
-            for (const auto& entry : files_.Enumerate(folder, "*.*", Files::Kind::Files))
-                files_.DeleteFile(folder + entry.Name);
-            loop_.DoEvents();
-            files_.RemoveFolder(folder);
-            loop_.DoEvents();
+            for (const auto& entry : p_.Disk.Enumerate(folder, "*.*", Files::Kind::Files))
+                p_.Disk.DeleteFile(folder + entry.Name);
+            p_.Loop.DoEvents();
+            p_.Disk.RemoveFolder(folder);
+            p_.Loop.DoEvents();
         } catch (...) {
             const RunTimeError error = currentError();
-            again = boxes_.Show(
+            again = p_.Boxes.Show(
                         "Cannot delete one or more files. There has been a sharing violation. Make sure no files are "
                         "in use.",
                         "Sharing Violation", Buttons::RetryCancel, BoxIcon::None) == Answer::Retry;
-            log_.LogError(error, "DeleteContent()");
+            p_.Log.LogError(error, "DeleteContent()");
         }
     }
 }
@@ -134,19 +130,19 @@ void modGlobal::DeleteDayFile(const std::string& fileName) {
 void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure) {
     std::string path;
     try {
-        const std::string folder = folderOfDay(day_.cmbDate.value_or(Date{}));
+        const std::string folder = folderOfDay(p_.Day.cmbDate.value_or(Date{}));
         for (const std::string& name : fileNames) {
             path = folder + name;
-            if (!files_.PathExists(path)) continue;
-            files_.DeleteFile(path);
-            log_.WriteLog("        Deleted " + path);
+            if (!p_.Disk.PathExists(path)) continue;
+            p_.Disk.DeleteFile(path);
+            p_.Log.WriteLog("        Deleted " + path);
         }
     } catch (...) {
-        log_.LogError(currentError(), procedure);
+        p_.Log.LogError(currentError(), procedure);
         // Without a path nothing was chosen and nothing was there to delete.
         if (!path.empty())
-            boxes_.Show("Cannot delete " + path + ". Make sure it's not in use.", programCaption, Buttons::Ok,
-                        BoxIcon::None);
+            p_.Boxes.Show("Cannot delete " + path + ". Make sure it's not in use.", programCaption, Buttons::Ok,
+                          BoxIcon::None);
     }
 }
 
@@ -169,23 +165,23 @@ std::string markKey(std::string_view name) {
 }  // namespace
 
 bool modGlobal::setMark(const Mark& mark, std::string_view path) {
-    return trap(log_, mark.Procedure, false, [&] {
+    return trap(p_.Log, mark.Procedure, false, [&] {
         path = Trim(path);
         const std::size_t start = nameStart(path);
         if (start == 0) return false;
         const std::string file = std::string(Left(path, start)).append(mark.File);
-        return ini_.IniWriteString(file, mark.Section, markKey(Mid(path, start + 1)), "1");
+        return p_.Ini.IniWriteString(file, mark.Section, markKey(Mid(path, start + 1)), "1");
     });
 }
 
 bool modGlobal::hasMark(const Mark& mark, std::string_view path) const {
-    return trap(log_, mark.Procedure, false, [&] {
+    return trap(p_.Log, mark.Procedure, false, [&] {
         path = Trim(path);
         const std::size_t start = nameStart(path);
         if (start == 0) return false;
         const std::string file = std::string(Left(path, start)).append(mark.File);
         std::string value;
-        return ini_.IniReadString(file, mark.Section, markKey(Mid(path, start + 1)), value) && Trim(value) == "1";
+        return p_.Ini.IniReadString(file, mark.Section, markKey(Mid(path, start + 1)), value) && Trim(value) == "1";
     });
 }
 

@@ -27,8 +27,16 @@ struct Settings;
 // name and return the failure value.
 class modGlobal {
   public:
-    modGlobal(Files& files, EventLoop& loop, MessageBoxes& boxes, modIni& ini, EventLog& log, const Settings& settings,
-              DayState& day);
+    struct Parts {
+        Files& Disk;
+        EventLoop& Loop;
+        MessageBoxes& Boxes;
+        modIni& Ini;
+        EventLog& Log;
+        const Settings& Setup;
+        DayState& Day;
+    };
+    explicit modGlobal(const Parts& parts) : p_(parts) {}
 
     // Makes the folder of the day of the run, one level below the download root, and remembers it in the day state.
     bool CreateDownloadDirPath();
@@ -74,13 +82,7 @@ class modGlobal {
     void joinIndex(CFtpFiles& files) const;
     void deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure);
 
-    Files& files_;
-    EventLoop& loop_;
-    MessageBoxes& boxes_;
-    modIni& ini_;
-    EventLog& log_;
-    const Settings& settings_;
-    DayState& day_;
+    Parts p_;
     std::vector<IndexRecord> indexTable_;
 };
 

@@ -54,7 +54,7 @@ class ServiceTest : public testing::Test, protected StoreRig, protected RunFeedb
     CurlInternet internet{loop, clock};
     modHTTP http{internet, files, boxes, *this, log, setup};
     DownloadState downloads;
-    DownloadList list{http, store, files, boxes, *this, log, setup, day, downloads, "2.1.37"};
+    DownloadList list{{http, store, files, boxes, *this, log, setup, day, downloads, "2.1.37"}};
     std::string status = "before", message, progress, body = "old", headers = "old";
     std::int32_t received = -1;
     std::function<void()> onSetup;

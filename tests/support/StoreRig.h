@@ -26,7 +26,7 @@ struct StoreRig : SettingsRig {
     AsioEventLoop loop{clock};
     ScriptedBoxes boxes;
     DayState day;
-    modGlobal store{files, loop, boxes, ini, log, setup, day};
+    modGlobal store{{files, loop, boxes, ini, log, setup, day}};
 };
 
 }  // namespace vell::test
