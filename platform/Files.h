@@ -62,7 +62,8 @@ class Files {
   public:
     virtual ~Files() = default;
 
-    // True when the attributes of a file or folder can be read.
+    // False only when there is no such file or folder: one that cannot be looked at is there all the same, and tells
+    // why when it is used.
     [[nodiscard]] virtual bool PathExists(std::string_view path) const = 0;
     // Length in bytes; nothing when there is no such file.
     [[nodiscard]] virtual std::optional<std::int64_t> FileSize(std::string_view path) const = 0;

@@ -62,7 +62,8 @@ void ClippingBooks::printWhenNew(const std::string& name, std::int64_t before) {
     const Session& state = p_.State;
     if (!state.Run.Setup.PrintOnDownload || InStr(Upper(name), ".PDF") == 0) return;
     const std::string path = state.Run.Day.gDayFolder + name;
-    if (p_.Disk.FileSize(path).value_or(0) == before) return;
+    const auto now = trap(p_.Log, "StartDownload()", before, [&] { return p_.Disk.FileSize(path).value_or(0); });
+    if (now == before) return;
     say("Printing " + name);
     if (!p_.Article.PrintArticle(path))
         say("FAILED Printing " + name);

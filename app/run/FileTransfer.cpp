@@ -59,13 +59,16 @@ void FileTransfer::begin() {
 bool FileTransfer::adownloadFile(const DownloadEntry& entry, const std::string& folder, Attempt attempt) {
     return trap(p_.Log, "adownloadFile()", false, [&] {
         const std::string path = folder + entry.FileName;
-        const auto before = p_.Disk.Stamp(path);
-        const auto begun = p_.Time.Steady();
-        const auto part = openPart(folder + partName(entry.FileName, entry.Change));
-        if (!part) return false;
-        const bool hasWaited = p_.Time.Steady() - begun >= waitStep;
-        if (hasWaited && hasSize(entry) && p_.Disk.Stamp(path) != before && p_.Disk.FileSize(path) == entry.Size)
-            return true;  // the other program has brought it
+        const std::string partPath = folder + partName(entry.FileName, entry.Change);
+        auto part = p_.Disk.OpenPart(partPath);
+        if (!part) {
+            const auto before = p_.Disk.Stamp(path);
+            part = waitForPart(partPath);
+            if (!part) return false;
+            const bool isNew = p_.Disk.Stamp(path) != before;
+            if (isNew && hasSize(entry) && p_.Disk.FileSize(path) == entry.Size)
+                return true;  // the other one brought it
+        }
         if (!fetch(entry, path, *part) || !take(entry, path, *part, attempt)) return false;
         dropOtherVersions(entry, folder);
         return true;
@@ -73,11 +76,10 @@ bool FileTransfer::adownloadFile(const DownloadEntry& entry, const std::string& 
 }
 
 // Null when another program has it for too long, or the user stops the waiting.
-std::unique_ptr<PartFile> FileTransfer::openPart(const std::string& path) {
-    auto part = p_.Disk.OpenPart(path);
-    if (part) return part;
+std::unique_ptr<PartFile> FileTransfer::waitForPart(const std::string& path) {
     p_.Log.WriteLog("        Another program is fetching this file.");
     const SteadyTime end = p_.Time.Steady() + longestWait;
+    std::unique_ptr<PartFile> part;
     while (!part && !p_.State.gStopRequested && p_.Time.Steady() < end) {
         p_.Loop.WaitForEvents(static_cast<int>(waitStep.count()));
         part = p_.Disk.OpenPart(path);
@@ -100,7 +102,10 @@ bool FileTransfer::fetch(const DownloadEntry& entry, const std::string& path, Pa
 std::int64_t FileTransfer::startOffset(const DownloadEntry& entry, const std::string& path, PartFile& part) {
     if (!hasSize(entry)) return 0;
     const auto isBeginning = [&](std::int64_t length) { return length > 0 && length < entry.Size; };
-    if (part.Length() == 0 && !entry.IsOutdated && isBeginning(p_.Disk.FileSize(path).value_or(0))) part.Adopt(path);
+    if (part.Length() == 0 && !entry.IsOutdated)
+        trapStep(p_.Log, "adownloadFile()", [&] {
+            if (isBeginning(p_.Disk.FileSize(path).value_or(0))) part.Adopt(path);
+        });
     return isBeginning(part.Length()) ? part.Length() : 0;
 }
 

@@ -41,7 +41,7 @@ class FileTransfer {
     [[nodiscard]] bool adownloadFile(const DownloadEntry& entry, const std::string& folder, Attempt attempt);
 
   private:
-    [[nodiscard]] std::unique_ptr<PartFile> openPart(const std::string& path);
+    [[nodiscard]] std::unique_ptr<PartFile> waitForPart(const std::string& path);
     [[nodiscard]] bool fetch(const DownloadEntry& entry, const std::string& path, PartFile& part);
     [[nodiscard]] std::int64_t startOffset(const DownloadEntry& entry, const std::string& path, PartFile& part);
     [[nodiscard]] bool take(const DownloadEntry& entry, const std::string& path, PartFile& part, Attempt attempt);

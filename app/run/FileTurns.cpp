@@ -26,8 +26,7 @@ bool FileTurns::take(std::int32_t index) {
     state.gCurrentFileIndex = index;
     const DownloadEntry& entry = state.Downloads.gDownloadList[static_cast<std::size_t>(index) - 1];
     const std::string name = entry.FileName;
-    const Turn turn{index, entry, p_.Disk.FileSize(state.Run.Day.gDayFolder + name).value_or(0),
-                    equalNoCase(name, advertisementFile)};
+    const Turn turn{index, entry, lengthOf(state.Run.Day.gDayFolder + name), equalNoCase(name, advertisementFile)};
     p_.Log.WriteLog(counter(index) + "  Downloading " + name + " (Starting from " + std::to_string(turn.Start) +
                     " bytes)");
     bool ok = attempt(turn, FileTransfer::Attempt::Repeatable);
@@ -71,6 +70,11 @@ bool FileTurns::retry(const Turn& turn) {
         p_.Loop.DoEvents();
     }
     return ok;
+}
+
+// What cannot be looked at gives way to what comes.
+std::int64_t FileTurns::lengthOf(const std::string& path) const {
+    return trap(p_.Log, "StartDownload()", std::int64_t{0}, [&] { return p_.Disk.FileSize(path).value_or(0); });
 }
 
 std::string FileTurns::counter(std::int32_t index) const {

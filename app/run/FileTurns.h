@@ -49,6 +49,7 @@ class FileTurns {
 
     [[nodiscard]] bool attempt(const Turn& turn, FileTransfer::Attempt attempt);
     [[nodiscard]] bool retry(const Turn& turn);
+    [[nodiscard]] std::int64_t lengthOf(const std::string& path) const;
     [[nodiscard]] std::string counter(std::int32_t index) const;
 
     Parts p_;

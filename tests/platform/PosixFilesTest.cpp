@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <filesystem>
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -203,6 +204,20 @@ TEST_F(PosixFilesTest, whatIsNoFileDoesNotGiveWayToAPartButALinkDoes) {
     EXPECT_EQ(folder_.get("LINK.PDF") + folder_.get("real"), "ourstheirs");
     for (const char* name : {".l.part", ".f.part"})
         EXPECT_NE(errorOf([&] { (void)files_.OpenPart(at(name)); }).Number, 0) << name;
+}
+
+TEST_F(PosixFilesTest, onlyWhatDoesNotExistIsTakenForAbsentAndAPipeForNoFile) {
+    std::filesystem::create_symlink("loop", folder_.path() / "loop");
+    ASSERT_EQ(mkfifo((folder_.path() / "pipe").c_str(), 0600), 0);
+    EXPECT_FALSE(files_.PathExists(at("gone\\x")));
+    EXPECT_EQ(files_.Stamp(at("gone")), std::nullopt);
+    EXPECT_TRUE(files_.PathExists(at("loop")));
+    EXPECT_EQ(errorOf([&] { (void)files_.FileSize(at("loop")); }).LastSystemError, ELOOP);
+    EXPECT_EQ(errorOf([&] { (void)files_.Stamp(at(std::string(300, 'a'))); }).Number, error_number::BadFileName);
+    EXPECT_EQ(errorOf([&] { files_.ReplaceByte(at("pipe"), 0, 'x'); }).LastSystemError, ENXIO);
+    const int reader = open((folder_.path() / "pipe").c_str(), O_RDONLY | O_NONBLOCK);
+    EXPECT_EQ(errorOf([&] { files_.Append(at("pipe"), "x"); }).Number, error_number::PathAccess);
+    close(reader);
 }
 
 TEST_F(PosixFilesTest, aWriteToAFullDiskCanBeMadeAgain) {

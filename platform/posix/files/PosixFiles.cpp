@@ -57,6 +57,15 @@ bool comesBefore(const Files::Entry& a, const Files::Entry& b) {
     return order != 0 ? order < 0 : a.Name < b.Name;
 }
 
+// A pipe in the place of a file is refused, and nobody waits for its reader.
+FileHandle openToWrite(const FilePlace& place, int flags) {
+    FileHandle file(place, O_WRONLY | O_NONBLOCK | flags, 0666);
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (S_ISFIFO(found.st_mode)) throw fileError(EEXIST, place);
+    return file;
+}
+
 // A link stays what it is: the file behind it is written.
 std::string behindLink(const std::string& path) {
     struct stat status {};
@@ -68,7 +77,11 @@ std::string behindLink(const std::string& path) {
 }  // namespace
 
 bool PosixFiles::PathExists(std::string_view path) const {
-    return status(path).has_value();
+    try {
+        return status(path).has_value();
+    } catch (const RunTimeError&) {
+        return true;  // whoever uses it is told what is the matter with it
+    }
 }
 
 std::optional<std::int64_t> PosixFiles::FileSize(std::string_view path) const {
@@ -128,7 +141,7 @@ void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durab
 
 void PosixFiles::ReplaceByte(std::string_view path, std::int64_t offset, char byte) {
     const auto place = locate(path);
-    FileHandle file(place, O_WRONLY);
+    FileHandle file = openToWrite(place, 0);
     struct stat found {};
     if (fstat(file.get(), &found) != 0) raiseFileError(place);
     if (offset < 0 || offset >= found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
@@ -139,7 +152,7 @@ void PosixFiles::ReplaceByte(std::string_view path, std::int64_t offset, char by
 void PosixFiles::Append(std::string_view path, std::string_view bytes) {
     const auto place = locate(path);
     mayMake(place, [&] {
-        FileHandle file(place, O_WRONLY | O_APPEND | O_CREAT, 0666);
+        FileHandle file = openToWrite(place, O_APPEND | O_CREAT);
         file.writeAll(bytes, place);
         file.close(place);
     });
@@ -148,7 +161,7 @@ void PosixFiles::Append(std::string_view path, std::string_view bytes) {
 std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(std::string_view path, std::int64_t offset) {
     const auto place = locate(path);
     FileHandle file;
-    mayMake(place, [&] { file = FileHandle(place, O_WRONLY | O_CREAT, 0666); });
+    mayMake(place, [&] { file = openToWrite(place, O_CREAT); });
     struct stat found {};
     if (fstat(file.get(), &found) != 0) raiseFileError(place);
     if (offset < 0 || offset > found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
@@ -232,9 +245,12 @@ FilePlace PosixFiles::locate(std::string_view path) const {
 }
 
 std::optional<struct stat> PosixFiles::status(std::string_view path) const {
+    if (!isUsablePath(path)) return std::nullopt;
     struct stat found {};
-    if (!isUsablePath(path) || stat(realPath(path).c_str(), &found) != 0) return std::nullopt;
-    return found;
+    const auto place = locate(path);
+    if (stat(place.System.c_str(), &found) == 0) return found;
+    if (errno != ENOENT && errno != ENOTDIR) raiseFileError(place);
+    return std::nullopt;
 }
 
 // Runs an operation that makes the file when it is missing.

@@ -44,7 +44,7 @@ class PosixFiles : public Files {
     void remove(const FilePlace& place);
 
   private:
-    // Nothing when the attributes cannot be read.
+    // Nothing when there is no such file or folder; raises when the attributes cannot be read.
     [[nodiscard]] std::optional<struct stat> status(std::string_view path) const;
     template <class Operation>
     void mayMake(const FilePlace& place, Operation&& operation);
