@@ -159,8 +159,8 @@ ENGLISH = {
     ],
 }
 
-# Newspaper, theme, which sentence leads, title, categories, types, picture (none: text alone). One article has no title,
-# one a very long one, one a category with nothing behind its last bar, some no type.
+# Newspaper, theme, which sentence leads, title, categories, types, picture (none: text alone). One has no title, some no
+# type, one a very long title, one a category with nothing behind its last bar.
 DAYS = {
     "first": [
         ("ANEM", "politics", 0, "Ψηφίστηκε το σχέδιο για τα νέα σχολεία", "ΠΟΛΙΤΙΚΗ", "ΕΙΔΗΣΗ", "council"),

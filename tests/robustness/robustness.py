@@ -7,9 +7,10 @@
 
 BIN_FOLDER holds vell-console and vell-demo-service of a build without sanitizers (build/release/bin). Kills come at
 random moments of downloads over HTTP and FTP, of clippings that are published again meanwhile, and of setup, schedule,
-open, print and delete; then every call that opens or changes a file fails in its turn, once or from then on, and the
-program is killed before and after each of them. Needs gcc; takes minutes; ends with a table, and with 1 if anything
-broke. The same seed makes the same moves, but no two machines kill at the same instruction.
+open, print and delete; transfers break; two clients share a download folder; then every call that opens or changes a
+file fails in its turn, once or from then on, and the program is killed before and after each of them. Needs gcc; takes
+some ten minutes; ends with a table, and with 1 if anything broke. The same seed makes the same moves, but no two
+machines kill at the same instruction.
 """
 import argparse
 import collections
@@ -23,7 +24,7 @@ import sys
 import tempfile
 import time
 
-from world import DATE, DAY, FORMS, MARKS, SIZES, Box, Service
+from world import DATE, MARKS, SIZES, Box, Service
 
 HERE = pathlib.Path(__file__).resolve().parent
 ERRORS = (errno.ENOSPC, errno.EIO, errno.EACCES)
@@ -76,7 +77,7 @@ def said(errors):
 
 
 def recover(box, tally, how):
-    code, out, errors = box.download()
+    code, _, errors = box.download()
     if code != 0 or box.incomplete():
         tally.add([("not made good", f"code {code}, {box.incomplete()}, {said(errors)}")], how)
         box.reset()
@@ -109,7 +110,7 @@ def runs_over_a_bad_line(box, chance, tally, count):
             if chance.random() < 0.5:
                 box.service.publish(name)
         before, how = box.files(), f"run {number}"
-        code, out, errors = box.download()
+        code, _, errors = box.download()
         tally.attacks += 1
         tally.hits += code == 1
         tally.add(box.broken(before), how)
@@ -138,7 +139,8 @@ def two_clients(one, other, chance, tally, count):
                 tally.add([("wrong exit code", f"{process.returncode} {said(words)}")], how)
         tally.add(one.broken(before), how)
         recover(one, tally, how)
-        marks = [box.start("open", f"{name}_20040307.PDF", "--date", DATE) for box, name in ((one, "AAA01"), (other, "BBB02"))]
+        marks = [box.start("open", f"{name}_20040307.PDF", "--date", DATE)
+                 for box, name in ((one, "AAA01"), (other, "BBB02"))]
         codes = [(process.communicate(b"", timeout=60), process.returncode)[1] for process in marks]
         kept = one.files().get("OPENED.DIR", b"")
         if codes != [0, 0] or not (b"AAA01_20040307.PDF=1" in kept and b"BBB02_20040307.PDF=1" in kept):
@@ -168,11 +170,14 @@ def commands(box):
 def lines_of(settings):
     """The settings without the numbers of the schedule's lines, and without the one that a command changes."""
     text = re.sub(r"Schedule\d+=", "Schedule=", settings.decode("latin-1"))
-    return {line for line in text.splitlines() if line and not re.match(r"TimeOut=|Schedule=(Fri 10:10|Tue Thu 07:15)", line)}
+    changing = re.compile(r"TimeOut=|Schedule=(Fri 10:10|Tue Thu 07:15)")
+    return {line for line in text.splitlines() if line and not changing.match(line)}
 
 
 def broken_by_command(box, name, before):
     files, found = box.files(), []
+    if not box.other.exists():
+        found.append(("lost file", box.other.name))
     lost = lines_of(box.settings) - lines_of((box.program / "vell.ini").read_bytes())
     if lost:
         found.append(("settings lost", ", ".join(sorted(lost))))
@@ -208,14 +213,15 @@ def again(box, tally, name, command, before, how):
 
 class Faults:
     def __init__(self, folder, box, in_log=False):
-        self.in_log = in_log  # the log is opened and written hundreds of times in a run, so it gets a scenario of its own
+        self.in_log = in_log  # it is opened and written hundreds of times in a run, so it gets a scenario of its own
         self.library, self.report, self.box = folder / "faults.so", folder / "report", box
         subprocess.run(["gcc", "-shared", "-fPIC", "-O1", "-o", self.library, HERE / "faults.c", "-ldl"], check=True)
 
     def environment(self, at, how, number):
         self.report.unlink(missing_ok=True)
-        return {"LD_PRELOAD": str(self.library), "FAULT_ROOT": str(self.box.root), "FAULT_AT": str(at), "FAULT_HOW": how,
-                "FAULT_ERRNO": str(number), "FAULT_REPORT": str(self.report), "FAULT_SKIP": "" if self.in_log else ".log"}
+        return {"LD_PRELOAD": str(self.library), "FAULT_ROOT": str(self.box.root), "FAULT_AT": str(at),
+                "FAULT_HOW": how, "FAULT_ERRNO": str(number), "FAULT_REPORT": str(self.report),
+                "FAULT_SKIP": "" if self.in_log else ".log"}
 
     def told(self):
         words = self.report.read_text().split(" ", 2) if self.report.exists() else ["0"]
@@ -238,7 +244,8 @@ def every_fault(box, faults, tally, words, prepare, check):
     prepare()
     box.run(*words, **faults.environment(0, "", 0))
     usual_log, total = log_of(box), faults.told()[0]
-    for at in range(1, total + 1) if not faults.in_log else sorted({round(1.5 ** i) for i in range(18)} & set(range(total + 1))):
+    some = {round(1.5 ** i) for i in range(18)} if faults.in_log else set(range(1, total + 1))
+    for at in sorted(some & set(range(1, total + 1))):
         for how in ("once", "on", "before", "after"):
             error = ERRORS[at % len(ERRORS)]
             before = prepare()
@@ -311,10 +318,11 @@ def main():
         folder = pathlib.Path(name)
         samples = HERE.parents[1] / "demo/samples"
         service = Service(options.bin / "vell-demo-service", folder, samples)
-        bad = {each: Service(options.bin / "vell-demo-service", folder / f"bad{each}", samples, "--break-each", str(each))
-               for each in (3, 1)}
+        bad = {each: Service(options.bin / "vell-demo-service", folder / f"bad{each}", samples, "--break-each",
+                             str(each)) for each in (3, 1)}
         try:
-            boxes = {protocol: Box(options.bin / "vell-console", folder, service, protocol) for protocol in ("HTTP", "FTP")}
+            boxes = {protocol: Box(options.bin / "vell-console", folder, service, protocol)
+                     for protocol in ("HTTP", "FTP")}
             http = boxes["HTTP"]
 
             def scenario(title, attack):
@@ -347,7 +355,8 @@ def main():
             whole = {**http.files(), "OPENED.DIR": MARKS, "PRINTED.DIR": MARKS.replace(b"VIEW", b"PRINT")}
             scenario("kills in commands",
                      lambda chance, tally: kills_in_commands(http, chance, tally, options.other_kills, whole))
-            scenario("faults in commands", lambda _, tally: faults_in_commands(http, Faults(folder, http), tally, whole))
+            scenario("faults in commands",
+                     lambda _, tally: faults_in_commands(http, Faults(folder, http), tally, whole))
         finally:
             for one in (service, *bad.values()):
                 one.process.terminate()

@@ -2,7 +2,6 @@
 """A service with one day of clippings that are published again and again, and a client's folders with what must hold
 in them at any moment."""
 import os
-import pathlib
 import random
 import socket
 import subprocess
@@ -10,7 +9,8 @@ import time
 
 DAY, OTHER_DAY = "07032004", "06032004"
 DATE = "07/03/2004"
-SIZES = {"AAA01": (700, 400, 60), "BBB02": (90_000, 1200, 180), "CCC03": (300_000, 2400, 200), "DDD04": (700_000, 900, 90)}
+SIZES = {"AAA01": (700, 400, 60), "BBB02": (90_000, 1200, 180), "CCC03": (300_000, 2400, 200),
+         "DDD04": (700_000, 900, 90)}
 FORMS = (".PDF", ".TXT", ".MT")
 MARKS = b"[VIEW]\r\nBBB02_20040307.PDF=1\r\nNOT%20HERE=1\r\n"
 INI = """[General]\r\nDebug=1\r\nPrintAllDelay=0\r\nAutoPlayDelay=5\r\n[Host]\r\nProtocol={protocol}\r\nHost={host}\r
@@ -83,7 +83,8 @@ class Box:
         (self.home / "bin/lp").chmod(0o755)
         (self.home / "applications/v.desktop").write_text("[Desktop Entry]\nType=Application\nName=V\nExec=true %f\n")
         (self.home / "applications/mimeapps.list").write_text("[Default Applications]\napplication/pdf=v.desktop\n")
-        (self.clips / OTHER_DAY / "OLD.PDF").write_bytes(b"%PDF-1.4\nold\n")
+        self.other = self.clips / OTHER_DAY / "OLD.PDF"
+        self.other.write_bytes(b"%PDF-1.4\nold\n")
         self.environment = {**os.environ, "http_proxy": service.proxy, "no_proxy": "", "NO_PROXY": "", "TZ": "UTC",
                             "XDG_DATA_HOME": str(self.home), "XDG_CONFIG_HOME": str(self.home), "LC_ALL": "C.UTF-8",
                             "PATH": f"{self.home}/bin:{os.environ['PATH']}"}
