@@ -47,8 +47,7 @@ CFtpFiles modGlobal::GetLocalFiles(const std::string& dayFolder, std::span<const
     trapStep(p_.Log, "GetLocalFiles()", [&] {
         for (std::size_t i = 0; i + 1 < patterns.size(); ++i)
             addMatches(files, dayFolder, patterns[i]);
-        loadIndex(dayFolder);
-        joinIndex(files);
+        joinIndex(files, dayFolder);
     });
     return files;
 }
@@ -64,16 +63,13 @@ void modGlobal::addMatches(CFtpFiles& files, const std::string& dayFolder, const
     }
 }
 
-void modGlobal::loadIndex(const std::string& dayFolder) {
+void modGlobal::joinIndex(CFtpFiles& files, const std::string& dayFolder) const {
     const std::string path = dayFolder + std::string(indexFileName);
-    indexTable_.clear();
-    if (p_.Disk.PathExists(path)) indexTable_ = readIndex(p_.Disk.ReadFile(path));
-}
-
-void modGlobal::joinIndex(CFtpFiles& files) const {
+    if (!p_.Disk.PathExists(path)) return;
+    const auto table = readIndex(p_.Disk.ReadFile(path));
     std::unordered_map<std::string, const IndexRecord*> firstOf;
-    firstOf.reserve(indexTable_.size());
-    for (const IndexRecord& record : indexTable_)
+    firstOf.reserve(table.size());
+    for (const IndexRecord& record : table)
         firstOf.emplace(Upper(record.FileName), &record);
     for (const auto& file : files) {
         const auto match = firstOf.find(Upper(file->FileName));

@@ -46,8 +46,6 @@ class modGlobal {
     // The files of a day folder (backslash at its end), joined to the day's index. The last of the patterns is not
     // used: callers pass one more than they mean.
     [[nodiscard]] CFtpFiles GetLocalFiles(const std::string& dayFolder, std::span<const std::string> patterns);
-    // The index as GetLocalFiles read it last.
-    [[nodiscard]] const std::vector<IndexRecord>& indexTable() const { return indexTable_; }
 
     // Puts days in order, the newest first.
     [[nodiscard]] std::vector<Date> DateSort(std::vector<Date> days);
@@ -78,12 +76,10 @@ class modGlobal {
     [[nodiscard]] bool hasMark(const Mark& mark, std::string_view path) const;
 
     void addMatches(CFtpFiles& files, const std::string& dayFolder, const std::string& pattern) const;
-    void loadIndex(const std::string& dayFolder);
-    void joinIndex(CFtpFiles& files) const;
+    void joinIndex(CFtpFiles& files, const std::string& dayFolder) const;
     void deleteFromSelectedDay(std::span<const std::string> fileNames, std::string_view procedure);
 
     Parts p_;
-    std::vector<IndexRecord> indexTable_;
 };
 
 }  // namespace vell

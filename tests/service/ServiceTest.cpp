@@ -158,7 +158,8 @@ TEST_F(ServiceTest, asksForRoomUntilThereIsMoreThanTheFileNeeds) {
         return bytes;
     };
     boxes.Answers = {Answer::Retry, Answer::Cancel};
-    EXPECT_FALSE(download() || has(name));
+    EXPECT_FALSE(download());
+    EXPECT_FALSE(has(name));
     const std::string question = "Not enough free space: Not enough free space available to save " + day.gDayFolder +
                                  name + ". Please free up at least 2 kb from your disk and click Retry|";
     EXPECT_EQ(boxes.shown(), question + question);

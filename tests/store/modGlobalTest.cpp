@@ -26,7 +26,8 @@ class modGlobalTest : public testing::Test, protected StoreRig {
 
 TEST_F(modGlobalTest, makesTheDaysFolderOneLevelDeepAndOnlyUnderARoot) {
     const std::string wanted = std::exchange(day.gDayFolder, "");
-    EXPECT_TRUE(store.CreateDownloadDirPath() && folder.has("clips/07032004"));
+    EXPECT_TRUE(store.CreateDownloadDirPath());
+    EXPECT_TRUE(folder.has("clips/07032004"));
     EXPECT_TRUE(store.CreateDownloadDirPath());  // it is there already
     EXPECT_EQ(std::exchange(day.gDayFolder, ""), wanted);
     EXPECT_EQ(logged(), "Download directory is '" + wanted + "'\nDownload directory is '" + wanted + "'\n");
@@ -57,10 +58,12 @@ TEST_F(modGlobalTest, joinsTheFilesOfADayToItsIndexWithoutRegardToCase) {
 TEST_F(modGlobalTest, marksArticlesInTheirOwnFolder) {
     put("A.PDF", "");
     const std::string article = day.gDayFolder + "A.PDF";
-    EXPECT_FALSE(store.IsFileOpened(article) || store.IsFilePrinted(article));
-    EXPECT_TRUE(store.MarkFileOpened("  " + article + " ") && store.IsFileOpened(day.gDayFolder + "a.pdf"));
+    EXPECT_FALSE(store.IsFileOpened(article));
+    EXPECT_TRUE(store.MarkFileOpened("  " + article + " "));
+    EXPECT_TRUE(store.IsFileOpened(day.gDayFolder + "a.pdf"));
     EXPECT_FALSE(store.IsFilePrinted(article));
-    EXPECT_TRUE(store.MarkFilePrinted(article) && store.IsFilePrinted(article));
+    EXPECT_TRUE(store.MarkFilePrinted(article));
+    EXPECT_TRUE(store.IsFilePrinted(article));
     EXPECT_EQ(get("OPENED.DIR") + get("PRINTED.DIR"), "[VIEW]\r\nA.PDF=1\r\n[PRINT]\r\nA.PDF=1\r\n");
     for (const char* name : {"A=B=1.PDF", ";B.PDF", "[C].PDF", "D%3D; E.PDF"}) {
         EXPECT_TRUE(store.MarkFileOpened(day.gDayFolder + name)) << name;
@@ -72,8 +75,10 @@ TEST_F(modGlobalTest, marksArticlesInTheirOwnFolder) {
     EXPECT_TRUE(store.IsFileOpened(article));
     for (const char* other : {"B.PDF", "C.PDF", "D.PDF", "E.PDF", ""})
         EXPECT_FALSE(store.IsFileOpened(day.gDayFolder + other)) << other;
-    for (const char* nowhere : {"", "A.PDF", "/A.PDF"})
-        EXPECT_FALSE(store.MarkFileOpened(nowhere) || store.MarkFilePrinted(nowhere) || store.IsFileOpened(nowhere));
+    for (const char* nowhere : {"", "A.PDF", "/A.PDF"}) {
+        EXPECT_FALSE(store.MarkFileOpened(nowhere)) << nowhere;
+        EXPECT_FALSE(store.IsFileOpened(nowhere)) << nowhere;
+    }
     EXPECT_FALSE(store.MarkFileOpened(folder.text() + "\\missing\\A.PDF"));
 }
 
@@ -105,7 +110,9 @@ TEST_F(modGlobalTest, neverDeletesOutsideADayFolder) {
         store.DeleteArticleFiles("keep.txt");
         store.DeleteDayFile("keep.txt");
     }
-    EXPECT_TRUE(folder.has("keep.txt") && folder.has("clips/keep.txt") && has("keep.txt"));
+    EXPECT_TRUE(folder.has("keep.txt"));
+    EXPECT_TRUE(folder.has("clips/keep.txt"));
+    EXPECT_TRUE(has("keep.txt"));
 }
 
 TEST_F(modGlobalTest, deletesAnArticleInAllItsFormsFromTheChosenDay) {
