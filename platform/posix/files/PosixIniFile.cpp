@@ -22,6 +22,20 @@ bool isSettled(const FileStamp& stamp) {
     return std::abs(std::chrono::nanoseconds(now).count() - stamp.ModifiedNanoseconds) >= 10'000'000;
 }
 
+// A value that is another one for as long as this lives.
+template <class Value>
+class Restored {
+  public:
+    Restored(Value& value, Value meanwhile) : value_(value), before_(std::exchange(value, meanwhile)) {}
+    ~Restored() { value_ = before_; }
+    Restored(const Restored&) = delete;
+    Restored& operator=(const Restored&) = delete;
+
+  private:
+    Value& value_;
+    Value before_;
+};
+
 // A writer holds the lock for as long as a small file takes to the disk.
 constexpr std::chrono::seconds longestWait{5};
 
@@ -51,11 +65,14 @@ std::string PosixIniFile::ReadString(std::string_view file, std::string_view sec
 
 void PosixIniFile::Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) {
     const auto locked = lock(file);
-    const std::string before = text(file).bytes();
-    IniText edited(before);
-    for (const IniEdit& edit : edits())
-        apply(edit, edited);
-    if (edited.bytes() == before) return;
+    const IniText before = text(file);
+    IniText edited = before;
+    {
+        const Restored<Held> held(held_, {file, &before});
+        for (const IniEdit& edit : edits())
+            apply(edit, edited);
+    }
+    if (edited.bytes() == before.bytes()) return;
 
     files_.MakePrivateFile(file);
     files_.WriteWhole(file, edited.bytes(), Durability::Flushed);
@@ -77,6 +94,7 @@ std::unique_ptr<PartFile> PosixIniFile::lock(std::string_view file) {
 
 const IniText& PosixIniFile::text(std::string_view file) const {
     static const IniText none;
+    if (held_.Text && held_.File == file) return *held_.Text;
     const auto stamp = files_.Stamp(file);
     const auto known = known_.find(file);
     if (stamp && known != known_.end() && known->second.Stamp == *stamp && known->second.IsSettled)

@@ -27,6 +27,13 @@ class PosixIniFile : public IniFile {
         IniText Text;
     };
 
+    // A file that is being updated: until the end it reads as it was under the lock, so that no second reading, which
+    // could fail, decides what is written.
+    struct Held {
+        std::string_view File;
+        const IniText* Text = nullptr;
+    };
+
     // Holds off other writers while it lives. Raises when one has not done its work for seconds.
     [[nodiscard]] std::unique_ptr<PartFile> lock(std::string_view file);
     // The file as it is now; an empty text when there is none. Raises when it cannot be read.
@@ -34,6 +41,7 @@ class PosixIniFile : public IniFile {
     const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
 
     Files& files_;
+    Held held_;
     mutable std::map<std::string, Known, std::less<>> known_;
 };
 
