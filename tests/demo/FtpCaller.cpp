@@ -1,22 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "tests/demo/FtpCaller.h"
 
-#include <array>
-#include <iterator>
 #include <sstream>
 #include <stdexcept>
 
-#include "tests/demo/HttpCaller.h"
+#include "tests/demo/DemoService.h"
 
 namespace vell::test {
 
-namespace {
-
-std::string rest(std::istream& stream) {
-    return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-}  // namespace
+using asio::ip::tcp;
 
 FtpCaller::FtpCaller(const std::string& place, const std::string& user, const std::string& password)
     : control_(streamTo(place)) {
@@ -35,8 +27,7 @@ std::string FtpCaller::reply() {
 }
 
 int FtpCaller::code() {
-    const std::string text = reply();
-    return text.empty() ? 0 : std::stoi(text.substr(0, 3));
+    return std::stoi("0" + reply().substr(0, 3));
 }
 
 std::string FtpCaller::ask(const std::string& command) {
@@ -49,48 +40,32 @@ int FtpCaller::tell(const std::string& command) {
     return code();
 }
 
-int FtpCaller::tellIn(const std::string& directory, const std::string& command) {
-    tell("CWD " + directory);
-    return tell(command);
-}
-
-std::string FtpCaller::passive() {
-    const std::string numbers = ask("PASV");
-    std::istringstream words(numbers.substr(numbers.find('(') + 1));
-    std::array<int, 6> n{};
-    char comma = 0;
-    for (int& number : n)
-        words >> number >> comma;
-    return std::to_string(n[0]) + "." + std::to_string(n[1]) + "." + std::to_string(n[2]) + "." + std::to_string(n[3]) +
-           ":" + std::to_string(n[4] * 256 + n[5]);
+tcp::iostream FtpCaller::passive() {
+    const std::string text = ask("PASV");
+    int high = 0, low = 0;
+    if (std::sscanf(text.c_str(), "227 %*[^(](127,0,0,1,%d,%d)", &high, &low) != 2) throw std::runtime_error(text);
+    return streamTo("127.0.0.1:" + std::to_string(high * 256 + low));
 }
 
 std::string FtpCaller::receive(const std::string& command, Way way) {
-    if (way == Way::Active) return receiveActive(command);
-    auto data = streamTo(passive());
-    lastCode_ = tell(command);
-    if (lastCode_ != 150) return {};
-    std::string bytes = rest(data);
-    lastCode_ = code();
-    return bytes;
-}
-
-std::string FtpCaller::receiveActive(const std::string& command) {
-    using asio::ip::tcp;
     asio::io_context loop;
     tcp::acceptor listener(loop, tcp::endpoint(asio::ip::address_v4::loopback(), 0));
     const int port = listener.local_endpoint().port();
-    if (tell("PORT 127,0,0,1," + std::to_string(port / 256) + "," + std::to_string(port % 256)) != 200) return {};
+    tcp::iostream data;
+    if (way == Way::Passive)
+        data = passive();
+    else if (tell("PORT 127,0,0,1," + std::to_string(port / 256) + "," + std::to_string(port % 256)) != 200)
+        throw std::runtime_error("PORT was refused");
     lastCode_ = tell(command);
     if (lastCode_ != 150) return {};
-    tcp::iostream data(listener.accept());
+    if (way == Way::Active) data = tcp::iostream(listener.accept());
     std::string bytes = rest(data);
     lastCode_ = code();
     return bytes;
 }
 
 int FtpCaller::store(const std::string& command, std::string_view bytes) {
-    auto data = streamTo(passive());
+    auto data = passive();
     lastCode_ = tell(command);
     if (lastCode_ != 150) return lastCode_;
     data << bytes << std::flush;

@@ -3,7 +3,6 @@
 
 #include <string>
 
-#include <asio/io_context.hpp>
 #include <asio/ip/tcp.hpp>
 
 namespace vell::test {
@@ -22,24 +21,20 @@ class FtpCaller {
     // Sends a command and takes its reply.
     std::string ask(const std::string& command);
     int tell(const std::string& command);
-    // The same with a CWD before it.
-    int tellIn(const std::string& directory, const std::string& command);
 
-    // The address that PASV gave, "127.0.0.1:34567".
-    [[nodiscard]] std::string passive();
+    // A stream to where PASV says.
+    [[nodiscard]] asio::ip::tcp::iostream passive();
     // Runs a transfer command to its last reply, over a connection of the given kind, and gives what came.
     enum class Way { Passive, Active };
     [[nodiscard]] std::string receive(const std::string& command, Way way = Way::Passive);
     // Sends the bytes with STOR or APPE; the last code.
     int store(const std::string& command, std::string_view bytes);
-    // Of the last transfer.
+    // Of the last transfer, or the login.
     [[nodiscard]] int lastCode() const { return lastCode_; }
 
     void hangUp() { control_.close(); }
 
   private:
-    std::string receiveActive(const std::string& command);
-
     asio::ip::tcp::iostream control_;
     int lastCode_ = 0;
 };

@@ -1,91 +1,74 @@
 // SPDX-License-Identifier: MIT
 #include <csignal>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
-#include "tests/demo/DemoProcess.h"
-#include "tests/demo/HttpCaller.h"
-#include "tests/demo/SmallTree.h"
+#include "tests/demo/DemoService.h"
 
 namespace vell::test {
 namespace {
 
-Ended runService(std::vector<std::string> options) {
-    options.insert(options.begin(), VELL_DEMO_SERVICE);
-    return run(options);
-}
+using testing::HasSubstr;
 
-TEST(DemoOptionsTest, namesEachMistakeAndItsRemedy) {
-    const struct {
-        std::vector<std::string> Options;
-        const char* Mistake;
-        const char* Remedy;
-    } cases[] = {
-        {{}, "--root is required", "--help"},
-        {{"--root", "x", "--http", "0.0.0.0:0"}, "0.0.0.0:0 can be reached from other machines", "--public"},
-        {{"--root", "x", "--ftp", "8.8.8.8:21"}, "--ftp: 8.8.8.8:21 can be reached", "--public"},
-        {{"--root", "x", "--http", "127.0.0.1"}, "has no port", "ADDRESS:PORT"},
-        {{"--root", "x", "--http", "127.0.0.1:99999"}, "\"99999\" is no port", "0 to 65535"},
-        {{"--root", "x", "--http", "localhost:"}, "\"\" is no port", "0 to 65535"},
-        {{"--root", "x", "--http", "clips.example:80"}, "\"clips.example\" is no address", "such as 127.0.0.1"},
-        {{"--root", "x", "--ftp", "[::1]:0"}, "[::1]:0 is an IPv6 address", "127.0.0.1:0"},
-        {{"--root", "x", "--list-form", "vms"}, "--list-form: vms", "{unix,dos}"},
-        {{"--root", "x", "--for", "0"}, "--for: Value 0", "1 to 1000000"},
-        {{"--root", "x", "--rate", "fast"}, "--rate", "--help"},
-        {{"--root", "x", "--colour"}, "--colour", "--help"},
-    };
-    for (const auto& c : cases) {
-        const Ended ended = runService(c.Options);
-        EXPECT_EQ(ended.ExitCode, 2) << c.Mistake;
-        EXPECT_NE(ended.Errors.find(c.Mistake), std::string::npos) << ended.Errors;
-        EXPECT_NE(ended.Errors.find(c.Remedy), std::string::npos) << ended.Errors;
-    }
-}
-
-TEST(DemoOptionsTest, helpsAndTellsItsVersionWithoutAFolder) {
-    EXPECT_EQ(runService({"--version"}).Out, "vell-demo-service " VELL_VERSION "\n");
-    const Ended help = runService({"--help"});
-    EXPECT_EQ(help.ExitCode, 0);
-    for (const char* option : {"--root", "--http", "--ftp", "--public", "--ready-file", "--for", "--latency", "--rate",
-                               "--list-form", "--verbose"})
-        EXPECT_NE(help.Out.find(option), std::string::npos) << option;
-}
-
-TEST(DemoOptionsTest, saysWhatStandsInTheWayOfAStart) {
+TEST(DemoOptionsTest, namesWhatStandsInTheWayOfAStartAndItsRemedy) {
     const SmallTree tree;
-    const DemoProcess first(tree.path());
+    const DemoService first(tree);
+    const std::string root = tree.text();
     const struct {
         std::vector<std::string> Options;
-        std::string Problem;
-        const char* Remedy;
+        int Code;
+        std::string Mistake, Remedy;
     } cases[] = {
-        {{"--root", tree.text(), "--http", first.http()}, "cannot listen on " + first.http(), "--http"},
-        {{"--root", tree.text(), "--ftp", first.ftp()}, "cannot listen on " + first.ftp(), "--ftp"},
-        {{"--root", tree.text() + "/users.tsv"}, "cannot prepare the folder", "--root"},
-        {{"--root", tree.text(), "--ready-file", tree.text() + "/none/ready"}, "cannot write", "--ready-file"},
+        {{}, 2, "--root is required", "--help"},
+        {{"--root", "x", "--http", "0.0.0.0:0"}, 2, "0.0.0.0:0 can be reached from other machines", "--public"},
+        {{"--root", "x", "--ftp", "8.8.8.8:21"}, 2, "--ftp: 8.8.8.8:21 can be reached", "--public"},
+        {{"--root", "x", "--http", "127.0.0.1"}, 2, "has no port", "ADDRESS:PORT"},
+        {{"--root", "x", "--http", "127.0.0.1:99999"}, 2, "\"99999\" is no port", "0 to 65535"},
+        {{"--root", "x", "--ftp", "[::1]:0"}, 2, "[::1]:0 is an IPv6 address", "127.0.0.1:0"},
+        {{"--root", "x", "--for", "0"}, 2, "--for: Value 0", "1 to 1000000"},
+        {{"--root", root, "--http", first.http()}, 1, "cannot listen on " + first.http(), "--http"},
+        {{"--root", root, "--ftp", first.ftp()}, 1, "cannot listen on " + first.ftp(), "--ftp"},
+        {{"--root", root + "/users.tsv"}, 1, "cannot prepare the folder", "--root"},
+        {{"--root", root, "--ready-file", root + "/none/ready"}, 1, "cannot write", "--ready-file"},
+        {{"--root", root + "/new", "--samples", root + "/none"}, 1, root + "/none", "--samples"},
     };
     for (const auto& c : cases) {
-        const Ended ended = runService(c.Options);
-        EXPECT_EQ(ended.ExitCode, 1) << c.Problem;
-        EXPECT_NE(ended.Errors.find(c.Problem), std::string::npos) << ended.Errors;
-        EXPECT_NE(ended.Errors.find(c.Remedy), std::string::npos) << ended.Errors;
+        std::vector<std::string> words{VELL_DEMO_SERVICE};
+        words.insert(words.end(), c.Options.begin(), c.Options.end());
+        const Ended ended = ChildProcess(words).end();
+        EXPECT_EQ(ended.Code, c.Code) << c.Mistake;
+        EXPECT_THAT(ended.Errors, testing::AllOf(HasSubstr(c.Mistake), HasSubstr(c.Remedy)));
     }
+    EXPECT_FALSE(tree.has("new/sample-days.txt"));
+    EXPECT_EQ(ChildProcess({VELL_DEMO_SERVICE, "--version"}).end().Out, "vell-demo-service " VELL_VERSION "\n");
 }
 
 TEST(DemoOptionsTest, endsCleanlyBySignalEvenWhileCallersAreConnected) {
     const SmallTree tree;
     for (int number : {SIGTERM, SIGINT}) {
-        DemoProcess service(tree.path(), {"--verbose"});
-        HttpCaller idle(service.http());
+        DemoService service(tree, {"--verbose"});
+        const auto idle = streamTo(service.http());
         auto ftp = streamTo(service.ftp());
         ftp.get();
         EXPECT_EQ(get(service.http(), "/none").Status, 404);
         const Ended ended = service.stop(number);
-        EXPECT_EQ(ended.ExitCode, 0);
+        EXPECT_EQ(ended.Code, 0);
         EXPECT_EQ(ended.Errors, "");
-        EXPECT_NE(ended.Out.find("GET /none -> 404"), std::string::npos) << ended.Out;
-        EXPECT_NE(ended.Out.find("07/03/2004  2 clippings"), std::string::npos) << ended.Out;
+        EXPECT_THAT(ended.Out, testing::AllOf(HasSubstr("GET /none -> 404"), HasSubstr("07/03/2004  2 clippings")));
     }
+}
+
+TEST(DemoLineTest, isAsSlowAndAsBadAsTheOptionsSay) {
+    const SmallTree tree;
+    const std::string bytes(16'384, 'x'), address = "/archive/2004/03/07/NEA01_20040307.PDF";
+    tree.put("07032004/NEA01_20040307.PDF", bytes);
+    const DemoService service(tree, {"--rate", "64", "--latency", "60", "--break-each", "2"});
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(get(service.http(), address).Body, bytes);
+    const auto took = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(took, std::chrono::milliseconds{60 + 200});  // the pause after the last block need not be waited for
+    EXPECT_LT(took, std::chrono::seconds{10});
+    EXPECT_EQ(get(service.http(), address).Body.size(), bytes.size() / 2);
 }
 
 }  // namespace

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+#include "tests/support/ChildProcess.h"
+
+#include <csignal>
+#include <stdexcept>
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace vell::test {
+
+ChildProcess::ChildProcess(std::vector<std::string> words, const std::string& input) {
+    std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
+    for (std::string& word : words)
+        pointers.push_back(word.data());
+    pointers.push_back(nullptr);
+    streams_.put("0", input);
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    for (int i = 0; i < 3; ++i)
+        posix_spawn_file_actions_addopen(&actions, i, (streams_.path() / std::to_string(i)).c_str(),
+                                         i == 0 ? O_RDONLY : O_WRONLY | O_CREAT, 0600);
+    const int problem = posix_spawnp(&pid_, pointers.front(), &actions, nullptr, pointers.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    if (problem != 0) throw std::runtime_error("cannot start " + words.front());
+}
+
+ChildProcess::~ChildProcess() {
+    send(SIGKILL);
+    if (pid_ > 0) waitpid(pid_, &status_, 0);
+}
+
+void ChildProcess::send(int signal) const {
+    if (pid_ > 0) kill(pid_, signal);
+}
+
+bool ChildProcess::isRunning() {
+    if (pid_ > 0 && waitpid(pid_, &status_, WNOHANG) == pid_) pid_ = 0;
+    return pid_ > 0;
+}
+
+Ended ChildProcess::end() {
+    if (pid_ > 0) waitpid(pid_, &status_, 0);
+    pid_ = 0;
+    return {WIFEXITED(status_) ? WEXITSTATUS(status_) : -WTERMSIG(status_), streams_.get("1"), streams_.get("2")};
+}
+
+}  // namespace vell::test
