@@ -58,6 +58,7 @@ bool DownloadRun::prepare() {
         p_.Browser.PopulateDateCombo();
         p_.Browser.chooseDay(p_.State.Run.Day.gCurrentDate);
     }
+    transfer_.begin();
     p_.Progress.StatusBar("Getting list of files to download...");
     p_.Log.WriteLog("Getting files to download...");
     if (!p_.List.GetDownloadFiles()) {
@@ -87,7 +88,6 @@ void DownloadRun::fetchAll() {
     const auto count = static_cast<std::int32_t>(state.Downloads.gDownloadList.size());
     state.gClippingsDownloaded = 0;
     state.gLastProgressBytes = 0;
-    transfer_.begin();
     books_.open();
     p_.View.showProgress(0, 0);
     const Articles::Batch printing(p_.Article);

@@ -11,6 +11,7 @@
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "service/modHTTP.h"
+#include "store/IndexFile.h"
 #include "store/PartName.h"
 
 namespace vell {
@@ -50,8 +51,12 @@ bool isWebPage(const PartFile& part) {
 
 void FileTransfer::begin() {
     leftOver_.clear();
+    listedAt_.reset();
     trapStep(p_.Log, "StartDownload()", [&] {
-        for (auto& entry : p_.Disk.Enumerate(p_.State.Run.Day.gDayFolder, ".*.part", Files::Kind::Files))
+        const std::string& folder = p_.State.Run.Day.gDayFolder;
+        if (const auto index = p_.Disk.Stamp(folder + std::string(indexFileName)))
+            listedAt_ = index->ModifiedNanoseconds;
+        for (auto& entry : p_.Disk.Enumerate(folder, ".*.part", Files::Kind::Files))
             leftOver_.push_back(std::move(entry.Name));
     });
 }
@@ -104,7 +109,9 @@ std::int64_t FileTransfer::startOffset(const DownloadEntry& entry, const std::st
     const auto isBeginning = [&](std::int64_t length) { return length > 0 && length < entry.Size; };
     if (part.Length() == 0 && !entry.IsOutdated)
         trapStep(p_.Log, "adownloadFile()", [&] {
-            if (isBeginning(p_.Disk.FileSize(path).value_or(0))) part.Adopt(path);
+            const auto file = p_.Disk.Stamp(path);
+            if (file && isBeginning(file->Size) && listedAt_ && file->ModifiedNanoseconds > *listedAt_)
+                part.Adopt(path);
         });
     return isBeginning(part.Length()) ? part.Length() : 0;
 }

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -33,7 +34,7 @@ class FileTransfer {
     };
     explicit FileTransfer(const Parts& parts) : p_(parts) {}
 
-    // A run begins.
+    // A run begins; to be called before it stores the day's new list.
     void begin();
     // One attempt. After the last one, and where there is no older file, a complete answer of another length than the
     // list's is better than nothing and kept, but false all the same.
@@ -48,6 +49,8 @@ class FileTransfer {
     void dropOtherVersions(const DownloadEntry& entry, const std::string& folder);
 
     Parts p_;
+    // When the index was written that lay there before. A file that is older may be of any version.
+    std::optional<std::int64_t> listedAt_;
     std::vector<std::string> leftOver_;  // names of the parts that lay in the day's folder when the run began
 };
 

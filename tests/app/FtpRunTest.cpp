@@ -51,7 +51,13 @@ class FtpRunTest : public testing::TestWithParam<const char*>, protected Program
 
 TEST_P(FtpRunTest, fetchesADayAndResumesWhatAnEarlierRunHasLeft) {
     std::filesystem::create_directory(folder.path() / "clips/07032004");
+    const auto place = folder.path() / "clips/07032004/";
+    folder.put("clips/07032004/N120040307.PDF", "of an unknown version, since it is older than the index");
+    folder.put("clips/07032004/ALLFILES.DIR", "N120040307.PDF||||||||||1||-\r\nN220040307.PDF||||||||||1||-\r\n\r\n");
     folder.put("clips/07032004/N220040307.PDF", root_.get("torvoarchive/N220040307.PDF").substr(0, 1000));
+    const auto listed = std::filesystem::last_write_time(place / "ALLFILES.DIR");
+    std::filesystem::last_write_time(place / "N120040307.PDF", listed - std::chrono::seconds{1});
+    std::filesystem::last_write_time(place / "N220040307.PDF", listed + std::chrono::seconds{1});
     EXPECT_TRUE(runToday());
     expectTheDayOnDisk();
     EXPECT_TRUE(logHas("Starting FTP connection.\nFTP-->Resolving host...\nFTP-->Host resolved\nFTP-->Connected\n"));
