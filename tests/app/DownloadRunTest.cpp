@@ -2,9 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "store/PartName.h"
 #include "tests/support/ProgramRig.h"
 
 namespace vell::test {
+
+using testing::HasSubstr;
 
 class DownloadRunTest : public testing::Test, protected ProgramRig {
   protected:
@@ -134,6 +137,51 @@ TEST_F(DownloadRunTest, theIndexNamesTheVersionOfAClippingThatIsHere) {
     program.downloads().mnuForceDownload_Click();
     EXPECT_THAT(inDay("ALLFILES.DIR"), testing::HasSubstr("||TYPE||2||d||"));
     EXPECT_THAT(view.Statuses, testing::HasSubstr("\nClippings left out because their names cannot be stored: 1\n"));
+}
+
+TEST_F(DownloadRunTest, aFileThatIsNotWhatTheListSaysTakesNoOnesPlaceAndIsKeptOnlyWhereThereIsNone) {
+    folder.put("vell.ini", Replace(folder.get("vell.ini"), "RetryDelay=49", "RetryDelay=1"));
+    const std::string whole(1500, '1'), page = " <!doctype HTML>" + std::string(1484, 'x');
+    const struct {
+        HttpPeer::Answer Answer;
+        std::string Old, Kept, Told;  // "" for no file
+    } table[] = {
+        {HttpPeer::ok("short"), "old", "old", "N120040307.PDF came with 5 bytes, the list says 1500."},
+        {HttpPeer::ok("short"), "", "short", "N120040307.PDF came with 5 bytes, the list says 1500."},
+        {HttpPeer::ok(whole + "more"), "old", "old", "N120040307.PDF came with 1504 bytes, the list says 1500."},
+        {HttpPeer::ok(page), "old", "old", "A web page came in place of N120040307.PDF."},
+        {HttpPeer::ok(page), "", "", "A web page came in place of N120040307.PDF."},
+        {{"HTTP/1.0 200 OK\r\nContent-Length: 1500\r\n\r\nhalf"}, "", "", "The file was cut short."},
+    };
+    for (const auto& row : table) {
+        std::filesystem::remove_all(folder.path() / "clips/07032004");
+        std::filesystem::remove(folder.path() / "vell.log");
+        if (!row.Old.empty()) folder.put("clips/07032004/N120040307.PDF", row.Old);
+        service.Answers[ServicePeer::pathOf("N120040307.PDF")] = row.Answer;
+        EXPECT_FALSE(runToday());
+        EXPECT_EQ(folder.has("clips/07032004/N120040307.PDF") ? inDay("N120040307.PDF") : "", row.Kept) << row.Told;
+        EXPECT_THAT(logged(), HasSubstr(row.Told));
+        EXPECT_EQ(program.downloads().outcome().FilesFailed, 1);
+        EXPECT_EQ(marked(), 2U);
+        EXPECT_THAT(files.Enumerate(folder.text() + "/clips/07032004", ".*", Files::Kind::Files), testing::IsEmpty());
+    }
+}
+
+TEST_F(DownloadRunTest, waitsForAnotherProgramThatFetchesTheSameFile) {
+    std::unique_ptr<PartFile> other;
+    PosixFiles others;
+    onStatus("N120040307.MT", [&] {
+        other = others.OpenPart(folder.text() + "/clips/07032004\\" + partName("N220040307.PDF", "1"));
+        other->Write(std::string(1500, 'o'));
+    });
+    const auto timer = loop.SetTimer(500, [&] {
+        if (other) std::exchange(other, nullptr)->MoveTo(folder.text() + "/clips/07032004\\N220040307.PDF");
+    });
+    EXPECT_TRUE(runToday());
+    loop.KillTimer(timer);
+    EXPECT_THAT(logged(), HasSubstr("        Another program is fetching this file.\n\t\tEnded with status True"));
+    EXPECT_EQ(inDay("N220040307.PDF"), std::string(1500, 'o'));
+    EXPECT_EQ(marked(), 3U);
 }
 
 TEST_F(DownloadRunTest, anIndexThatCannotBeMarkedAndASecondStartDoNotDisturbTheRun) {
