@@ -64,7 +64,7 @@ TEST_F(DemoFtpTest, walksTheTreeAndNeverLeavesIt) {
     };
     for (const auto& [command, directory] : cases) {
         caller_.tell(command);
-        EXPECT_EQ(caller_.ask("PWD"), '"' + std::string(directory) + "\" is the current directory.") << command;
+        EXPECT_EQ(caller_.ask("PWD"), "257 \"" + std::string(directory) + "\" is the current directory.") << command;
     }
     for (const char* nowhere : {"../../../../etc", "08032004", "ADVERTISMENT.JPG", "a\\b", "a:b"})
         EXPECT_EQ(caller_.tell(std::string("CWD ") + nowhere), 550) << nowhere;

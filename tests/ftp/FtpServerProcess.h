@@ -2,11 +2,8 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
-#include <sys/types.h>
-
-#include "tests/support/TempFolder.h"
+#include "tests/support/ChildProcess.h"
 
 namespace vell::test {
 
@@ -15,18 +12,17 @@ namespace vell::test {
 class FtpServerProcess {
   public:
     // On a free port, or on the one that an earlier server had.
-    FtpServerProcess(const std::string& server, const TempFolder& root, std::uint16_t port = 0);
-    ~FtpServerProcess();
-    FtpServerProcess(const FtpServerProcess&) = delete;
-    FtpServerProcess& operator=(const FtpServerProcess&) = delete;
+    FtpServerProcess(const std::string& server, const TempFolder& root, std::uint16_t port = 0)
+        : process_({"/usr/bin/python3", "-W", "ignore", VELL_REAL_SERVER, server, root.text(),
+                    configuration_.text() + "/server.conf", std::to_string(port)}) {}
 
     // 0 when the server is not installed.
     [[nodiscard]] std::uint16_t port() const { return port_; }
 
   private:
     TempFolder configuration_;
-    pid_t child_ = -1;
-    std::uint16_t port_ = 0;
+    ChildProcess process_;
+    std::uint16_t port_ = static_cast<std::uint16_t>(std::stoi(process_.firstLine()));
 };
 
 }  // namespace vell::test

@@ -2,7 +2,7 @@
 """Serves a folder over FTP with a server that others wrote, on a free port of loopback, and prints the port: one of
 four digits, which is as many as the program's settings keep. Both let in "vell" with "ruxo"; CONFIG is a file to
 write. Prints 0 when the server is not there.
-    realServer.py pyftpdlib|proftpd FOLDER CONFIG [PORT]"""
+    realServer.py pyftpdlib|proftpd FOLDER CONFIG PORT|0"""
 import crypt, grp, logging, os, pwd, random, socket, subprocess, sys  # noqa: E401
 
 
@@ -15,8 +15,8 @@ def listen(wanted):
                 raise
 
 
-server, folder, config = sys.argv[1:4]
-listener = listen(int(sys.argv[4]) if len(sys.argv) > 4 else 0)
+server, folder, config, port = sys.argv[1:]
+listener = listen(int(port))
 if server == 'pyftpdlib':
     try:
         from pyftpdlib import authorizers, handlers, servers

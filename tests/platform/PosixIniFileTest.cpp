@@ -132,7 +132,7 @@ TEST_F(PosixIniFileTest, ofTwoWritersNoneLosesTheWorkOfTheOther) {
 }
 
 TEST_F(PosixIniFileTest, whereverTheDiskFailsTheOldSettingsStand) {
-    FaultyFiles faulty(files_);
+    FaultyFiles faulty;
     PosixIniFile ini(faulty);
     const std::string old = "[Host]\r\nPort=21\r\n";
     int n = 1;

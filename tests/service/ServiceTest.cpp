@@ -167,7 +167,7 @@ TEST_F(ServiceTest, asksForRoomUntilThereIsMoreThanTheFileNeeds) {
     EXPECT_TRUE(download());
     EXPECT_TRUE(free.empty());
     boxes.Shown.clear();
-    FaultyFiles faulty(files);
+    FaultyFiles faulty;
     const auto part = faulty.OpenPart(day.gDayFolder + ".part");
     files.Free = [] { return 1; };
     const std::string networkPath = "/" + day.gDayFolder + name;  // where nobody asks

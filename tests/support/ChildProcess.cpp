@@ -3,6 +3,7 @@
 
 #include <csignal>
 #include <stdexcept>
+#include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -12,6 +13,7 @@
 namespace vell::test {
 
 ChildProcess::ChildProcess(std::vector<std::string> words, const std::string& input) {
+    words.insert(words.begin(), {"setpriv", "--pdeathsig", "KILL"});
     std::vector<char*> pointers;
     pointers.reserve(words.size() + 1);
     for (std::string& word : words)
@@ -23,14 +25,19 @@ ChildProcess::ChildProcess(std::vector<std::string> words, const std::string& in
     for (int i = 0; i < 3; ++i)
         posix_spawn_file_actions_addopen(&actions, i, (streams_.path() / std::to_string(i)).c_str(),
                                          i == 0 ? O_RDONLY : O_WRONLY | O_CREAT, 0600);
-    const int problem = posix_spawnp(&pid_, pointers.front(), &actions, nullptr, pointers.data(), environ);
+    posix_spawnattr_t ownGroup;
+    posix_spawnattr_init(&ownGroup);
+    posix_spawnattr_setflags(&ownGroup, POSIX_SPAWN_SETPGROUP);
+    const int problem = posix_spawnp(&pid_, pointers.front(), &actions, &ownGroup, pointers.data(), environ);
+    posix_spawnattr_destroy(&ownGroup);
     posix_spawn_file_actions_destroy(&actions);
     if (problem != 0) throw std::runtime_error("cannot start " + words.front());
 }
 
 ChildProcess::~ChildProcess() {
-    send(SIGKILL);
-    if (pid_ > 0) waitpid(pid_, &status_, 0);
+    if (pid_ <= 0) return;
+    kill(-pid_, SIGKILL);
+    waitpid(pid_, &status_, 0);
 }
 
 void ChildProcess::send(int signal) const {
@@ -40,6 +47,15 @@ void ChildProcess::send(int signal) const {
 bool ChildProcess::isRunning() {
     if (pid_ > 0 && waitpid(pid_, &status_, WNOHANG) == pid_) pid_ = 0;
     return pid_ > 0;
+}
+
+std::string ChildProcess::firstLine() {
+    std::string out;
+    while (out.find('\n') == std::string::npos && isRunning()) {
+        std::this_thread::sleep_for(std::chrono::milliseconds{2});
+        out = streams_.get("1");
+    }
+    return out.substr(0, out.find('\n'));
 }
 
 Ended ChildProcess::end() {

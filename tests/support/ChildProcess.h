@@ -16,7 +16,8 @@ struct Ended {
     std::string Out, Errors;
 };
 
-// A program, found along the path, whose input was written ahead. It has ended when this object goes.
+// A program, found along the path, whose input was written ahead. It has ended when this object goes, with whatever it
+// has started, and when the test dies.
 class ChildProcess {
   public:
     explicit ChildProcess(std::vector<std::string> words, const std::string& input = "");
@@ -26,6 +27,8 @@ class ChildProcess {
 
     void send(int signal) const;
     [[nodiscard]] bool isRunning();
+    // Waits for the first line of its output; what there is of it when it ends before.
+    [[nodiscard]] std::string firstLine();
     // Waits for its end.
     Ended end();
 

@@ -2,7 +2,7 @@
 """A message bus of its own with a NetworkManager on it whose dial-up profiles behave as they are called: a template of
 python3-dbusmock on top of its own one, which knows neither links that take time nor a primary connection.
 
-Run with its parameters (JSON) as the only argument it writes its process number and the bus's address on one line once
+Run with its parameters (JSON) as the only argument it writes the bus's address on a line once
 it is ready. Parameters: "primary", the type of the connection that is up at first (none when missing); "networking"
 and "connectivity" as NetworkManager has them.
 """
@@ -38,7 +38,7 @@ def load(mock, parameters):
     show(manager, '/', parameters.get('primary', ''))
     manager.Set(NM, 'NetworkingEnabled', parameters.get('networking', True))
     manager.Set(NM, 'Connectivity', dbus.UInt32(parameters.get('connectivity', 4)))
-    print(os.getpid(), os.environ['DBUS_SYSTEM_BUS_ADDRESS'], flush=True)
+    print(os.environ['DBUS_SYSTEM_BUS_ADDRESS'], flush=True)
 
 
 def show(manager, path, kind):
