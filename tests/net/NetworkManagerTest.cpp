@@ -140,23 +140,20 @@ TEST_F(NetworkManagerTest, judgesByTheInterfacesWhereThereIsNoNetworkManager) {
     const NetworkInterface modem{"ppp0", true, false, true};
     const State offProxy{false, Api::Proxy}, onProxy{true, Api::Proxy | Api::Configured};
     const State onLan{true, Api::Lan | Api::Configured}, onModem{true, Api::Modem | Api::Configured};
-    const struct {
-        std::vector<NetworkInterface> Interfaces;
-        const char* Proxy;
-        State Expected;
-    } cases[] = {{{loopback, down, bare}, "", {false, 0}},
-                 {{loopback, modem, lan}, "", onLan},
-                 {{modem}, "", onModem},
-                 {{}, "http://proxy.example:3128", offProxy},
-                 {{}, "http://127.evil.example", offProxy},
-                 {{}, "http://127.0.0.1:3128/", onProxy},
-                 {{}, "LOCALHOST:8080", onProxy},
-                 {{}, "http://a:b@[::1]:3128", onProxy}};
+    const std::tuple<std::vector<NetworkInterface>, std::string, State> cases[] = {
+        {{loopback, down, bare}, "", {false, 0}},
+        {{loopback, modem, lan}, "", onLan},
+        {{modem}, "", onModem},
+        {{}, "http://proxy.example:3128", offProxy},
+        {{}, "http://127.evil.example", offProxy},
+        {{}, "http://127.0.0.1:3128/", onProxy},
+        {{}, "LOCALHOST:8080", onProxy},
+        {{}, "http://a:b@[::1]:3128", onProxy}};
     NetworkManagerClient nobody(loop_, clock_, "unix:path=/nonexistent/bus");
-    for (const auto& one : cases) {
+    for (const auto& [interfaces, proxy, expected] : cases) {
         connection_.emplace(
-            nobody, [&] { return std::string(one.Proxy); }, [&] { return one.Interfaces; });
-        EXPECT_EQ(state(), one.Expected) << one.Proxy;
+            nobody, [given = proxy] { return given; }, [given = interfaces] { return given; });
+        EXPECT_EQ(state(), expected) << proxy;
         EXPECT_FALSE(dial("My ISP"));
         EXPECT_EQ(connection_->LastReason(), "NetworkManager cannot be reached");
     }

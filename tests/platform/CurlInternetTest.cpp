@@ -84,24 +84,21 @@ TEST_F(CurlInternetTest, sendsTheFormAsItStandsAndReadsInSteps) {
 }
 
 TEST_F(CurlInternetTest, tellsWholeAnswersFromBrokenOnes) {
-    const struct {
-        std::string answer;
-        bool opens;
-        std::string body;
-        bool whole;
-    } table[] = {
-        {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n12345", true, "12345", false},
-        {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n", true, "", false},
-        {"HTTP/1.0 200 OK\r\n\r\n12345", true, "12345", true},
-        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n", true, "abc", true},
-        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n", true, "abc", false},
-        {"HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n", true, "", true},
-        {"", false, "", false},
-        {"220 not HTTP at all\r\n", false, "", false},
-        {"HTTP/1.0 302 Found\r\nLocation: ftp://127.0.0.1/x\r\nContent-Length: 0\r\n\r\n", false, "", false},
-        {"HTTP/1.0 302 Found\r\nLocation: /again\r\nContent-Length: 0\r\n\r\n", false, "", false},
+    struct Row {
+        std::string answer, body;
+        bool whole = false, opens = true;
     };
-    for (const auto& row : table) {
+    for (const Row& row : std::initializer_list<Row>{
+             {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n12345", "12345"},
+             {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n", ""},
+             {"HTTP/1.0 200 OK\r\n\r\n12345", "12345", true},
+             {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n", "abc", true},
+             {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n", "abc"},
+             {"HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n", "", true},
+             {"", "", false, false},
+             {"220 not HTTP at all\r\n", "", false, false},
+             {"HTTP/1.0 302 Found\r\nLocation: ftp://127.0.0.1/x\r\nContent-Length: 0\r\n\r\n", "", false, false},
+             {"HTTP/1.0 302 Found\r\nLocation: /again\r\nContent-Length: 0\r\n\r\n", "", false, false}}) {
         HttpPeer peer([&](const std::string&) { return HttpPeer::Answer{row.answer}; });
         const auto file = openUrl("http://" + peer.address() + "/a b.pdf");
         ASSERT_EQ(file != nullptr, row.opens) << row.answer;

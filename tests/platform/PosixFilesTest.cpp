@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <csignal>
 #include <filesystem>
 
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "platform/posix/files/PosixFiles.h"
 #include "tests/support/TempFolder.h"
@@ -31,6 +30,12 @@ class PosixFilesTest : public testing::Test {
         for (const auto& entry : files_.Enumerate(folder_.text(), pattern, kind))
             found.push_back(entry.Name);
         return found;
+    }
+    // No file of this process may grow further, as on a full disk.
+    static void limitFiles(rlim_t bytes) {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{bytes, RLIM_INFINITY};
+        EXPECT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
     }
     template <class Body>
     static RunTimeError errorOf(Body&& body) {
@@ -103,10 +108,7 @@ TEST_F(PosixFilesTest, enumerationIsInNameOrderWithoutRegardToCase) {
 TEST_F(PosixFilesTest, failuresCarryTheProgramsNumberAndThePathAsItWasGiven) {
     folder_.put("file", "x");
     folder_.put("full/file", "x");
-    const struct {
-        std::int32_t Number;
-        std::function<void()> Operation;
-    } cases[] = {
+    const std::pair<std::int32_t, std::function<void()>> cases[] = {
         {error_number::FileNotFound, [&] { (void)files_.ReadFile(at("gone.pdf")); }},
         {error_number::PathNotFound, [&] { (void)files_.ReadFile(at("gone\\a.pdf")); }},
         {error_number::PathNotFound, [&] { files_.WriteWhole(at("gone\\a.pdf"), "", Durability::Rename); }},
@@ -124,8 +126,8 @@ TEST_F(PosixFilesTest, failuresCarryTheProgramsNumberAndThePathAsItWasGiven) {
         {error_number::DiskFull, [&] { files_.OpenForWriting("\\dev\\full", 0)->Write(std::string(100'000, 'x')); }},
     };
     int line = 0;
-    for (const auto& one : cases)
-        EXPECT_EQ(errorOf(one.Operation).Number, one.Number) << "case " << line++;
+    for (const auto& [number, operation] : cases)
+        EXPECT_EQ(errorOf(operation).Number, number) << "case " << line++;
     const auto error = errorOf([&] { files_.MakeFolder(at("gone\\07032004")); });
     EXPECT_THAT(error.Description, HasSubstr("Path not found: " + at("gone\\07032004")));
     EXPECT_EQ(errorOf([&] { (void)files_.ReadFile(at("gone")); }).LastSystemError, ENOENT);
@@ -133,17 +135,10 @@ TEST_F(PosixFilesTest, failuresCarryTheProgramsNumberAndThePathAsItWasGiven) {
 
 TEST_F(PosixFilesTest, aWholeFileThatCouldNotBeWrittenLeavesTheOldOneAndNothingElse) {
     folder_.put("ALLFILES.DIR", "old");
-    const pid_t child = fork();  // the limit is the child's own
-    if (child == 0) {
-        signal(SIGXFSZ, SIG_IGN);
-        const rlimit few{1000, 1000};
-        setrlimit(RLIMIT_FSIZE, &few);
-        const auto error = errorOf([&] { files_.WriteWhole(at("allfiles.dir"), std::string(2000, 'x'), {}); });
-        _exit(error.Number == error_number::DiskFull ? 0 : 1);
-    }
-    int result = -1;
-    waitpid(child, &result, 0);
-    EXPECT_EQ(result, 0);
+    limitFiles(1000);
+    const auto error = errorOf([&] { files_.WriteWhole(at("allfiles.dir"), std::string(2000, 'x'), {}); });
+    limitFiles(RLIM_INFINITY);
+    EXPECT_EQ(error.Number, error_number::DiskFull);
     EXPECT_EQ(folder_.get("ALLFILES.DIR"), "old");
     EXPECT_EQ(entriesOnDisk(), 1u);
 }
@@ -221,23 +216,15 @@ TEST_F(PosixFilesTest, onlyWhatDoesNotExistIsTakenForAbsentAndAPipeForNoFile) {
 }
 
 TEST_F(PosixFilesTest, aWriteToAFullDiskCanBeMadeAgain) {
-    const pid_t child = fork();  // the limit is the child's own
-    if (child == 0) {
-        signal(SIGXFSZ, SIG_IGN);
-        const auto part = files_.OpenPart(at(".a.part"));
-        part->Write(std::string(600, 'a'));
-        const rlimit few{1000, 2000}, more{2000, 2000};
-        setrlimit(RLIMIT_FSIZE, &few);
-        const auto error = errorOf([&] { part->Write(std::string(600, 'b')); });
-        const auto length = part->Length();
-        setrlimit(RLIMIT_FSIZE, &more);
-        part->Write(std::string(600, 'b'));
-        part->MoveTo(at("A.PDF"));
-        _exit(error.Number == error_number::DiskFull && length == 600 ? 0 : 1);
-    }
-    int result = -1;
-    waitpid(child, &result, 0);
-    EXPECT_EQ(result, 0);
+    const auto part = files_.OpenPart(at(".a.part"));
+    part->Write(std::string(600, 'a'));
+    limitFiles(1000);
+    const auto error = errorOf([&] { part->Write(std::string(600, 'b')); });
+    limitFiles(RLIM_INFINITY);
+    EXPECT_EQ(error.Number, error_number::DiskFull);
+    EXPECT_EQ(part->Length(), 600);
+    part->Write(std::string(600, 'b'));
+    part->MoveTo(at("A.PDF"));
     EXPECT_EQ(folder_.get("A.PDF"), std::string(600, 'a') + std::string(600, 'b'));
 }
 

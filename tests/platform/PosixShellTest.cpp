@@ -114,36 +114,22 @@ TEST_F(PosixShellTest, failuresHaveShellExecutesCodes) {
     folder_.put("script", "#!/bin/sh\n");
     folder_.put("bin/garbage", std::string("\0no program", 11));
     std::filesystem::permissions(folder_.path() / "bin/garbage", perms::owner_all);
-    const struct {
-        std::string File;
-        int Code;
-    } cases[] = {{at("gone.pdf"), 2},
-                 {at("gone\\a.pdf"), 3},
-                 {at("script\\a.pdf"), 3},
-                 {at("a.unknown-kind"), 31},
-                 {at("b.desktop"), 5},
-                 {at("script"), 5},
-                 {"\\dev\\null", 5},
-                 {"garbage", 11},
-                 {"gone", 2},
-                 {"", 2},
-                 {"a\nb", 2},
-                 {"file:///etc/passwd", 3},
-                 {"Acrord32.exe", 2}};
-    for (const auto& one : cases)
-        EXPECT_EQ(shell_.Open(one.File, ""), one.Code) << one.File;
+    for (const auto& [code, names] :
+         std::map<int, std::vector<std::string>>{{2, {at("gone.pdf"), "gone", "", "a\nb", "Acrord32.exe"}},
+                                                 {3, {at("gone\\a.pdf"), at("script\\a.pdf"), "file:///etc/passwd"}},
+                                                 {5, {at("b.desktop"), at("script"), "\\dev\\null"}},
+                                                 {11, {"garbage"}},
+                                                 {31, {at("a.unknown-kind")}}})
+        for (const std::string& name : names)
+            EXPECT_EQ(shell_.Open(name, ""), code) << name;
 }
 
 TEST_F(PosixShellTest, printingHandsTheFileToCupsAndGivesItsAnswer) {
     setenv("PATH", (path_ + ":" + systemPath_).c_str(), 1);
     folder_.put("-a b.PDF", "x");
     const std::string parameters = " /p /h \"" + at("-A B.pdf") + "\"";
-    const struct {
-        std::string Ending;  // of lp
-        std::chrono::milliseconds Patience;
-        int Code;
-        std::string Reason;
-    } cases[] = {
+    // How lp ends, the patience, the code, and the reason.
+    const std::tuple<std::string, std::chrono::milliseconds, int, std::string> cases[] = {
         {"", std::chrono::seconds{20}, 33, ""},
         {"echo 'lp: Error - No default destination.' >&2; exit 1\n", std::chrono::seconds{20}, 29,
          "There is no default printer. Choose one in the system's printer settings, or with 'lpoptions -d NAME'. CUPS "
@@ -151,11 +137,11 @@ TEST_F(PosixShellTest, printingHandsTheFileToCupsAndGivesItsAnswer) {
         {"exit 3\n", std::chrono::seconds{20}, 29, std::string(cups_reason::Refused)},
         {"exec sleep 60\n", std::chrono::milliseconds{300}, 28, std::string(cups_reason::NoAnswer)},
     };
-    for (const auto& one : cases) {
-        putProgram(folder_, "bin/lp", one.Ending);
-        PosixShell installed(PosixShell::Places::ofThisProgram(), one.Patience);
-        EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), one.Code) << one.Ending;
-        EXPECT_EQ(installed.LastReason(), one.Reason);
+    for (const auto& [ending, patience, code, reason] : cases) {
+        putProgram(folder_, "bin/lp", ending);
+        PosixShell installed(PosixShell::Places::ofThisProgram(), patience);
+        EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), code) << ending;
+        EXPECT_EQ(installed.LastReason(), reason);
         EXPECT_EQ(said(), "[--][" + folder_.text() + "/-a b.PDF]");
     }
     setenv("PATH", "/nowhere", 1);
