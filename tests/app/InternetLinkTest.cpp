@@ -7,10 +7,6 @@
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/network/NetworkManagerClient.h"
-#include "platform/posix/network/PosixConnection.h"
-#include "platform/posix/network/PosixRas.h"
-#include "tests/support/MockNetworkManager.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedBoxes.h"
 #include "tests/support/ScriptedConnection.h"
@@ -30,9 +26,6 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     InternetLinkTest() {
         session.Setup.DialUp = "My ISP";
         view.OnStatus = [this](const std::string&) { EXPECT_EQ(view.Busy, 1); };
-    }
-    InternetLink linkOver(CWinInetConnection& connection, ModRAS& entries) {
-        return InternetLink({session.Setup, progress, view, boxes, loop, log, connection, entries});
     }
     // The status texts that the last step showed.
     Lines statuses() {
@@ -59,7 +52,7 @@ class InternetLinkTest : public testing::Test, protected SettingsRig {
     ScriptedRas phoneBook;
     CWinInetConnection inet{api, boxes, log};
     ModRAS ras{phoneBook, log};
-    InternetLink link = linkOver(inet, ras);
+    InternetLink link{{session.Setup, progress, view, boxes, loop, log, inet, ras}};
 };
 
 TEST_F(InternetLinkTest, dialsOnlyWhereAModemIsTheWay) {
@@ -144,30 +137,6 @@ TEST_F(InternetLinkTest, goesOnWithItsNextStatementAfterAnError) {
     EXPECT_NE(story.find("in StopINET()\nERROR! 2nd"), std::string::npos) << story;
     EXPECT_NE(story.find("ERROR! 3rd"), std::string::npos) << story;
     EXPECT_FALSE(link.StartINET());
-}
-
-TEST_F(InternetLinkTest, dialsAndHangsUpThroughNetworkManager) {
-    if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
-    const MockNetworkManager mock("{}");
-    NetworkManagerClient client(loop, clock, mock.address());
-    PosixConnection connection(client, [] { return std::string(); });
-    PosixRas profiles(client);
-    CWinInetConnection realInet(connection, boxes, log);
-    ModRAS realRas(profiles, log);
-    InternetLink real = linkOver(realInet, realRas);
-    EXPECT_TRUE(real.StartINET());
-    EXPECT_EQ(realRas.GetDialUpConnections(), Lines{"My ISP"});
-    (void)logged();
-    EXPECT_TRUE(real.StopINET(false));
-    EXPECT_EQ(logged(), "");
-    EXPECT_EQ(statuses().back(), "Internet connection closed.");
-    EXPECT_EQ(realRas.GetDialUpConnections(), Lines{});
-    session.Setup.DialUp = "Forbidden";
-    EXPECT_FALSE(real.StartINET());
-    EXPECT_NE(logged().find("Dial: NetworkManager refused, not authorised: Not auth"), std::string::npos);
-    EXPECT_THAT(view.Message,
-                testing::StartsWith("Error starting 'Forbidden' Dial-Up connection.\r\nNetworkManager refused"));
-    EXPECT_EQ(boxes.Shown, Lines{});
 }
 
 }  // namespace

@@ -49,6 +49,7 @@ TEST_F(StartUpTest, refusesASecondInstanceAndTouchesNothing) {
     EXPECT_THAT(boxes.Shown, ElementsAre("Program is already running"));
     EXPECT_EQ(ini(), before);
     EXPECT_FALSE(folder.has("vell.log"));
+    EXPECT_TRUE(program.Form_Load(frmMain::Start::Beside));
 }
 
 TEST_F(StartUpTest, warnsOfAMissingSettingsFileAndGoesOn) {
