@@ -27,6 +27,7 @@ struct Reading {
         EventLog& Log;
         const Session& State;
         StatusText Status;
+        StatusText Message;
     };
     explicit Reading(const Parts& parts);
 

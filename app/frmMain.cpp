@@ -30,7 +30,8 @@ frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
       ini_(platform.Ini, log_),
       loader_(session_.Setup, ini_, log_, log_),
       progress_(session_, view, platform.Loop, platform.Time, log_, usualPaintInterval),
-      reading_({platform_, view, ini_, log_, session_, [this](std::string_view text) { progress_.StatusBar(text); }}),
+      reading_({platform_, view, ini_, log_, session_, [this](std::string_view text) { progress_.StatusBar(text); },
+                [this](std::string_view text) { view_.displayInfoMessageBox(text); }}),
       fetching_({platform_, view, session_, ini_, log_, progress_, reading_.Browser, version}) {
     session_.gVersion = std::move(version);
 }

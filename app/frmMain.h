@@ -53,6 +53,8 @@ class frmMain {
     [[nodiscard]] std::vector<std::string> dialUpNames();
     [[nodiscard]] const std::string& version() const { return session_.gVersion; }
     [[nodiscard]] const Settings& settings() const { return session_.Setup; }
+    // False when the settings file is there and could not be read.
+    [[nodiscard]] bool hasSettings() const { return loader_.hasRead(); }
     // What people are told of a settings file that is damaged; empty for a good one. A window shows it by itself.
     [[nodiscard]] std::string_view settingsComplaint() const { return loader_.complaint(); }
 

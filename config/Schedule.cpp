@@ -103,10 +103,9 @@ std::vector<ScheduleEntry> storedSchedule(const modIni& ini) {
     return entries;
 }
 
-void GetSchedule(Settings& settings, const modIni& ini, ErrorLog& log) {
-    trapStep(log, "GetSchedule()", [&] {
-        if (ini.isReadable()) settings.ScheduleList = storedSchedule(ini);
-    });
+bool GetSchedule(Settings& settings, const modIni& ini, ErrorLog& log) {
+    return trap(log, "GetSchedule()", false,
+                [&] { return ini.readAtOnce([&] { settings.ScheduleList = storedSchedule(ini); }); });
 }
 
 }  // namespace vell

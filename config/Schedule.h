@@ -43,7 +43,8 @@ inline constexpr std::string_view scheduleSection = "Schedule";
 
 // The stored schedule: Schedule1, Schedule2 and so on up to the first number that is missing.
 [[nodiscard]] std::vector<ScheduleEntry> storedSchedule(const modIni& ini);
-// Fills ScheduleList anew from the settings file, unless that is there and cannot be read.
-void GetSchedule(Settings& settings, const modIni& ini, ErrorLog& log);
+// Fills ScheduleList anew from the settings file. False, and nothing has changed, when that is there and cannot be
+// read.
+bool GetSchedule(Settings& settings, const modIni& ini, ErrorLog& log);
 
 }  // namespace vell

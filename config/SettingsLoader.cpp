@@ -17,7 +17,11 @@ void SettingsLoader::setAppVersion(std::string version) {
 
 void SettingsLoader::GetSetup() {
     complaint_ = "The settings file cannot be read. Everything stays as it was.";
-    if (!ini_.isReadable()) return log_.WriteLog("GetSetup()");
+    hasRead_ = ini_.readAtOnce([this] { load(); });
+    if (!hasRead_) log_.WriteLog("GetSetup()");
+}
+
+void SettingsLoader::load() {
     complaint_ =
         "The settings file holds a password that cannot be read, and what stands behind it is left out. Set the "
         "passwords anew in Setup ('vell-console setup Pwd -' and 'vell-console setup proxyPwd -').";

@@ -21,16 +21,21 @@ class SettingsLoader {
     // The running program's version, "major.minor.revision".
     void setAppVersion(std::string version);
     void GetSetup();
+    // False when the last load found a file that cannot be read.
+    [[nodiscard]] bool hasRead() const { return hasRead_; }
     // What people are told when the last load ended early, and what they can do; empty when it did not.
     [[nodiscard]] std::string_view complaint() const { return complaint_; }
 
   private:
+    void load();
+
     Settings& settings_;
     modIni& ini_;
     ErrorLog& errors_;
     TextLog& log_;
     std::string appVersion_;
     std::string_view complaint_;
+    bool hasRead_ = false;
 };
 
 }  // namespace vell

@@ -23,9 +23,11 @@ constexpr std::array everyDay{true, true, true, true, true, true, true};
 frmSchedule::frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log)
     : settings_(settings), ini_(ini), boxes_(boxes), log_(log) {}
 
-void frmSchedule::Form_Load() {
-    GetSchedule(settings_, ini_, log_);
+bool frmSchedule::Form_Load() {
+    const bool isRead = GetSchedule(settings_, ini_, log_);
     rows_ = loaded_ = settings_.ScheduleList;
+    if (!isRead) refuse("Error! The schedule could not be read from the settings file");
+    return isRead;
 }
 
 void frmSchedule::cmdAddSchedule_Click(ScheduleView& view) {

@@ -23,7 +23,8 @@ class frmSchedule {
 
     static constexpr std::size_t timeColumn = 7;
 
-    void Form_Load();
+    // False, with a message, when the stored schedule could not be read; the rows are those of the session.
+    bool Form_Load();
     [[nodiscard]] const std::vector<ScheduleEntry>& rows() const { return rows_; }
 
     // Asks for a time; the new row is active on every day.

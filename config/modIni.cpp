@@ -53,9 +53,9 @@ bool modIni::VellIniReadString(std::string_view section, std::string_view key, s
     });
 }
 
-bool modIni::isReadable() const {
+bool modIni::readAtOnce(const std::function<void()>& reads) const {
     return trap(log_, "VellIniReadString()", false, [&] {
-        (void)ini_.ReadString(settingsFile(), "", "", "", 1);
+        ini_.ReadAtOnce(settingsFile(), reads);
         return true;
     });
 }

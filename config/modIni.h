@@ -31,8 +31,12 @@ class modIni {
     // key that is missing.
     bool VellIniReadString(std::string_view section, std::string_view key, std::int16_t& value) const;
 
-    // False when the settings file is there and cannot be read.
-    [[nodiscard]] bool isReadable() const;
+    // Runs `reads`, in which the settings file reads as it was at one moment. False, and nothing has run, when it is
+    // there and cannot be read.
+    bool readAtOnce(const std::function<void()>& reads) const;
+    [[nodiscard]] bool isReadable() const {
+        return readAtOnce([] {});
+    }
 
     // True when the file was written.
     bool VellIniWriteString(std::string_view section, std::string_view key, std::string_view value);

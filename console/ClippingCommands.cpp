@@ -71,7 +71,8 @@ int ClippingCommands::list(const CommandLine& line) {
 int ClippingCommands::open(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
     return forEachFile(line, [this](std::size_t row) {
-        return program_.reading().Opening.open(program_.reading().Browser.rows().at(row).path());
+        const std::string path = program_.reading().Browser.rows().at(row).path();
+        return program_.reading().Opening.open(path) == ClippingOpening::Outcome::Done;
     });
 }
 

@@ -51,7 +51,8 @@ int Commands::run(const CommandLine& line) {
     if (!program_.Form_Load(startOf(line.What))) return exit_code::AlreadyRunning;
     const std::string_view complaint = program_.settingsComplaint();
     if (line.What != CommandLine::Command::Setup && !complaint.empty()) screen_.tell(complaint);
-    const int code = perform(line);
+    const bool canWork = line.What == CommandLine::Command::Setup || program_.hasSettings();
+    const int code = canWork ? perform(line) : exit_code::Failed;
     program_.Form_Unload();
     return code;
 }

@@ -24,11 +24,10 @@ std::string momentText(const LocalTime& moment) {
            " at " + moment.hourMinute();
 }
 
-ScheduleCommand::ScheduleCommand(frmSchedule dialog, Screen& screen) : dialog_(std::move(dialog)), screen_(screen) {
-    dialog_.Form_Load();
-}
+ScheduleCommand::ScheduleCommand(frmSchedule dialog, Screen& screen) : dialog_(std::move(dialog)), screen_(screen) {}
 
 int ScheduleCommand::run(const CommandLine& line) {
+    if (!dialog_.Form_Load()) return exit_code::Failed;
     if (line.What == CommandLine::Command::ScheduleAdd) return add(codePageFromUtf8Lossy(line.Entry));
     if (line.What == CommandLine::Command::ScheduleRemove) return remove(line.Number);
     show();

@@ -29,6 +29,10 @@ class IniFile {
     [[nodiscard]] virtual std::string ReadString(std::string_view file, std::string_view section, std::string_view key,
                                                  std::string_view missing, std::size_t bufferSize) const = 0;
 
+    // Runs `reads`, in which the file reads as it was at one moment: none of its readings fails, or sees another
+    // content than the one before.
+    virtual void ReadAtOnce(std::string_view file, const std::function<void()>& reads) const = 0;
+
     // Makes all changes in one step: the file is the old one or the new one, never half. No other writer, in whatever
     // process or on whatever machine, comes between the call of `edits`, which may read the file as it is then but
     // not write it, and its replacement. File, sections and keys are made as needed; every other line stays as it is.

@@ -15,8 +15,13 @@ constexpr std::size_t openedAtOnce = 20;
 }
 
 ClippingOpening::ClippingOpening(ClippingsBrowser& browser, modGlobal& store, Articles& articles, EventLog& log,
-                                 StatusText status)
-    : browser_(browser), store_(store), articles_(articles), log_(log), status_(std::move(status)) {}
+                                 StatusText status, StatusText message)
+    : browser_(browser),
+      store_(store),
+      articles_(articles),
+      log_(log),
+      status_(std::move(status)),
+      message_(std::move(message)) {}
 
 void ClippingOpening::grdLocalFiles_DblClick(std::size_t row) {
     trapStep(log_, "grdLocalFiles_DblClick()", [&] {
@@ -39,7 +44,7 @@ void ClippingOpening::openNext20() {
             if (!row.Opened && next.size() < openedAtOnce) next.push_back(row.path());
         if (next.empty()) status_("All clippings of the list have been opened already.");
         for (const std::string& path : next)
-            if (!open(path)) return;
+            if (open(path) == Outcome::Failed) return;
     });
 }
 
@@ -57,11 +62,12 @@ void ClippingOpening::openAddress(const std::string& address) {
     articles_.ShellExec(address, "");
 }
 
-bool ClippingOpening::open(const std::string& path) {
-    if (!articles_.ShellExec(path, "")) return false;
-    if (!store_.MarkFileOpened(path)) status_("Opened, but it could not be marked as opened. The log says why.");
+ClippingOpening::Outcome ClippingOpening::open(const std::string& path) {
+    if (!articles_.ShellExec(path, "")) return Outcome::Failed;
+    const bool isMarked = store_.MarkFileOpened(path);
+    if (!isMarked) message_("Opened, but it could not be marked as opened. The log says why.");
     browser_.refreshMarks(path);
-    return true;
+    return isMarked ? Outcome::Done : Outcome::Unmarked;
 }
 
 }  // namespace vell

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "log/EventLog.h"
@@ -16,7 +17,9 @@ class modGlobal;
 // The commands that show clippings with the programs that the system has for them, and mark them as opened.
 class ClippingOpening {
   public:
-    ClippingOpening(ClippingsBrowser& browser, modGlobal& store, Articles& articles, EventLog& log, StatusText status);
+    // `message` says what somebody has to know beyond the status line.
+    ClippingOpening(ClippingsBrowser& browser, modGlobal& store, Articles& articles, EventLog& log, StatusText status,
+                    StatusText message);
 
     // Opens what has not been opened yet: a second double click too many starts no second viewer.
     void grdLocalFiles_DblClick(std::size_t row);
@@ -29,8 +32,12 @@ class ClippingOpening {
     // A page of the web.
     void openAddress(const std::string& address);
 
-    // True when the system took it; it is then marked.
-    bool open(const std::string& path);
+    enum class Outcome : std::uint8_t {
+        Failed,    // the system did not take it
+        Unmarked,  // it is open, but nothing remembers it
+        Done,
+    };
+    Outcome open(const std::string& path);
 
   private:
     ClippingsBrowser& browser_;
@@ -38,6 +45,7 @@ class ClippingOpening {
     Articles& articles_;
     EventLog& log_;
     StatusText status_;
+    StatusText message_;
 };
 
 }  // namespace vell

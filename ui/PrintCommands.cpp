@@ -19,7 +19,8 @@ namespace {
 constexpr const char* notMarked = "Printed, but it could not be marked as printed. The log says why.";
 }
 
-PrintCommands::PrintCommands(const PrintParts& parts, StatusText status) : p_(parts), status_(std::move(status)) {}
+PrintCommands::PrintCommands(const PrintParts& parts, StatusText status, StatusText message)
+    : p_(parts), status_(std::move(status)), message_(std::move(message)) {}
 
 bool PrintCommands::mnuPrintAll_Click() {
     return trap(p_.Log, "mnuPrintAll_Click()", false, [&] {
@@ -36,29 +37,30 @@ bool PrintCommands::printAll() {
     // The list may change in the pauses: what was asked for is what stands in it now.
     const std::vector<ClippingRow> rows = p_.Browser.rows();
     const Articles::Batch batch(p_.Article);
-    std::size_t printed = 0;
-    std::string lastStatus;
+    std::size_t printed = 0, marked = 0;
     for (std::size_t i = 0; i < rows.size() && !batch_.StopRequested; ++i) {
         if (!p_.Article.PrintArticle(rows[i].path())) continue;
         ++printed;
         p_.Loop.DoEvents();
         status_("Printing " + std::to_string(i + 1) + "/" + std::to_string(rows.size()) + " " +
                 rows[i].File->Description);
-        if (!p_.Store.MarkFilePrinted(rows[i].path())) lastStatus = notMarked;
+        if (p_.Store.MarkFilePrinted(rows[i].path())) ++marked;
         p_.Browser.refreshMarks(rows[i].path());
         printPause(p_.Loop, p_.Setup);
     }
-    status_(lastStatus);
-    return printed == rows.size();
+    status_("");
+    if (marked < printed) message_(notMarked);
+    return marked == rows.size();
 }
 
 bool PrintCommands::mnuPrintSel_Click(std::size_t row) {
     return trap(p_.Log, "mnuPrintSel_Click()", false, [&] {
         const std::string path = p_.Browser.rows().at(row).path();
         if (!p_.Article.PrintArticle(path)) return false;
-        if (!p_.Store.MarkFilePrinted(path)) status_(notMarked);
+        const bool isMarked = p_.Store.MarkFilePrinted(path);
+        if (!isMarked) message_(notMarked);
         p_.Browser.refreshMarks(path);
-        return true;
+        return isMarked;
     });
 }
 

@@ -12,9 +12,10 @@ namespace vell {
 // The commands that print clippings of the list through the PDF reader.
 class PrintCommands {
   public:
-    PrintCommands(const PrintParts& parts, StatusText status);
+    // `message` says what somebody has to know beyond the status line.
+    PrintCommands(const PrintParts& parts, StatusText status, StatusText message);
 
-    // Both mark what was printed. False when something was not.
+    // Both mark what was printed. False when something was not printed, or not marked.
 
     // All of the list, after a question, with a pause after each.
     bool mnuPrintAll_Click();
@@ -32,6 +33,7 @@ class PrintCommands {
 
     PrintParts p_;
     StatusText status_;
+    StatusText message_;
     PrintBatch batch_;
 };
 

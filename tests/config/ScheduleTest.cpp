@@ -116,6 +116,10 @@ TEST_F(ScheduleTest, writesTheRowsAnewFromOne) {
     dialog.add(scheduleEntryOf("Mon 07:05"));
     EXPECT_FALSE(dialog.cmdOk_Click());
     EXPECT_EQ(told(), Lines{"Error! The schedule could not be saved"});
+    std::filesystem::create_directories(folder.path() / "odd/vell.ini");
+    ini.setAppDir(folder.text() + "\\odd\\");
+    EXPECT_FALSE(dialog.Form_Load());
+    EXPECT_EQ(told(), Lines{"Error! The schedule could not be read from the settings file"});
 }
 
 TEST_F(ScheduleTest, keepsWhatAnotherProgramHasChangedMeanwhile) {

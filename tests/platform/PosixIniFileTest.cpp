@@ -102,6 +102,10 @@ TEST_F(PosixIniFileTest, aFileThatAnotherHasChangedIsReadAgain) {
         folder_.put("vell.ini", "[Host]\nPort=" + std::to_string(i));
         EXPECT_EQ(read("Port"), std::to_string(i));
     }
+    ini_.ReadAtOnce(file_, [&] {
+        folder_.put("vell.ini", "[Host]\nPort=60");
+        EXPECT_EQ(read("Port"), "59");
+    });
     std::filesystem::remove(folder_.path() / "vell.ini");
     EXPECT_EQ(read("Port"), "#NF#");
 }

@@ -62,11 +62,12 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
     RecordingShell shell;
     Texts statuses;
     StatusText status = [this](std::string_view text) { statuses.emplace_back(text); };
+    StatusText message = [this](std::string_view text) { view.displayInfoMessageBox(text); };
     Articles articles{shell, boxes, loop, log};
     ClippingsBrowser browser{{store, files, view, clock, log, setup, day}};
-    ClippingOpening opening{browser, store, articles, log, status};
+    ClippingOpening opening{browser, store, articles, log, status, message};
     RecordingPrinters printers;
-    PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup}, status};
+    PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup}, status, message};
     frmAutoView autoView{browser, opening, loop, setup};
     bool busy = false;
     DayCommands days{browser, store, boxes, log, [this] { return busy; }};
@@ -113,16 +114,16 @@ TEST_F(ClippingCommandsTest, opensTheNextTwentyThatWereNotOpenedAndStopsAtAFailu
 TEST_F(ClippingCommandsTest, tellsWhenWhatWasOpenedOrPrintedCannotBeMarked) {
     std::filesystem::create_directory(folder.path() / "clips/07032004/OPENED.DIR");
     std::filesystem::create_directory(folder.path() / "clips/07032004/PRINTED.DIR");
-    opening.openRow(0);
-    EXPECT_THAT(statuses, ElementsAre("Opened, but it could not be marked as opened. The log says why."));
+    EXPECT_EQ(opening.open(browser.rows()[0].path()), ClippingOpening::Outcome::Unmarked);
+    EXPECT_EQ(view.Message, "Opened, but it could not be marked as opened. The log says why.");
     EXPECT_THAT(logged(), testing::HasSubstr(" in IniWriteString()\n"));
     const std::string notMarked = "Printed, but it could not be marked as printed. The log says why.";
-    printing.mnuPrintSel_Click(1);
-    EXPECT_EQ(statuses.back(), notMarked);
-    statuses.clear();
+    EXPECT_FALSE(printing.mnuPrintSel_Click(1));
+    EXPECT_EQ(view.Message, notMarked);
+    view.Message.clear();
     boxes.Answers = {Answer::Yes};
-    printing.mnuPrintAll_Click();
-    EXPECT_EQ(statuses.back(), notMarked);
+    EXPECT_FALSE(printing.mnuPrintAll_Click());
+    EXPECT_EQ(view.Message, notMarked);
     EXPECT_EQ(marks(), "----");
 }
 
@@ -157,7 +158,8 @@ TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
 
 TEST_F(ClippingCommandsTest, aBatchStopsBeforeTheNextDocument) {
     PrintCommands stopped{{browser, store, articles, loop, boxes, printers, log, setup},
-                          [&](std::string_view) { stopped.stop(); }};
+                          [&](std::string_view) { stopped.stop(); },
+                          message};
     boxes.Answers = {Answer::Yes};
     EXPECT_FALSE(stopped.mnuPrintAll_Click());
     EXPECT_THAT(asked(), ElementsAre("A.PDF"));

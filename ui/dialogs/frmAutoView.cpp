@@ -66,7 +66,7 @@ void frmAutoView::openNext() {
     const ScopedFlag opening(isOpening_);
     const std::string path = slides_[next_++].Path;
     tellChange();
-    if (!opening_.open(path) || next_ >= slides_.size()) stop();
+    if (opening_.open(path) == ClippingOpening::Outcome::Failed || next_ >= slides_.size()) stop();
 }
 
 void frmAutoView::tellChange() const {

@@ -63,6 +63,12 @@ std::string PosixIniFile::ReadString(std::string_view file, std::string_view sec
     return std::string(found.substr(0, bufferSize == 0 ? 0 : bufferSize - 1));
 }
 
+void PosixIniFile::ReadAtOnce(std::string_view file, const std::function<void()>& reads) const {
+    const IniText now = text(file);
+    const Restored<Held> held(held_, {file, &now});
+    reads();
+}
+
 void PosixIniFile::Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) {
     const auto locked = lock(file);
     const IniText before = text(file);

@@ -18,6 +18,7 @@ class PosixIniFile : public IniFile {
 
     [[nodiscard]] std::string ReadString(std::string_view file, std::string_view section, std::string_view key,
                                          std::string_view missing, std::size_t bufferSize) const override;
+    void ReadAtOnce(std::string_view file, const std::function<void()>& reads) const override;
     void Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) override;
 
   private:
@@ -27,8 +28,8 @@ class PosixIniFile : public IniFile {
         IniText Text;
     };
 
-    // A file that is being updated: until the end it reads as it was under the lock, so that no second reading, which
-    // could fail, decides what is written.
+    // A file that is being updated or read at once: until the end it reads as it was at the beginning, so that no
+    // second reading, which could fail, has a say.
     struct Held {
         std::string_view File;
         const IniText* Text = nullptr;
@@ -41,7 +42,7 @@ class PosixIniFile : public IniFile {
     const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
 
     Files& files_;
-    Held held_;
+    mutable Held held_;
     mutable std::map<std::string, Known, std::less<>> known_;
 };
 
