@@ -100,24 +100,19 @@ TEST_F(InternetLinkTest, triesThreeWaysToHangUp) {
     const Lines closed{"Internet connection closed."};
     const Lines failed{"Failed closing internet connection."};
     phoneBook.connections = {"My ISP", "Other"};
-    const struct {
-        int DownAt;
-        bool Ask, Ok;
-        std::string Logged;
-        Lines Statuses;
-    } cases[] = {{2, false, true, "", closed},
-                 {3, false, true, first, {}},
-                 {4, true, true, second, {}},
-                 {4, false, false, third, failed},
-                 {5, true, false, third, failed}};
-    for (const auto& one : cases) {
-        goDownAt(one.DownAt);
+    const std::tuple<int, bool, bool, std::string, Lines> cases[] = {{2, false, true, "", closed},
+                                                                     {3, false, true, first, {}},
+                                                                     {4, true, true, second, {}},
+                                                                     {4, false, false, third, failed},
+                                                                     {5, true, false, third, failed}};
+    for (const auto& [downAt, asks, ok, lines, texts] : cases) {
+        goDownAt(downAt);
         boxes.Answers = {Answer::Yes};
-        EXPECT_EQ(link.StopINET(one.Ask), one.Ok);
-        EXPECT_EQ(logged(), one.Logged);
-        EXPECT_EQ(statuses(), one.Statuses);
-        EXPECT_EQ(api.calls.size(), one.DownAt == 2 ? 2U : 4U);
-        EXPECT_EQ(phoneBook.calls, one.DownAt > 3 ? (Lines{"hangup 100", "hangup 101"}) : Lines{});
+        EXPECT_EQ(link.StopINET(asks), ok);
+        EXPECT_EQ(logged(), lines);
+        EXPECT_EQ(statuses(), texts);
+        EXPECT_EQ(api.calls.size(), downAt == 2 ? 2U : 4U);
+        EXPECT_EQ(phoneBook.calls, downAt > 3 ? (Lines{"hangup 100", "hangup 101"}) : Lines{});
     }
     goDownAt(2);
     boxes.Answers.clear();

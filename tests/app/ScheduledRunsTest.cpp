@@ -44,10 +44,8 @@ TEST_F(ScheduledRunsTest, startsEachEntryOfItsMinuteInTheFirstTickOfItThroughAWe
     // A run that ends within its minute is followed by another at each further tick of it.
     pass(std::chrono::hours{24 * 7});
     std::string expected;
-    const struct {
-        std::string Date, Day;
-        int Entries;
-    } table[] = {{"07/03/2004", "SUN", 1}, {"08/03/2004", "MON", 3}, {"10/03/2004", "WED", 1}};
+    const std::tuple<std::string, std::string, int> table[] = {
+        {"07/03/2004", "SUN", 1}, {"08/03/2004", "MON", 3}, {"10/03/2004", "WED", 1}};
     for (const auto& [date, day, entries] : table)
         for (const std::string second : {"00", "10", "20", "30", "40", "50"})
             for (int entry = 0; entry < entries; ++entry)

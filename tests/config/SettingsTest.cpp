@@ -117,6 +117,7 @@ TEST_F(SettingsTest, aFileThatCannotBeReadChangesNothingInMemory) {
 }
 
 TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAreRight) {
+    const char* fullPath = "Download path must be a full path, such as /home/ann/clippings";
     const struct {
         SettingField field;
         std::vector<std::string> wrong;
@@ -138,18 +139,10 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
         {&Settings::PrintAllDelay, {"", "0"}, "Print All delay not specified", "50"},
         {&Settings::PrintAllDelay, {"50"}, "Print All delay set too high", "49"},
         {&Settings::LocalDir, {"", "  "}, "Download path not specified", "clips"},
-        {&Settings::LocalDir,
-         {"clips", "C:clips", "~/clips"},
-         "Download path must be a full path, such as /home/ann/clippings",
-         "/c"},
-        {&Settings::Uid,
-         {"a\r\n[x]", "a\tb"},
-         "Uid must be one line without control characters",
-         "u"},  // the file could not
-        {&Settings::proxyPwd,
-         {std::string(167, 'p')},
-         "proxyPwd is too long",
-         std::string(166, 'p')},  // give these back
+        {&Settings::LocalDir, {"clips", "C:clips", "~/clips"}, fullPath, "/c"},
+        // The file could not give these back.
+        {&Settings::Uid, {"a\r\n[x]", "a\tb"}, "Uid must be one line without control characters", "u"},
+        {&Settings::proxyPwd, {std::string(167, 'p')}, "proxyPwd is too long", std::string(166, 'p')},
         {&Settings::LocalDir, {"/" + std::string(249, 'd')}, "LocalDir is too long", "/" + std::string(248, 'd')},
     };
     dialog.setEntry(&Settings::Protocol, "FTP");

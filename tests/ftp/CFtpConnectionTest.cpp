@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
-#include <ctime>
 #include <optional>
 
 #include "ftp/CFtpConnection.h"
@@ -384,23 +383,6 @@ TEST_F(CFtpConnectionTest, sendsNoArgumentThatCouldCarryASecondCommand) {
     }
     EXPECT_THAT(server.commands, IsEmpty());
     EXPECT_TRUE(ftp.IsConnected());
-}
-
-// As slow as real time, since processor time is what counts here.
-class SlowClockTest : public FtpFixture {
-  protected:
-    SlowClockTest() : FtpFixture(std::chrono::milliseconds{10}) {}
-};
-
-TEST_F(SlowClockTest, aSilentSecondCostsNoProcessorTime) {
-    ScriptedServer server(sockets, loop);
-    server.on("", "~99999");
-    ftp.Port = server.port();
-    ftp.Timeout = 0;
-    const std::clock_t begin = std::clock();
-    EXPECT_FALSE(ftp.Connect());
-    EXPECT_NEAR(seconds(), 1, 0.1);
-    EXPECT_LT(std::clock() - begin, CLOCKS_PER_SEC / 50);
 }
 
 }  // namespace

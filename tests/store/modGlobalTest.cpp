@@ -145,7 +145,8 @@ TEST_F(modGlobalTest, opensAndPrintsWithTheSystemsProgramsAndTellsWhyItCouldNot)
     shell.Result = 33;
     EXPECT_TRUE(articles.PrintArticle("C:\\A.PDF\\b.txt"));
     shell.Result = 2;
-    EXPECT_FALSE(articles.PrintArticle("C:\\y.pdf") || articles.PrintArticle("C:\\x.TXT"));
+    EXPECT_FALSE(articles.PrintArticle("C:\\y.pdf"));
+    EXPECT_FALSE(articles.PrintArticle("C:\\x.TXT"));
     EXPECT_TRUE(shell.Opened.ends_with(
         "<>\nAcrord32.exe < /p /h \"C:\\A.PDF\\b.txt\">\nAcrord32.exe < /p /h \"C:\\y.pdf\">\n"));
     EXPECT_EQ(boxes.shown(),
