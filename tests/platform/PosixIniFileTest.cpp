@@ -8,7 +8,6 @@
 #include "base/text.h"
 #include "platform/posix/files/PosixFiles.h"
 #include "platform/posix/files/PosixIniFile.h"
-#include "tests/support/FaultyFiles.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {
@@ -126,28 +125,6 @@ TEST_F(PosixIniFileTest, ofTwoWritersNoneLosesTheWorkOfTheOther) {
     }
     EXPECT_EQ(read("Port"), std::to_string(2 * times));
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder_.path()), {}), 1) << "no lock stays behind";
-}
-
-TEST_F(PosixIniFileTest, whereverTheDiskFailsTheOldSettingsStand) {
-    FaultyFiles faulty;
-    PosixIniFile ini(faulty);
-    const std::string old = "[Host]\r\nPort=21\r\n";
-    int n = 1;
-    for (bool hasFailed = true; hasFailed; ++n) {
-        folder_.put("vell.ini", old);
-        faulty.failAt(n);
-        bool written = true;
-        try {
-            write(ini, file_, "Port", "80");
-        } catch (const RunTimeError&) {
-            written = false;
-        }
-        hasFailed = faulty.hasFailed();
-        EXPECT_EQ(written, !hasFailed);
-        EXPECT_EQ(folder_.get("vell.ini"), written ? "[Host]\r\nPort=80\r\n" : old);
-        EXPECT_EQ(read("Port"), written ? "80" : "21");
-    }
-    EXPECT_GE(n, 3) << "reading and writing can both fail";
 }
 
 }  // namespace

@@ -2,65 +2,116 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "base/errors.h"
 #include "platform/posix/files/PosixFiles.h"
 
 namespace vell::test {
 
-// The real files, of which the n-th operation fails; the operations of an open part count, too. To try every place of a
-// procedure at which the disk can fail, let n rise until nothing fails any more.
+// The real files, of which one operation fails, or from one on every one that needs room; the operations of an open
+// part count, too, those on the log do not. To try every place of a procedure at which the disk can fail, let n rise
+// until nothing fails any more.
 class FaultyFiles : public PosixFiles {
   public:
-    // 1 is the next operation.
-    void failAt(int n) { *left_ = n; }
+    enum class Fault { Once, FullFromThenOn };
+    // 1 is the next operation; 0 for no failure any more.
+    void failAt(int n, Fault fault = Fault::Once) { *disk_ = {n == 0 ? never : n, fault}; }
     // True when the failure has come.
-    [[nodiscard]] bool hasFailed() const { return *left_ <= 0; }
+    [[nodiscard]] bool hasFailed() const { return disk_->Left <= 0; }
 
+    std::optional<std::int64_t> FileSize(std::string_view path) const override {
+        disk_->count(Needs::Nothing);
+        return PosixFiles::FileSize(path);
+    }
+    std::optional<FileStamp> Stamp(std::string_view path) const override {
+        disk_->count(Needs::Nothing);
+        return PosixFiles::Stamp(path);
+    }
+    std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern, Kind kind) const override {
+        disk_->count(Needs::Nothing);
+        return PosixFiles::Enumerate(folder, pattern, kind);
+    }
     std::string ReadFile(std::string_view path) const override {
-        count(*left_);
+        disk_->count(Needs::Nothing);
         return PosixFiles::ReadFile(path);
     }
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
-        count(*left_);
+        disk_->count(Needs::Room);
         PosixFiles::WriteWhole(path, bytes, durability);
     }
+    void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
+        disk_->count(Needs::Nothing);
+        PosixFiles::ReplaceByte(path, offset, byte);
+    }
     std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
-        count(*left_);
+        disk_->count(Needs::Room);
         auto real = PosixFiles::OpenPart(path);
-        return real ? std::make_unique<Part>(std::move(real), left_) : nullptr;
+        return real ? std::make_unique<Part>(std::move(real), disk_) : nullptr;
+    }
+    void Flush(std::string_view folder) override {
+        disk_->count(Needs::Room);
+        PosixFiles::Flush(folder);
+    }
+    void MakePrivateFile(std::string_view path) override {
+        if (!path.ends_with(".log")) disk_->count(Needs::Room);
+        PosixFiles::MakePrivateFile(path);
+    }
+    void DeleteFile(std::string_view path) override {
+        disk_->count(Needs::Nothing);
+        PosixFiles::DeleteFile(path);
+    }
+    void MakeFolder(std::string_view path) override {
+        disk_->count(Needs::Room);
+        PosixFiles::MakeFolder(path);
+    }
+    void RemoveFolder(std::string_view path) override {
+        disk_->count(Needs::Nothing);
+        PosixFiles::RemoveFolder(path);
     }
 
   private:
+    static constexpr int never = 1'000'000'000;
+    enum class Needs { Room, Nothing };
+    struct Disk {
+        int Left = never;
+        Fault Kind = Fault::Once;
+
+        void count(Needs needs) {
+            if (Kind == Fault::FullFromThenOn && needs == Needs::Nothing) return;
+            --Left;
+            if (Left == 0 || (Left < 0 && Kind == Fault::FullFromThenOn))
+                throw RunTimeError(error_number::DiskFull, "Disk full");
+        }
+    };
+
     class Part : public PartFile {
       public:
-        Part(std::unique_ptr<PartFile> real, std::shared_ptr<int> left)
-            : real_(std::move(real)), left_(std::move(left)) {}
+        Part(std::unique_ptr<PartFile> real, std::shared_ptr<Disk> disk)
+            : real_(std::move(real)), disk_(std::move(disk)) {}
         std::int64_t Length() const override { return real_->Length(); }
-        std::string Beginning(std::size_t most) const override { return counted().Beginning(most); }
-        void StartAt(std::int64_t offset) override { counted().StartAt(offset); }
-        void Write(std::string_view bytes) override { counted().Write(bytes); }
-        void Close() override { counted().Close(); }
-        void Adopt(std::string_view path) override { counted().Adopt(path); }
-        void MoveTo(std::string_view path) override { counted().MoveTo(path); }
-        void Discard() override { counted().Discard(); }
+        std::string Beginning(std::size_t most) const override { return after(Needs::Nothing).Beginning(most); }
+        void StartAt(std::int64_t offset) override { after(Needs::Nothing).StartAt(offset); }
+        void Write(std::string_view bytes) override { after(Needs::Room).Write(bytes); }
+        void Close() override { after(Needs::Room).Close(); }
+        void Adopt(std::string_view path) override { after(Needs::Nothing).Adopt(path); }
+        void MoveTo(std::string_view path) override { after(Needs::Room).MoveTo(path); }
+        void Discard() override { after(Needs::Nothing).Discard(); }
 
       private:
-        [[nodiscard]] PartFile& counted() const {
-            count(*left_);
+        [[nodiscard]] PartFile& after(Needs needs) const {
+            disk_->count(needs);
             return *real_;
         }
 
         std::unique_ptr<PartFile> real_;
-        std::shared_ptr<int> left_;
+        std::shared_ptr<Disk> disk_;
     };
 
-    static void count(int& left) {
-        if (--left == 0) throw RunTimeError(error_number::DiskFull, "Disk full");
-    }
-
-    std::shared_ptr<int> left_ = std::make_shared<int>(1'000'000'000);
+    std::shared_ptr<Disk> disk_ = std::make_shared<Disk>();
 };
 
 }  // namespace vell::test

@@ -44,9 +44,15 @@ struct ProgramRig : Process {
     [[nodiscard]] std::string DocumentsFolder() const override { return folder.text(); }
     [[nodiscard]] bool IsPreviousInstance() override { return anotherRuns; }
 
-    [[nodiscard]] std::string logged() const { return SettingsRig::plain(folder.get("vell.log")); }
+    [[nodiscard]] std::string logged() const {
+        return folder.has("vell.log") ? SettingsRig::plain(folder.get("vell.log")) : "";
+    }
     [[nodiscard]] bool logHas(const std::string& lines) const { return logged().find(lines) != std::string::npos; }
-    [[nodiscard]] std::string inDay(const std::string& name) const { return folder.get("clips/07032004/" + name); }
+    // "" when there is no such file.
+    [[nodiscard]] std::string inDay(const std::string& name) const {
+        const std::string path = "clips/07032004/" + name;
+        return folder.has(path) ? folder.get(path) : "";
+    }
 
     TempFolder folder;
     ServicePeer service;

@@ -4,25 +4,25 @@
 #include <functional>
 #include <string>
 
-#include "platform/posix/files/PosixFiles.h"
+#include "tests/support/FaultyFiles.h"
 
 namespace vell::test {
 
-// The real files, but what has `Trouble` in its path can be neither written nor deleted.
-class TroubledFiles : public PosixFiles {
+// Files that can fail as FaultyFiles do, and what has `Trouble` in its path can be neither written nor deleted.
+class TroubledFiles : public FaultyFiles {
   public:
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
-        PosixFiles::WriteWhole(checked(path), bytes, durability);
+        FaultyFiles::WriteWhole(checked(path), bytes, durability);
     }
     void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
-        PosixFiles::ReplaceByte(checked(path), offset, byte);
+        FaultyFiles::ReplaceByte(checked(path), offset, byte);
     }
     [[nodiscard]] std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
-        return PosixFiles::OpenPart(checked(path));
+        return FaultyFiles::OpenPart(checked(path));
     }
-    void DeleteFile(std::string_view path) override { PosixFiles::DeleteFile(checked(path)); }
+    void DeleteFile(std::string_view path) override { FaultyFiles::DeleteFile(checked(path)); }
     [[nodiscard]] std::optional<std::uint64_t> FreeBytes(std::string_view path) const override {
-        return Free ? Free() : PosixFiles::FreeBytes(path);
+        return Free ? Free() : FaultyFiles::FreeBytes(path);
     }
 
     std::string Trouble;  // empty for none
