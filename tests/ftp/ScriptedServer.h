@@ -17,6 +17,7 @@ namespace vell::test {
 class ScriptedServer : private TcpSocketEvents {
   public:
     ScriptedServer(Sockets& sockets, EventLoop& loop);
+    ~ScriptedServer() override { loop_.KillTimer(timer_); }
 
     // What it does at a command ("" is the greeting): steps with "|" between them, each done when the one before is.
     //   150 text  this line      >22  this text, no line end     ~500  nothing for 500 milliseconds

@@ -166,11 +166,12 @@ TEST_F(PosixFilesTest, leftOverPartsGoAfterADayOrWithTheirFolderButNeverUnderThe
 TEST_F(PosixFilesTest, aPartIsOneWritersUntilItTakesItsPlace) {
     folder_.put("A.PDF", "old");
     std::filesystem::permissions(folder_.path() / "A.PDF", std::filesystem::perms{0640});
+    PosixFiles another;
     auto part = files_.OpenPart(at(".a.part"));
     part->Write("0123456789");
-    EXPECT_EQ(PosixFiles().OpenPart(at(".a.part")), nullptr);
+    EXPECT_EQ(another.OpenPart(at(".a.part")), nullptr);
     part.reset();  // as a kill leaves it
-    part = PosixFiles().OpenPart(at(".A.part"));
+    part = another.OpenPart(at(".A.part"));
     EXPECT_EQ(part->Length(), 10);
     part->StartAt(4);
     part->Write("new");
