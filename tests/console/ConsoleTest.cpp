@@ -177,7 +177,7 @@ TEST_F(ConsoleTest, takesPasswordsUnseenAndRepairsDamagedOnes) {
     terminal.Typed = {"ann", "secret", "", ""};
     command.askForLogin();
     command.askForLogin();
-    EXPECT_EQ(setup.Uid + setup.Pwd, "annsecret");
+    EXPECT_THAT((std::vector{setup.Uid, setup.Pwd}), testing::ElementsAre("ann", "secret"));
     EXPECT_EQ(terminal.taken(), "Uid = ann\nPwd = (set)\n!User name []: Password: *\nUser name [ann]: Password: *\n");
 
     folder.put("vell.ini", "[Host]\r\nPwd=bad\r\nproxyPwd=bad\r\n[Download]\r\nLocalDir=/kept\r\n");

@@ -8,11 +8,10 @@
 #include <thread>
 #include <vector>
 
-#include <arpa/inet.h>
+#include <asio/ip/tcp.hpp>
+#include <asio/write.hpp>
 #include <fcntl.h>
 #include <gmock/gmock.h>
-#include <sys/socket.h>
-#include <unistd.h>
 
 #include "base/errors.h"
 #include "platform/asio/AsioEventLoop.h"
@@ -23,6 +22,7 @@ namespace vell::test {
 namespace {
 
 using namespace std::string_literals;
+using asio::ip::tcp;
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::Ge;
@@ -65,54 +65,50 @@ struct End : TcpSocketEvents {
     std::function<void(const std::string& event)> During;
 };
 
-sockaddr_in at(const char* address, std::uint16_t port) {
-    return {AF_INET, htons(port), {inet_addr(address)}, {}};
+tcp::endpoint at(const char* address, std::uint16_t port) {
+    return {asio::ip::make_address(address), port};
 }
 
 // A peer that does what a well-behaved one would not. It blocks, but the system's own half of a connection answers it.
 class RawPeer {
   public:
-    explicit RawPeer(std::uint16_t port, const char* from = "127.0.0.1") {
-        const auto source = at(from, 0), target = at("127.0.0.1", port);
-        EXPECT_EQ(bind(fd_, reinterpret_cast<const sockaddr*>(&source), sizeof source), 0);
-        connected_ = connect(fd_, reinterpret_cast<const sockaddr*>(&target), sizeof target) == 0;
+    explicit RawPeer(std::uint16_t port, const char* from = "127.0.0.1") : socket_(context_, at(from, 0)) {
+        socket_.connect(at("127.0.0.1", port), problem_);
     }
-    ~RawPeer() { ::close(fd_); }
-    bool connected() const { return connected_; }
-    void send(const std::string& bytes) const {
-        EXPECT_EQ(::send(fd_, bytes.data(), bytes.size(), MSG_NOSIGNAL), static_cast<ssize_t>(bytes.size()));
-    }
-    void endSending() const { shutdown(fd_, SHUT_WR); }
+    bool connected() const { return !problem_; }
+    void send(const std::string& bytes) { asio::write(socket_, asio::buffer(bytes)); }
+    void endSending() { socket_.shutdown(tcp::socket::shutdown_send); }
     void reset() {
-        const linger atOnce{1, 0};
-        setsockopt(fd_, SOL_SOCKET, SO_LINGER, &atOnce, sizeof atOnce);
-        ::close(std::exchange(fd_, -1));
+        socket_.set_option(asio::socket_base::linger(true, 0));
+        socket_.close();
     }
-    [[nodiscard]] bool turnedAway() const {
+    bool turnedAway() {
         char byte = 0;
-        return recv(fd_, &byte, 1, MSG_DONTWAIT) == 0 || errno == ECONNRESET;
+        socket_.non_blocking(true);
+        socket_.read_some(asio::buffer(&byte, 1), problem_);
+        return problem_ == asio::error::eof || problem_ == asio::error::connection_reset;
     }
 
   private:
-    int fd_ = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    bool connected_ = false;
+    asio::io_context context_;
+    asio::error_code problem_;
+    tcp::socket socket_;
 };
 
 // An address that never answers: its queue of connections is full, so the system drops whoever else comes.
 class SilentPort {
   public:
-    SilentPort(const char* address, std::uint16_t port) {
-        const auto here = at(address, port);
-        EXPECT_EQ(bind(fds_[0], reinterpret_cast<const sockaddr*>(&here), sizeof here), 0);
-        EXPECT_EQ(listen(fds_[0], 0), 0);
-        for (const int fd : {fds_[1], fds_[2]})
-            (void)connect(fd, reinterpret_cast<const sockaddr*>(&here), sizeof here);
+    SilentPort(const char* address, std::uint16_t port) : silent_(context_, tcp::v4()) {
+        silent_.bind(at(address, port));
+        silent_.listen(0);
+        for (tcp::socket& waiting : waiting_)
+            waiting.async_connect(at(address, port), [](asio::error_code) {});
     }
-    ~SilentPort() { std::ranges::for_each(fds_, ::close); }
 
   private:
-    static int open() { return ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0); }
-    std::array<int, 3> fds_{open(), open(), open()};
+    asio::io_context context_;
+    tcp::acceptor silent_;
+    tcp::socket waiting_[2]{tcp::socket(context_), tcp::socket(context_)};
 };
 
 class AsioTcpSocketTest : public testing::Test {
@@ -263,10 +259,10 @@ TEST_F(AsioTcpSocketTest, letsInTheExpectedPeerAloneAndNobodyAfterIt) {
     server_.Socket->Listen("127.0.0.1");
     server_.Socket->ExpectPeer("127.0.0.1");
     const std::uint16_t port = server_.Socket->LocalPort();
-    const RawPeer stranger(port, "127.0.0.2");
+    RawPeer stranger(port, "127.0.0.2");
     EXPECT_TRUE(until([&] { return stranger.turnedAway(); }));
     EXPECT_THAT(server_.Events, IsEmpty());
-    const RawPeer expected(port);
+    RawPeer expected(port);
     ASSERT_TRUE(untilTold(server_, "ConnectionRequest"));
     EXPECT_EQ(server_.Socket->State(), SocketState::ConnectionPending);
     EXPECT_FALSE(RawPeer(port).connected());

@@ -17,6 +17,7 @@
 namespace vell::test {
 namespace {
 
+using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Texts = std::vector<std::string>;
@@ -277,7 +278,7 @@ TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
     EXPECT_EQ(view.Days, "08/03/2004 *06/03/2004 ");
     std::filesystem::remove_all(folder.path() / "clips");
     days.reload();
-    EXPECT_EQ(view.Days + view.Rows, "");
+    EXPECT_THAT((Texts{view.Days, view.Rows}), Each(""));
 }
 
 }  // namespace
