@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <optional>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -8,8 +7,7 @@
 
 #include "store/ClippingName.h"
 #include "store/IndexLine.h"
-#include "tests/ftp/FtpServerProcess.h"
-#include "tests/support/ProgramRig.h"
+#include "tests/app/EitherProtocolRig.h"
 
 namespace vell::test {
 
@@ -17,25 +15,8 @@ using testing::AnyOf, testing::HasSubstr, testing::IsEmpty;
 
 // Whole runs for a day whose clipping is there in an older version, with a disk that fails at every place.
 class DiskFaultsTest : public testing::TestWithParam<std::tuple<const char*, FaultyFiles::Fault>>,
-                       protected ProgramRig {
+                       protected EitherProtocolRig {
   protected:
-    DiskFaultsTest() {
-        service.serve(1);
-        for (const std::string& name : names())
-            root_.put("torvoarchive/" + name, fresh(name));
-        root_.put("torvoarchive/ADVERTISMENT.JPG", "jpeg");
-    }
-    [[nodiscard]] bool isReachable() {
-        std::string host = "Host=service.example\r\n";
-        if (std::string(std::get<0>(GetParam())) == "FTP") {
-            server_.emplace("pyftpdlib", root_);
-            if (server_->port() == 0) return false;
-            host = "Protocol=FTP\r\nHost=127.0.0.1\r\nTimeOut=20\r\nPort=" + std::to_string(server_->port()) + "\r\n";
-        }
-        settings_ = "[Host]\r\n" + host + "RetryOnFailure=1\r\nRetryDelay=0\r\n[General]\r\nDebug=1\r\n[Download]\r\n" +
-                    "LocalDir=" + folder.text() + "/clips\r\n";
-        return true;
-    }
     static std::vector<std::string> names() { return {"N120040307.PDF", "N120040307.TXT", "N120040307.MT"}; }
     static std::string fresh(const std::string& name) {
         return std::string(name.ends_with("PDF") ? 1500 : 300, name[1]);
@@ -47,7 +28,7 @@ class DiskFaultsTest : public testing::TestWithParam<std::tuple<const char*, Fau
         std::filesystem::remove_all(folder.path() / "clips");
         std::filesystem::create_directory(folder.path() / "clips");
         std::filesystem::remove(folder.path() / "vell.log");
-        folder.put("vell.ini", settings_);
+        folder.put("vell.ini", settings);
         folder.put("clips/07032004/ALLFILES.DIR", "N120040307.PDF||P||T||C||Y||0||d||18||18||17\r\n\r\n");
         for (const std::string& name : names())
             folder.put("clips/07032004/" + name, old(name));
@@ -65,14 +46,10 @@ class DiskFaultsTest : public testing::TestWithParam<std::tuple<const char*, Fau
         }
         return count;
     }
-
-    TempFolder root_;
-    std::optional<FtpServerProcess> server_;
-    std::string settings_;
 };
 
 TEST_P(DiskFaultsTest, loseAndMixNothingAreToldAndMadeGoodByTheNextRun) {
-    if (!isReachable()) GTEST_SKIP() << "no FTP server is installed";
+    if (!serveOver(std::get<0>(GetParam()), 1)) GTEST_SKIP() << "no FTP server is installed";
     int n = 0;
     do {
         SCOPED_TRACE("fault at " + std::to_string(++n));
@@ -82,7 +59,7 @@ TEST_P(DiskFaultsTest, loseAndMixNothingAreToldAndMadeGoodByTheNextRun) {
         EXPECT_LE(good ? 1 : 0, marked()) << logged();
         for (const std::string& name : names())
             EXPECT_THAT(inDay(name), AnyOf(old(name), fresh(name))) << name;
-        EXPECT_EQ(folder.get("vell.ini"), settings_);
+        EXPECT_EQ(folder.get("vell.ini"), settings);
         if (!files.hasFailed()) break;
         EXPECT_THAT(logged() + std::string(program.settingsComplaint()),
                     AnyOf(HasSubstr("Disk full"), HasSubstr("Not enough free space"), HasSubstr("cannot be read")));

@@ -130,34 +130,6 @@ TEST_F(DownloadRunTest, theIndexNamesTheVersionOfAClippingThatIsHere) {
     EXPECT_THAT(view.Statuses, testing::HasSubstr("\nClippings left out because their names cannot be stored: 1\n"));
 }
 
-TEST_F(DownloadRunTest, aFileThatIsNotWhatTheListSaysTakesNoOnesPlaceAndIsKeptOnlyWhereThereIsNone) {
-    folder.put("vell.ini", Replace(folder.get("vell.ini"), "RetryDelay=49", "RetryDelay=1"));
-    const std::string whole(1500, '1'), page = " <!doctype HTML>" + std::string(1484, 'x');
-    const struct {
-        HttpPeer::Answer Answer;
-        std::string Old, Kept, Told;  // "" for no file
-    } table[] = {
-        {HttpPeer::ok("short"), "old", "old", "N120040307.PDF came with 5 bytes, the list says 1500."},
-        {HttpPeer::ok("short"), "", "short", "N120040307.PDF came with 5 bytes, the list says 1500."},
-        {HttpPeer::ok(whole + "more"), "old", "old", "N120040307.PDF came with 1504 bytes, the list says 1500."},
-        {HttpPeer::ok(page), "old", "old", "A web page came in place of N120040307.PDF."},
-        {HttpPeer::ok(page), "", "", "A web page came in place of N120040307.PDF."},
-        {{"HTTP/1.0 200 OK\r\nContent-Length: 1500\r\n\r\nhalf"}, "", "", "The file was cut short."},
-    };
-    for (const auto& row : table) {
-        std::filesystem::remove_all(folder.path() / "clips/07032004");
-        std::filesystem::remove(folder.path() / "vell.log");
-        if (!row.Old.empty()) folder.put("clips/07032004/N120040307.PDF", row.Old);
-        service.Answers[ServicePeer::pathOf("N120040307.PDF")] = row.Answer;
-        EXPECT_FALSE(runToday());
-        EXPECT_EQ(inDay("N120040307.PDF"), row.Kept) << row.Told;
-        EXPECT_THAT(logged(), HasSubstr(row.Told));
-        EXPECT_EQ(program.downloads().outcome().FilesFailed, 1);
-        EXPECT_EQ(marked(), 2U);
-        EXPECT_THAT(files.Enumerate(folder.text() + "/clips/07032004", ".*", Files::Kind::Files), testing::IsEmpty());
-    }
-}
-
 TEST_F(DownloadRunTest, waitsForAnotherProgramThatFetchesTheSameFile) {
     std::unique_ptr<PartFile> other;
     PosixFiles others;

@@ -6,6 +6,30 @@ write. Prints 0 when the server is not there.
 import crypt, grp, logging, os, pwd, random, socket, subprocess, sys  # noqa: E401
 
 
+def badness():
+    """How pyftpdlib is to treat N1*.PDF: it "breaks" off after 1000 bytes, "dies" there, or "forgets" where to start."""
+    try:
+        with open(folder + '/badness') as file:
+            return file.read()
+    except FileNotFoundError:
+        return ''
+
+
+class BadFile:
+    def __init__(self, file, channel):
+        self.file, self.channel = file, channel
+
+    def __getattr__(self, name):
+        return getattr(self.file, name)
+
+    def read(self, _):
+        if self.file.tell() >= 1000:
+            if badness() == 'dies':
+                self.channel.close()
+            raise OSError(5, 'Input/output error')
+        return self.file.read(1000)
+
+
 def listen(wanted):
     while True:
         try:
@@ -19,14 +43,27 @@ server, folder, config, port = sys.argv[1:]
 listener = listen(int(port))
 if server == 'pyftpdlib':
     try:
-        from pyftpdlib import authorizers, handlers, servers
+        from pyftpdlib import authorizers, filesystems, handlers, servers
     except ImportError:
         sys.exit(print(0))
+
+    class Disk(filesystems.AbstractedFS):
+        def open(self, name, mode):
+            file = super().open(name, mode)
+            isBad = '/N1' in name and name.endswith('.PDF') and badness() in ('breaks', 'dies')
+            return BadFile(file, self.cmd_channel) if isBad else file
+
+    class Handler(handlers.FTPHandler):
+        abstracted_fs = Disk
+
+        def ftp_REST(self, line):
+            super().ftp_REST('0' if badness() == 'forgets' else line)
+
     logging.disable(logging.CRITICAL)
-    handlers.FTPHandler.authorizer = authorizers.DummyAuthorizer()
-    handlers.FTPHandler.authorizer.add_user('vell', 'ruxo', folder, perm='elradfmwMT')
-    handlers.FTPHandler.auth_failed_timeout = 0
-    ftp = servers.FTPServer(listener, handlers.FTPHandler)
+    Handler.authorizer = authorizers.DummyAuthorizer()
+    Handler.authorizer.add_user('vell', 'ruxo', folder, perm='elradfmwMT')
+    Handler.auth_failed_timeout, Handler.use_sendfile = 0, False
+    ftp = servers.FTPServer(listener, Handler)
     print(ftp.address[1], flush=True)
     ftp.serve_forever()
 program = '/usr/sbin/' + server
