@@ -116,7 +116,8 @@ void markAClipping(benchmark::State& state) {
     DayIndex index(day.Disk);
     int number = 0;
     for (auto _ : state)
-        index.markDownloaded(day.folder(), nameOf(number++ % static_cast<int>(state.range(0))), "1");
+        index.markDownloaded(day.folder(),
+                             std::vector<ArrivedClipping>{{nameOf(number++ % static_cast<int>(state.range(0))), "1"}});
 }
 BENCHMARK(markAClipping)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond);
 
@@ -125,13 +126,12 @@ void markAMarkedDayAgain(benchmark::State& state) {
     const auto count = static_cast<int>(state.range(0));
     Day day(count);
     DayIndex index(day.Disk);
-    const auto markAll = [&] {
-        for (int number = 0; number < count; ++number)
-            index.markDownloaded(day.folder(), nameOf(number), "1");
-    };
-    markAll();
+    std::vector<ArrivedClipping> all;
+    for (int number = 0; number < count; ++number)
+        all.push_back({nameOf(number), "1"});
+    index.markDownloaded(day.folder(), all);
     for (auto _ : state)
-        markAll();
+        index.markDownloaded(day.folder(), all);
 }
 BENCHMARK(markAMarkedDayAgain)->Arg(3000)->Unit(benchmark::kMillisecond);
 

@@ -83,9 +83,6 @@ class Files {
     [[nodiscard]] virtual std::string ReadFile(std::string_view path) const = 0;
     // Replaces or makes the file; what lies under its name is the old content or the new, never a part.
     virtual void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) = 0;
-    // Overwrites one byte of a file that is long enough. Whatever happens, the file is the old one or the new one; it
-    // is much cheaper than writing a whole file anew.
-    virtual void ReplaceByte(std::string_view path, std::int64_t offset, char byte) = 0;
     // Makes the file when it is missing.
     virtual void Append(std::string_view path, std::string_view bytes) = 0;
     // Opens for writing from `offset` on (0 to the file's length) and cuts off what lies behind it; makes the file
@@ -94,6 +91,10 @@ class Files {
     // Opens a part, and makes it when it is missing; null when another writer has it. Its name begins with a dot and
     // ends with ".part". Parts that nobody has written for a day are removed from a folder when it is first written to.
     [[nodiscard]] virtual std::unique_ptr<PartFile> OpenPart(std::string_view path) = 0;
+    // For who reads a file, changes what it read and replaces the file by it: holds off everybody else who asks for the
+    // file's lock, in whatever process or on whatever machine, while what is returned lives, which is never null.
+    // Nothing is to be done with it. Raises when another one has not done its work for seconds.
+    [[nodiscard]] virtual std::unique_ptr<PartFile> Lock(std::string_view path) = 0;
     // Waits until the disk has what was written in that folder, so that a power cut cannot take it any more.
     virtual void Flush(std::string_view folder) = 0;
     // Makes an empty file that only its owner may read, or leaves an existing one as it is.

@@ -97,13 +97,19 @@ std::string DownloadList::listRequest() const {
 
 std::unordered_set<std::string> DownloadList::storeIndex(const std::vector<std::string>& records) {
     const std::string path = p_.Day.gDayFolder + std::string(indexFileName);
-    const Merged merged = mergeWithIndex(records, p_.Disk.PathExists(path) ? p_.Disk.ReadFile(path) : std::string());
-    p_.Disk.WriteWhole(path, merged.Index, Durability::Rename);
+    const Merged merged = mergeInto(path, records);
     for (const std::string& name : merged.GoneFiles) {
         p_.Log.WriteLog("        The service does not list " + name + " any more");
         p_.Store.DeleteArticleFiles(name);
     }
     return merged.ChangedFiles;
+}
+
+Merged DownloadList::mergeInto(const std::string& path, const std::vector<std::string>& records) {
+    const auto lock = p_.Disk.Lock(path);
+    Merged merged = mergeWithIndex(records, p_.Disk.PathExists(path) ? p_.Disk.ReadFile(path) : std::string());
+    p_.Disk.WriteWhole(path, merged.Index, Durability::Rename);
+    return merged;
 }
 
 void DownloadList::fillDownloadList(const std::vector<std::string>& records,

@@ -19,6 +19,7 @@ class modGlobal;
 class modHTTP;
 class RunFeedback;
 struct DayState;
+struct Merged;
 struct ListAnswer;
 struct Settings;
 
@@ -54,6 +55,8 @@ class DownloadList {
     [[nodiscard]] std::string listRequest() const;
     // Gives the articles of which the service has another version than the last time.
     [[nodiscard]] std::unordered_set<std::string> storeIndex(const std::vector<std::string>& records);
+    // Replaces the index in one step, with nobody's marks lost meanwhile.
+    [[nodiscard]] Merged mergeInto(const std::string& path, const std::vector<std::string>& records);
     void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
     void append(DownloadEntry entry);
 

@@ -51,10 +51,8 @@ void ClippingBooks::markArrived() {
     trapStep(p_.Log, "StartDownload()", [&] {
         const std::string& folder = p_.State.Run.Day.gDayFolder;
         p_.Disk.Flush(folder);
-        while (!arrived_.empty()) {
-            (void)index_.markDownloaded(folder, arrived_.back().PdfName, arrived_.back().Change);
-            arrived_.pop_back();
-        }
+        index_.markDownloaded(folder, arrived_);
+        arrived_.clear();
     });
 }
 

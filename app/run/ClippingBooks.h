@@ -44,10 +44,6 @@ class ClippingBooks {
     void printWhenNew(const std::string& name, std::int64_t before);
 
   private:
-    struct Clipping {
-        std::string PdfName;
-        std::string Change;  // of the version that has come
-    };
     void markArrived();
     void say(const std::string& text);
 
@@ -55,7 +51,7 @@ class ClippingBooks {
     DayIndex index_;
     bool pdfOk_ = false;
     bool textOk_ = false;
-    std::vector<Clipping> arrived_;  // without their mark yet
+    std::vector<ArrivedClipping> arrived_;  // without their mark yet
     SteadyTime markedAt_{};
 };
 

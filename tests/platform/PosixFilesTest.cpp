@@ -210,7 +210,7 @@ TEST_F(PosixFilesTest, onlyWhatDoesNotExistIsTakenForAbsentAndAPipeForNoFile) {
     EXPECT_TRUE(files_.PathExists(at("loop")));
     EXPECT_EQ(errorOf([&] { (void)files_.FileSize(at("loop")); }).LastSystemError, ELOOP);
     EXPECT_EQ(errorOf([&] { (void)files_.Stamp(at(std::string(300, 'a'))); }).Number, error_number::BadFileName);
-    EXPECT_EQ(errorOf([&] { files_.ReplaceByte(at("pipe"), 0, 'x'); }).LastSystemError, ENXIO);
+    EXPECT_EQ(errorOf([&] { (void)files_.OpenForWriting(at("pipe"), 0); }).LastSystemError, ENXIO);
     const int reader = open((folder_.path() / "pipe").c_str(), O_RDONLY | O_NONBLOCK);
     EXPECT_EQ(errorOf([&] { files_.Append(at("pipe"), "x"); }).Number, error_number::PathAccess);
     close(reader);

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include "store/ClippingName.h"
 #include "store/DayIndex.h"
@@ -14,8 +16,8 @@ class IndexTest : public testing::Test, protected StoreRig {
     // Lines end at "~".
     void file(const std::string& text) { put("ALLFILES.DIR", Replace(text, "~", "\r\n")); }
     [[nodiscard]] std::string file() const { return Replace(get("ALLFILES.DIR"), "\r\n", "~"); }
-    int mark(const std::string& pdf, std::string_view change = "") {
-        return index.markDownloaded(day.gDayFolder, pdf, change);
+    void mark(const std::string& pdf, const std::string& change = "") {
+        index.markDownloaded(day.gDayFolder, std::vector{ArrivedClipping{pdf, change}});
     }
 
     DayIndex index{files};
@@ -66,37 +68,41 @@ TEST_F(IndexTest, marksAClippingAndEndsTheFileWithAnEmptyLine) {
                                              {"a||-||~XA||-||~", "a||-||~XA||-||~~"},
                                              {"", "~"}}) {
         file(before);
-        EXPECT_EQ(mark("A"), static_cast<int>(Split(after, "A||").size()) - 1 - (after[0] == 'a')) << before;
-        EXPECT_EQ(file(), after);
+        mark("A");
+        EXPECT_EQ(file(), after) << before;
     }
-    file("A||-||~B||-||~");
-    mark("A");
-    mark("B");
-    EXPECT_EQ(file(), "A||d||~B||d||~~");
-    file("A||N||T||C||Y||1||-||9~B||-||~");  // another version of A has come
-    mark("A", "2");
-    mark("B");
-    EXPECT_EQ(file(), "A||N||T||C||Y||2||d||9~B||d||~~");
-    file("C||-||1~D||-||~");  // somebody else has changed it
-    EXPECT_EQ(mark("C"), 1);
-    EXPECT_EQ(file(), "C||d||1~D||-||~~");
+    file("A||N||T||C||Y||1||-||9~B||-||~C||-||~");  // another version of A has come
+    index.markDownloaded(day.gDayFolder, std::vector<ArrivedClipping>{{"A", "2"}, {"B", ""}});
+    EXPECT_EQ(file(), "A||N||T||C||Y||2||d||9~B||d||~C||-||~~");
 }
 
-TEST_F(IndexTest, forgetsAMarkThatDidNotReachTheFile) {
-    file("A||-||~B||-||~");
-    // First the whole file cannot be written, then one byte of it.
-    for (const auto& [kept, next, after] :
-         {std::tuple{"A||-||~B||-||~", "B", "A||-||~B||d||~~"}, {"A||-||~B||d||~~", "A", "A||d||~B||d||~~"}}) {
-        files.Trouble = "ALLFILES";
-        EXPECT_THROW(mark("A"), RunTimeError);
-        EXPECT_EQ(file(), kept);
-        files.Trouble.clear();
-        mark(next);
-        EXPECT_EQ(file(), after);
-    }
+TEST_F(IndexTest, leavesAnIndexAsItIsThatCannotBeReplaced) {
+    file("A||-||~");
+    files.Trouble = "ALLFILES";
+    EXPECT_THROW(mark("A"), RunTimeError);
+    EXPECT_EQ(file(), "A||-||~");
+    files.Trouble.clear();
     files.DeleteFile(day.gDayFolder + "ALLFILES.DIR");
     EXPECT_THROW(mark("A"), RunTimeError);
     EXPECT_FALSE(has("ALLFILES.DIR"));
+}
+
+TEST_F(IndexTest, ofTwoProgramsNoneLosesTheMarksOfTheOther) {
+    std::string open, marked;
+    for (const char name : std::string("abcdefghijklmnopqrstABCDEFGHIJKLMNOPQRST")) {
+        open += name + std::string("||-||~");
+        marked += name + std::string("||d||~");
+    }
+    file(open);
+    for (const char first : {'a', 'A'})
+        if (const pid_t program = fork(); program == 0) {
+            for (char name = first; name < first + 20; ++name)
+                mark({name});
+            _exit(0);
+        }
+    for (int status = -1; wait(&status) > 0;)
+        EXPECT_EQ(status, 0);
+    EXPECT_EQ(file(), marked + "~");
 }
 
 }  // namespace vell::test

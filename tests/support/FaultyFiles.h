@@ -43,10 +43,6 @@ class FaultyFiles : public PosixFiles {
         disk_->count(Needs::Room);
         PosixFiles::WriteWhole(path, bytes, durability);
     }
-    void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
-        disk_->count(Needs::Nothing);
-        PosixFiles::ReplaceByte(path, offset, byte);
-    }
     std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
         disk_->count(Needs::Room);
         auto real = PosixFiles::OpenPart(path);

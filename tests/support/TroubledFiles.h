@@ -14,9 +14,6 @@ class TroubledFiles : public FaultyFiles {
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
         FaultyFiles::WriteWhole(checked(path), bytes, durability);
     }
-    void ReplaceByte(std::string_view path, std::int64_t offset, char byte) override {
-        FaultyFiles::ReplaceByte(checked(path), offset, byte);
-    }
     [[nodiscard]] std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
         return FaultyFiles::OpenPart(checked(path));
     }

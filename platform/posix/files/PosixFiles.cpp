@@ -7,6 +7,7 @@
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/statvfs.h>
@@ -26,6 +27,8 @@ namespace vell {
 namespace {
 
 constexpr std::chrono::hours leftOverAfter{24};
+// A writer holds a lock for as long as a small file takes to the disk.
+constexpr std::chrono::seconds longestWait{5};
 
 // False when `entry` is not of that kind. Asks the file itself only where its folder does not tell enough.
 bool describe(const FolderReader& folder, const dirent& entry, Files::Kind kind, Files::Entry& description) {
@@ -139,16 +142,6 @@ void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durab
     });
 }
 
-void PosixFiles::ReplaceByte(std::string_view path, std::int64_t offset, char byte) {
-    const auto place = locate(path);
-    FileHandle file = openToWrite(place, 0);
-    struct stat found {};
-    if (fstat(file.get(), &found) != 0) raiseFileError(place);
-    if (offset < 0 || offset >= found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
-    if (pwrite(file.get(), &byte, 1, offset) != 1) raiseFileError(place);
-    file.close(place);
-}
-
 void PosixFiles::Append(std::string_view path, std::string_view bytes) {
     const auto place = locate(path);
     mayMake(place, [&] {
@@ -176,6 +169,19 @@ std::unique_ptr<PartFile> PosixFiles::OpenPart(std::string_view path) {
     mayMake(place, [&] { part = PosixPartFile::open(*this, place); });
     clearFolderOf(place);  // not before: its lock keeps an old part that is to be gone on with
     return part;
+}
+
+// An empty part: nobody lists it, and it goes with its owner, however that ends.
+std::unique_ptr<PartFile> PosixFiles::Lock(std::string_view path) {
+    const std::size_t name = InStrRev(path, "\\") + 1;
+    const std::string beside = std::string(Left(path, name - 1)) + '.' + std::string(Mid(path, name)) + ".lock.part";
+    const auto end = std::chrono::steady_clock::now() + longestWait;
+    while (true) {
+        if (auto part = OpenPart(beside)) return part;
+        if (std::chrono::steady_clock::now() > end)
+            throw RunTimeError(error_number::PermissionDenied, "Permission denied: " + beside);
+        std::this_thread::sleep_for(std::chrono::milliseconds{2});
+    }
 }
 
 void PosixFiles::Flush(std::string_view folder) {

@@ -3,7 +3,6 @@
 
 #include <chrono>
 #include <cstdlib>
-#include <thread>
 #include <utility>
 
 #include "base/errors.h"
@@ -36,9 +35,6 @@ class Restored {
     Value before_;
 };
 
-// A writer holds the lock for as long as a small file takes to the disk.
-constexpr std::chrono::seconds longestWait{5};
-
 void refuseLineEnd(std::string_view text) {
     if (text.find_first_of("\r\n") != std::string_view::npos)
         throw RunTimeError(error_number::InvalidCall, "Invalid procedure call or argument");
@@ -70,7 +66,7 @@ void PosixIniFile::ReadAtOnce(std::string_view file, const std::function<void()>
 }
 
 void PosixIniFile::Update(std::string_view file, const std::function<std::vector<IniEdit>()>& edits) {
-    const auto locked = lock(file);
+    const auto lock = files_.Lock(file);
     const IniText before = text(file);
     IniText edited = before;
     {
@@ -83,19 +79,6 @@ void PosixIniFile::Update(std::string_view file, const std::function<std::vector
     files_.MakePrivateFile(file);
     files_.WriteWhole(file, edited.bytes(), Durability::Flushed);
     if (const auto stamp = files_.Stamp(file)) remember(file, *stamp, std::move(edited));
-}
-
-// An empty part: nobody lists it, and it goes with its owner, however that ends.
-std::unique_ptr<PartFile> PosixIniFile::lock(std::string_view file) {
-    const std::size_t name = InStrRev(file, "\\") + 1;
-    const std::string path = std::string(Left(file, name - 1)) + '.' + std::string(Mid(file, name)) + ".lock.part";
-    const auto end = std::chrono::steady_clock::now() + longestWait;
-    while (true) {
-        if (auto part = files_.OpenPart(path)) return part;
-        if (std::chrono::steady_clock::now() > end)
-            throw RunTimeError(error_number::PermissionDenied, "Permission denied: " + path);
-        std::this_thread::sleep_for(std::chrono::milliseconds{2});
-    }
 }
 
 const IniText& PosixIniFile::text(std::string_view file) const {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <map>
-#include <memory>
 
 #include "platform/Files.h"
 #include "platform/IniFile.h"
@@ -35,8 +34,6 @@ class PosixIniFile : public IniFile {
         const IniText* Text = nullptr;
     };
 
-    // Holds off other writers while it lives. Raises when one has not done its work for seconds.
-    [[nodiscard]] std::unique_ptr<PartFile> lock(std::string_view file);
     // The file as it is now; an empty text when there is none. Raises when it cannot be read.
     const IniText& text(std::string_view file) const;
     const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
