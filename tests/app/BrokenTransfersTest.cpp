@@ -3,18 +3,19 @@
 
 #include <gmock/gmock.h>
 
+#include "store/PartName.h"
 #include "tests/app/EitherProtocolRig.h"
 
 namespace vell::test {
 
-using testing::HasSubstr, testing::SizeIs;
+using testing::HasSubstr, testing::Le, testing::SizeIs;
 
 class BrokenTransfersTest : public testing::Test, protected EitherProtocolRig {
   protected:
     // A run in which N120040307.PDF, over an old file of that content or over none (""), does not come as the list
     // says.
     void expectFailure(const std::string& old, const std::string& kept, const std::string& told,
-                       std::size_t parts = 0) {
+                       std::size_t mostParts = 0) {
         SCOPED_TRACE(told + " over '" + old + "'");
         std::filesystem::remove_all(folder.path() / "clips/07032004");
         std::filesystem::remove(folder.path() / "vell.log");
@@ -24,7 +25,8 @@ class BrokenTransfersTest : public testing::Test, protected EitherProtocolRig {
         EXPECT_THAT(logged(), HasSubstr(told));
         EXPECT_EQ(program.downloads().outcome().FilesFailed, 1);
         EXPECT_THAT(Split(inDay("ALLFILES.DIR"), "||d||"), SizeIs(2));
-        EXPECT_THAT(files.Enumerate(folder.text() + "/clips/07032004", ".*", Files::Kind::Files), SizeIs(parts));
+        EXPECT_THAT(files.Enumerate(folder.text() + "/clips/07032004", ".*", Files::Kind::Files),
+                    SizeIs(Le(mostParts)));
     }
 
     const std::string pdf = "N120040307.PDF", whole = std::string(1500, '1'),
@@ -64,8 +66,9 @@ TEST_F(BrokenTransfersTest, overFtpDoTheSameButWhatMayBeGoneOnWithStays) {
     expectFailure("old", "old", "FTP-->426 ", 1);
     expectFailure("", "", "FTP-->426 ", 1);
     root.put("badness", "dies");
-    expectFailure("old", "old", "FTP-->REST 1000\n", 1);
+    expectFailure("old", "old", "Retrying 1/1 " + pdf + " (Starting from 3 bytes)\nFTP-->Resolving host...", 1);
     root.put("badness", "forgets");
+    folder.put("clips/07032004/" + partName(pdf, "1"), whole.substr(0, 1000));
     EXPECT_TRUE(runToday()) << "the part was dropped, and the next attempt fetched the whole file";
     EXPECT_EQ(inDay(pdf), whole);
     EXPECT_THAT(logged(), HasSubstr(cameWith + "2500" + listed));
