@@ -11,7 +11,6 @@ namespace {
 
 using namespace std::string_literals;
 using testing::ContainsRegex;
-using testing::StartsWith;
 
 class DemoFtpTest : public testing::Test {
   protected:
