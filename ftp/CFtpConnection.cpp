@@ -158,15 +158,18 @@ bool CFtpConnection::CreateDirectory(std::string_view name) {
 bool CFtpConnection::downloadFile(std::string_view remoteName, std::string_view localPath, std::int32_t startOffset) {
     return operation<bool>("downloadFile()", {remoteName}, [&] {
         Files& disk = context_.Services.Disk;
-        std::unique_ptr<OutputFile> file;
+        std::unique_ptr<PartFile> file;
         // Only when the server has accepted: a file that it refuses to send leaves the old one as it is.
         const auto open = [&]() -> OutputFile& {
             if (startOffset == 0 && disk.PathExists(localPath)) disk.DeleteFile(localPath);
-            file = disk.OpenForWriting(localPath, startOffset);
+            file = disk.OpenPart(localPath);
+            if (!file) throw RunTimeError(error_number::PermissionDenied, "Permission denied: a file in use");
+            file->StartAt(startOffset);
             return *file;
         };
-        if (!receive(remoteName, open, startOffset, {})) return false;
-        file->Close();
+        const bool received = receive(remoteName, open, startOffset, {});
+        if (file) file->Close();  // which keeps an empty one, too
+        if (!received) return false;
         context_.Events.StateChanged(FtpState::TransferFinished);
         return true;
     });

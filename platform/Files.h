@@ -85,11 +85,9 @@ class Files {
     virtual void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) = 0;
     // Makes the file when it is missing.
     virtual void Append(std::string_view path, std::string_view bytes) = 0;
-    // Opens for writing from `offset` on (0 to the file's length) and cuts off what lies behind it; makes the file
-    // when it is missing.
-    [[nodiscard]] virtual std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) = 0;
     // Opens a part, and makes it when it is missing; null when another writer has it. Its name begins with a dot and
-    // ends with ".part". Parts that nobody has written for a day are removed from a folder when it is first written to.
+    // ends with ".part"; a file of another name is written in place. Parts that nobody has written for a day are
+    // removed from a folder when it is first written to.
     [[nodiscard]] virtual std::unique_ptr<PartFile> OpenPart(std::string_view path) = 0;
     // For who reads a file, changes what it read and replaces the file by it: holds off everybody else who asks for the
     // file's lock, in whatever process or on whatever machine, while what is returned lives, which is never null.

@@ -123,7 +123,6 @@ TEST_F(PosixFilesTest, failuresCarryTheProgramsNumberAndThePathAsItWasGiven) {
         {error_number::BadFileName, [&] { files_.MakeFolder(at("a\nb")); }},
         {error_number::BadFileName, [&] { (void)files_.ReadFile(at(std::string(300, 'a'))); }},
         {error_number::DiskFull, [&] { files_.Append("\\dev\\full", "x"); }},
-        {error_number::DiskFull, [&] { files_.OpenForWriting("\\dev\\full", 0)->Write(std::string(100'000, 'x')); }},
     };
     int line = 0;
     for (const auto& [number, operation] : cases)
@@ -210,7 +209,6 @@ TEST_F(PosixFilesTest, onlyWhatDoesNotExistIsTakenForAbsentAndAPipeForNoFile) {
     EXPECT_TRUE(files_.PathExists(at("loop")));
     EXPECT_EQ(errorOf([&] { (void)files_.FileSize(at("loop")); }).LastSystemError, ELOOP);
     EXPECT_EQ(errorOf([&] { (void)files_.Stamp(at(std::string(300, 'a'))); }).Number, error_number::BadFileName);
-    EXPECT_EQ(errorOf([&] { (void)files_.OpenForWriting(at("pipe"), 0); }).LastSystemError, ENXIO);
     const int reader = open((folder_.path() / "pipe").c_str(), O_RDONLY | O_NONBLOCK);
     EXPECT_EQ(errorOf([&] { files_.Append(at("pipe"), "x"); }).Number, error_number::PathAccess);
     close(reader);
@@ -242,20 +240,6 @@ TEST_F(PosixFilesTest, replacingAFileKeepsItsPermissionsAndTheLinkToIt) {
     EXPECT_EQ(std::filesystem::status(folder_.path() / "private").permissions(), std::filesystem::perms{0600});
     EXPECT_EQ(folder_.get("real"), "new");
     EXPECT_EQ(entriesOnDisk(), 3u);
-}
-
-TEST_F(PosixFilesTest, aTransferGoesOnAtItsOffset) {
-    folder_.put("a.pdf", "0123456789");
-    {
-        const auto file = files_.OpenForWriting(at("A.PDF"), 4);
-        file->Write("abc");
-    }
-    EXPECT_EQ(folder_.get("a.pdf"), "0123abc");
-    const auto file = files_.OpenForWriting(at("A.PDF"), 0);
-    file->Close();
-    file->Close();
-    EXPECT_EQ(files_.FileSize(at("A.PDF")), 0);
-    EXPECT_EQ(errorOf([&] { (void)files_.OpenForWriting(at("A.PDF"), 1); }).Number, error_number::InvalidCall);
 }
 
 TEST_F(PosixFilesTest, freeBytesAreThoseOfTheNearestFolderThatExists) {

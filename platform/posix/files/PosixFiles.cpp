@@ -17,7 +17,6 @@
 #include "platform/posix/files/FolderReader.h"
 #include "platform/posix/files/LeftoverParts.h"
 #include "platform/posix/files/NamePattern.h"
-#include "platform/posix/files/PosixOutputFile.h"
 #include "platform/posix/files/PosixPartFile.h"
 #include "platform/posix/files/WholeFile.h"
 #include "platform/posix/files/paths.h"
@@ -149,18 +148,6 @@ void PosixFiles::Append(std::string_view path, std::string_view bytes) {
         file.writeAll(bytes, place);
         file.close(place);
     });
-}
-
-std::unique_ptr<OutputFile> PosixFiles::OpenForWriting(std::string_view path, std::int64_t offset) {
-    const auto place = locate(path);
-    FileHandle file;
-    mayMake(place, [&] { file = openToWrite(place, O_CREAT); });
-    struct stat found {};
-    if (fstat(file.get(), &found) != 0) raiseFileError(place);
-    if (offset < 0 || offset > found.st_size) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
-    if (S_ISREG(found.st_mode) && ftruncate(file.get(), offset) != 0) raiseFileError(place);
-    if (lseek(file.get(), offset, SEEK_SET) < 0) raiseFileError(place);
-    return std::make_unique<PosixOutputFile>(std::move(file), place);
 }
 
 std::unique_ptr<PartFile> PosixFiles::OpenPart(std::string_view path) {

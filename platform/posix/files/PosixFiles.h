@@ -25,7 +25,6 @@ class PosixFiles : public Files {
     // Keeps the permissions of a file that it replaces.
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override;
     void Append(std::string_view path, std::string_view bytes) override;
-    [[nodiscard]] std::unique_ptr<OutputFile> OpenForWriting(std::string_view path, std::int64_t offset) override;
     [[nodiscard]] std::unique_ptr<PartFile> OpenPart(std::string_view path) override;
     [[nodiscard]] std::unique_ptr<PartFile> Lock(std::string_view path) override;
     void Flush(std::string_view folder) override;
