@@ -11,6 +11,7 @@
 #include "service/ListAnswer.h"
 #include "service/ListMerge.h"
 #include "service/RunFeedback.h"
+#include "service/WebPage.h"
 #include "service/modHTTP.h"
 #include "store/ClippingName.h"
 #include "store/DayState.h"
@@ -139,6 +140,10 @@ bool DownloadList::GetAlert() {
             return false;
         const std::string_view alert = Trim(body);
         if (alert.empty()) return false;
+        if (isWebPage(alert)) {
+            p_.Log.WriteLog("        A web page came in place of the alert.");
+            return false;
+        }
         p_.Disk.WriteWhole(p_.Day.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",
                            Durability::Rename);
         return true;

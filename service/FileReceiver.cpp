@@ -3,6 +3,7 @@
 
 #include <limits>
 
+#include "base/text.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
 #include "service/RunFeedback.h"
@@ -69,7 +70,8 @@ bool FileReceiver::write(const std::string& localPath, PartFile& part, std::stri
 
 bool FileReceiver::makeSureOfSpace(const std::string& localPath, std::int64_t bytes) {
     if (isNetworkPath(localPath)) return true;
-    while (!HasFreeSpace(localPath, bytes))
+    // Of the folder: a link in the file's place leads elsewhere, and is replaced.
+    while (!HasFreeSpace(Left(localPath, InStrRev(localPath, "\\")), bytes))
         if (!wantsRetry(localPath, bytes)) return false;
     return true;
 }

@@ -16,6 +16,8 @@ namespace {
 constexpr int refusedLogin = 1001;
 constexpr int nothingForTheDay = 1002;
 constexpr std::size_t shownOfRecord = 80;
+// A busy day has some hundred clippings; what each costs in memory is several times its record.
+constexpr std::size_t mostRecords = 100'000;
 
 std::string lineBreaksMade(std::string_view answer) {
     std::string text;
@@ -80,6 +82,7 @@ class ListReader {
         if (std::ranges::any_of(record, isControl)) return refuse("it holds control characters");
         if (fieldsOfLast_ < fewestIndexFields) return refuse("it holds what is no record");
         if (fieldsOfFirst_ == 0) fieldsOfFirst_ = fieldsOfLast_;
+        if (answer_.Records.size() + answer_.Dropped.size() >= mostRecords) return refuse("it has too many records");
         const std::string_view name = indexKey(record);
         if (!isClippingName(name))
             answer_.Dropped.emplace_back(record.substr(0, shownOfRecord));

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "app/run/FileTransfer.h"
 
-#include <algorithm>
-#include <array>
 #include <chrono>
 
 #include "app/Session.h"
@@ -10,6 +8,7 @@
 #include "base/text.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
+#include "service/WebPage.h"
 #include "service/modHTTP.h"
 #include "store/IndexFile.h"
 #include "store/PartName.h"
@@ -32,19 +31,6 @@ bool isAdvertisement(const DownloadEntry& entry) {
 // Does the list say how long the file is? The advertisement's size is a guess.
 bool hasSize(const DownloadEntry& entry) {
     return entry.Size > 0 && !isAdvertisement(entry);
-}
-
-// What the login page of a wireless network answers in place of any file.
-bool isWebPage(const PartFile& part) {
-    constexpr std::size_t lookedAt = 512;
-    constexpr std::array<std::string_view, 2> beginnings{"<!DOCTYPE HTML", "<HTML"};
-    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    const std::string beginning = part.Beginning(lookedAt);
-    std::string_view text = beginning;
-    if (text.starts_with(byteOrderMark)) text.remove_prefix(byteOrderMark.size());
-    text.remove_prefix(std::min(text.find_first_not_of(" \t\r\n"), text.size()));
-    return std::ranges::any_of(beginnings,
-                               [&](std::string_view one) { return equalNoCase(Left(text, one.size()), one); });
 }
 
 }  // namespace
@@ -118,7 +104,8 @@ std::int64_t FileTransfer::startOffset(const DownloadEntry& entry, const std::st
 
 // A complete answer has come. Is it the file?
 bool FileTransfer::take(const DownloadEntry& entry, const std::string& path, PartFile& part, Attempt attempt) {
-    if (isWebPage(part)) {
+    constexpr std::size_t enoughToTell = 512;
+    if (isWebPage(part.Beginning(enoughToTell))) {
         p_.Log.WriteLog("        A web page came in place of " + entry.FileName + ".");
         part.Discard();
         return false;

@@ -91,6 +91,7 @@ TEST_F(CurlInternetTest, tellsWholeAnswersFromBrokenOnes) {
     for (const Row& row : std::initializer_list<Row>{
              {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n12345", "12345"},
              {"HTTP/1.0 200 OK\r\nContent-Length: 10\r\n\r\n", ""},
+             {"HTTP/1.0 200 OK\r\nContent-Le", ""},
              {"HTTP/1.0 200 OK\r\n\r\n12345", "12345", true},
              {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n0\r\n\r\n", "abc", true},
              {"HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n3\r\nabc\r\n", "abc"},

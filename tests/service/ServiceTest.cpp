@@ -205,10 +205,13 @@ TEST_F(ServiceTest, asksForTheDayAndStoresWhatTheServiceLists) {
 
 TEST_F(ServiceTest, changesNothingForAnAnswerThatIsNoList) {
     const std::string old = "A.PDF||N||T||C||Y||1||d\r\n\r\n", record = "A.PDF||N||T||C||Y||1||-||";
+    std::string endless = record;
+    for (int i = 0; i < 100'000; ++i)
+        endless += "<br>" + std::to_string(i) + record;
     put("A.PDF", "x");
     put("ALLFILES.DIR", old);
     for (const std::string& answer :
-         {HttpPeer::ok("<html><br>log in</html>").Bytes, HttpPeer::ok("c:x||||||||").Bytes,
+         {HttpPeer::ok(endless).Bytes, HttpPeer::ok("<html><br>log in</html>").Bytes, HttpPeer::ok("c:x||||||||").Bytes,
           HttpPeer::ok(record + "<br>B.PDF||N||T||C||Y").Bytes, "HTTP/1.0 500 No\r\n\r\n" + record,
           "HTTP/1.0 200 OK\r\nContent-Length: 99\r\n\r\n" + record, std::string()}) {
         service.Answers[ServicePeer::listScript] = {answer};
@@ -272,6 +275,7 @@ TEST_F(ServiceTest, storesTheAlertOnlyWhenThereIsOne) {
     const std::tuple<HttpPeer::Answer, bool, std::string> table[] = {
         {HttpPeer::ok("  Strike \xE1\r\ntoday "), true, "Strike \xE1\r\ntoday\r\n"},
         {HttpPeer::ok("   "), false, "old"},
+        {HttpPeer::ok("<?xml version='1.0'?>\r\n<html>Log in"), false, "old"},
         {HttpPeer::status("404 Not Found", "", "x"), false, "old"}};
     for (const auto& [answer, result, stored] : table) {
         put("ALERT.MSG", "old");

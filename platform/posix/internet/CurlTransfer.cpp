@@ -152,7 +152,9 @@ std::size_t CurlTransfer::take(char* target, std::size_t most) {
 }
 
 void CurlTransfer::end(CURLcode result) {
-    result_ = refused_ ? internet_error::RedirectFailed : errorOf(result);
+    // To the library an answer that breaks off among its headers is one without a body.
+    const bool isCut = result == CURLE_OK && !headersEnded_;
+    result_ = refused_ ? internet_error::RedirectFailed : isCut ? internet_error::ConnectionAborted : errorOf(result);
 }
 
 std::int64_t CurlTransfer::announcedLength() const {
@@ -193,6 +195,7 @@ std::size_t CurlTransfer::onHeader(const char* bytes, std::size_t size, std::siz
     if (line.starts_with("HTTP/")) self->headers_.clear();  // what came before was a redirect or a challenge
     while (line.ends_with('\n') || line.ends_with('\r'))
         line.remove_suffix(1);
+    self->headersEnded_ = line.empty();
     if (!line.empty() && self->headers_.size() + line.size() < mostHeaders) self->headers_.append(line).append("\r\n");
     self->refused_ = !self->mayFollow(line);
     return self->refused_ ? 0 : size * count;

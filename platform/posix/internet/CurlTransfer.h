@@ -84,6 +84,7 @@ class CurlTransfer {
     std::unique_ptr<curl_slist, ListDeleter> headerList_;  // the handle uses it to its end
     std::unique_ptr<CURL, EasyDeleter> easy_;
     std::string headers_;
+    bool headersEnded_ = false;
     ByteQueue buffer_;
     bool paused_ = false;
     std::optional<std::int32_t> result_;
