@@ -40,7 +40,8 @@ class ClippingBooks {
     void close();
     // The attempts at a file have ended. The files of a clipping come as PDF, TXT, MT; the last one closes it.
     void enter(const DownloadEntry& entry, bool ok);
-    // `before`: the length that the file had before its turn. One that has it still is no news.
+    // A file has come that is what the list says. `before`: the length that the file had before its turn. One that has
+    // it still is no news.
     void printWhenNew(const std::string& name, std::int64_t before);
 
   private:

@@ -42,7 +42,7 @@ bool FileTurns::take(std::int32_t index) {
     p_.Log.WriteLog(statusLine(ok));
     p_.Browser.refreshDuringRun();
     p_.Loop.DoEvents();
-    p_.Books.printWhenNew(name, turn.Start);
+    if (ok) p_.Books.printWhenNew(name, turn.Start);
     return ok;
 }
 

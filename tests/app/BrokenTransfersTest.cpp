@@ -8,7 +8,7 @@
 
 namespace vell::test {
 
-using testing::HasSubstr, testing::Le, testing::SizeIs;
+using testing::HasSubstr, testing::Le, testing::Not, testing::SizeIs;
 
 class BrokenTransfersTest : public testing::Test, protected EitherProtocolRig {
   protected:
@@ -22,6 +22,7 @@ class BrokenTransfersTest : public testing::Test, protected EitherProtocolRig {
         if (!old.empty()) folder.put("clips/07032004/" + pdf, old);
         EXPECT_FALSE(runToday());
         EXPECT_EQ(inDay(pdf), kept);
+        EXPECT_THAT(logged(), Not(HasSubstr("Printing " + pdf)));
         EXPECT_THAT(logged(), HasSubstr(told));
         EXPECT_EQ(program.downloads().outcome().FilesFailed, 1);
         EXPECT_THAT(Split(inDay("ALLFILES.DIR"), "||d||"), SizeIs(2));
@@ -36,6 +37,7 @@ class BrokenTransfersTest : public testing::Test, protected EitherProtocolRig {
 
 TEST_F(BrokenTransfersTest, overHttpTakeNoOnesPlaceAndAreKeptOnlyWhereThereIsNone) {
     ASSERT_TRUE(serveOver("HTTP", 2));
+    folder.put("vell.ini", folder.get("vell.ini") + "PrintOnDownload=1\r\n");
     HttpPeer::Answer& answer = service.Answers[ServicePeer::pathOf(pdf)];
     answer = HttpPeer::ok("short");
     expectFailure("old", "old", cameWith + "5" + listed);
