@@ -53,6 +53,7 @@ bool Articles::ShellExec(const std::string& file, const std::string& parameters)
         const std::string reason = shell_.LastReason();
         loop_.DoEvents();
         if (result > shell_code::LastFailure) return true;
+        isPrinterSilent_ = batches_ > 0 && result == shell_code::DdeTimeout;
         tell(message, result, reason);
         return false;
     });
@@ -71,7 +72,7 @@ bool Articles::PrintArticle(const std::string& path) {
         if (InStr(Upper(path), ".PDF") == 0) return false;
         const std::string quoted = "\"" + path + "\"";
         log_.WriteLog("        Acrord32.exe /p /h " + quoted);
-        const bool printed = ShellExec("Acrord32.exe", " /p /h " + quoted);
+        const bool printed = !isPrinterSilent_ && ShellExec("Acrord32.exe", " /p /h " + quoted);
         log_.WriteLog(std::string("        Status:").append(BooleanText(printed)));
         return printed;
     } catch (...) {

@@ -24,12 +24,14 @@ class Articles {
     bool PrintArticle(const std::string& path);
 
     // Several articles are printed one after another: while this lives, a reason that keeps the printer from taking
-    // any of them is told once. The log has it each time.
+    // any of them is told once, and one that did not answer is not waited for again. The log has it each time.
     class Batch {
       public:
         explicit Batch(Articles& articles) : articles_(articles) { ++articles_.batches_; }
         ~Batch() {
-            if (--articles_.batches_ == 0) articles_.toldReason_.clear();
+            if (--articles_.batches_ > 0) return;
+            articles_.toldReason_.clear();
+            articles_.isPrinterSilent_ = false;
         }
         Batch(const Batch&) = delete;
         Batch& operator=(const Batch&) = delete;
@@ -47,7 +49,8 @@ class Articles {
     EventLoop& loop_;
     EventLog& log_;
     int batches_ = 0;
-    std::string toldReason_;  // of the batch
+    std::string toldReason_;        // of the batch
+    bool isPrinterSilent_ = false;  // in the batch
 };
 
 }  // namespace vell

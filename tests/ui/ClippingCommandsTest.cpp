@@ -155,6 +155,11 @@ TEST_F(ClippingCommandsTest, printsAllWithPausesAfterAQuestionAndMarksThem) {
         EXPECT_THAT(boxes.Shown, ElementsAre(testing::_, testing::HasSubstr("/p /h"))) << again;
         EXPECT_THAT(boxes.Shown.back(), testing::EndsWith("'.\r\nThere is no printer."));
     }
+    asked();
+    shell.Result = 28;  // no answer, for which each document would wait
+    boxes.Answers = {Answer::Yes};
+    printing.mnuPrintAll_Click();
+    EXPECT_THAT(asked(), ElementsAre("A.PDF"));
 }
 
 TEST_F(ClippingCommandsTest, aBatchStopsBeforeTheNextDocument) {
