@@ -83,7 +83,8 @@ wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
     dates_ = new DatePane(&parent, [this](const Date& day) { tell(events_.DayChosen, day); });
     download_ = new ForcedDownloadPane(&parent, {[this](bool onlyToday) { tell(events_.RangeChosen, onlyToday); },
                                                  [this](const Date& from) { tell(events_.FromDateChanged, from); },
-                                                 [this](const Date& to) { tell(events_.ToDateChanged, to); }});
+                                                 [this](const Date& to) { tell(events_.ToDateChanged, to); },
+                                                 [this](const std::string& text) { tell(events_.DayMistyped, text); }});
     progress_ = new ProgressPane(&parent);
     alert_ = new AlertPanel(&parent);
     advertisement_ = new Advertisement(&parent, files);
@@ -190,8 +191,8 @@ bool MainWindow::offersStop() const {
     return download_->isRunning();
 }
 
-void MainWindow::takeTypedDays() {
-    download_->takeTyped();
+bool MainWindow::takeTypedDays() {
+    return download_->takeTyped();
 }
 
 void MainWindow::placeWindow(const WindowPlace& place) {

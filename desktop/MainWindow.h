@@ -41,7 +41,7 @@ class MainWindow : public wxFrame, public MainView {
     // Stop is there to be pressed, which it also is after a download that could not begin.
     [[nodiscard]] bool offersStop() const;
     // The days that the user is typing count from now on.
-    void takeTypedDays();
+    bool takeTypedDays();
 
     void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override;
     void showClippings(const std::vector<ClippingRow>& rows) override;

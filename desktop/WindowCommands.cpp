@@ -38,6 +38,7 @@ void WindowCommands::listen() {
         .RangeChosen = [this](bool onlyToday) { program_.downloads().chooseOnlyToday(onlyToday); },
         .FromDateChanged = [this](const Date& from) { program_.downloads().dtFromDate_Change(from); },
         .ToDateChanged = [this](const Date& to) { program_.downloads().dtToDate_Change(to); },
+        .DayMistyped = [this](const std::string& text) { program_.downloads().typedNoDay(text); },
         .SetupWanted = [this] { setUpAndWait(); },
         .Closing = [this](bool mayBeRefused) { closing(mayBeRefused); },
     });
@@ -127,10 +128,10 @@ void WindowCommands::showAbout() {
                                   [this, address] { program_.reading().Opening.openAddress(address); }));
 }
 
-// A key or a tool takes the keyboard from no entry: a day that was typed is not yet known.
+// A key or a tool takes the keyboard from no entry: a day that was typed is not yet known. Other days than the typed
+// ones are not fetched.
 void WindowCommands::download() {
-    window_.takeTypedDays();
-    program_.downloads().mnuForceDownload_Click();
+    if (window_.takeTypedDays()) program_.downloads().mnuForceDownload_Click();
 }
 
 void WindowCommands::commandChosen(int id) {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <string>
 
 #include "base/Date.h"
 
@@ -22,6 +23,7 @@ struct WindowEvents {
     std::function<void(bool onlyToday)> RangeChosen;
     std::function<void(const Date& from)> FromDateChanged;
     std::function<void(const Date& to)> ToDateChanged;
+    std::function<void(const std::string& text)> DayMistyped;
 
     // A run cannot go on without other settings; returns when the user has been through them.
     std::function<void()> SetupWanted;

@@ -47,6 +47,10 @@ void Downloads::dtToDate_Change(const Date& to) {
     showRange();
 }
 
+void Downloads::typedNoDay(std::string_view text) {
+    p_.View.displayInfoMessageBox("'" + std::string(text) + "' is no day of the calendar. Write a day as dd/mm/yyyy.");
+}
+
 void Downloads::showRange() {
     p_.View.showDateRange(dtFromDate_, dtToDate_);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include "app/RunContext.h"
 #include "base/Date.h"
@@ -41,6 +42,8 @@ class Downloads {
     // The user has changed one end of the range. A From behind the To is refused with a message.
     void dtFromDate_Change(const Date& from);
     void dtToDate_Change(const Date& to);
+    // What the user has typed for one end is told to be no day.
+    void typedNoDay(std::string_view text);
 
     // Fetches today's day, or the days of the range one after the other. The outcome tells how it went.
     void mnuForceDownload_Click();

@@ -11,9 +11,9 @@
 
 namespace vell {
 
-DayPicker::DayPicker(wxWindow* parent, const wxString& name, std::function<void(const Date&)> changed)
+DayPicker::DayPicker(wxWindow* parent, const wxString& name, Events events)
     : wxComboCtrl(parent, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxTE_PROCESS_ENTER),
-      changed_(std::move(changed)),
+      events_(std::move(events)),
       calendar_(new CalendarPopup([this](const Date& day) { take(day); })) {
     SetPopupControl(calendar_);
     setAccessibleName(*GetTextCtrl(), name);
@@ -34,15 +34,19 @@ void DayPicker::show(const Date& day) {
 void DayPicker::take(const Date& day) {
     if (day == day_) return;
     show(day);
-    changed_(day);
+    events_.Changed(day);
 }
 
-void DayPicker::takeTyped() {
-    const auto typed = Date::fromDayName(typedText(GetValue().Strip(wxString::both)));
-    if (typed)
+bool DayPicker::takeTyped() {
+    const std::string text = typedText(GetValue().Strip(wxString::both));
+    const auto typed = Date::fromDayName(text);
+    if (typed) {
         take(*typed);
-    else
+    } else {
         show(day_);
+        events_.Mistyped(text);
+    }
+    return typed == day_;
 }
 
 void DayPicker::onKey(wxKeyEvent& event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <wx/combo.h>
 
@@ -15,18 +16,22 @@ class CalendarPopup;
 // does, which for some is the month first: beside the date list such a day would be read wrongly.
 class DayPicker : public wxComboCtrl {
   public:
-    // `changed` is called when the user has changed the day, not by `show`.
-    DayPicker(wxWindow* parent, const wxString& name, std::function<void(const Date&)> changed);
+    struct Events {
+        std::function<void(const Date&)> Changed;          // by the user, not by `show`
+        std::function<void(const std::string&)> Mistyped;  // code page text that is no day
+    };
+    DayPicker(wxWindow* parent, const wxString& name, Events events);
 
     void show(const Date& day);
-    // What stands there counts; what is no day becomes the last one again.
-    void takeTyped();
+    // What stands there counts; what is no day becomes the last one again. False when another day stands there now than
+    // was typed.
+    bool takeTyped();
 
   private:
     void take(const Date& day);
     void onKey(wxKeyEvent& event);
 
-    std::function<void(const Date&)> changed_;
+    Events events_;
     CalendarPopup* calendar_;
     Date day_;
 };

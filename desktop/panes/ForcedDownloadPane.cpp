@@ -36,15 +36,17 @@ ForcedDownloadPane::ForcedDownloadPane(wxWindow* parent, Events events) : wxPane
 void ForcedDownloadPane::layOut(wxPanel& inner) {
     today_ = new wxRadioButton(&inner, wxID_ANY, "&Today", wxDefaultPosition, wxDefaultSize, wxRB_GROUP);
     otherFrom_ = new wxRadioButton(&inner, wxID_ANY, "Other f&rom");
-    dtFromDate_ = new DayPicker(&inner, "From", [this](const Date& from) {
+    const auto fromChanged = [this](const Date& from) {
         chooseRange();
         events_.FromChanged(from);
-    });
-    auto* toLabel = new wxStaticText(&inner, wxID_ANY, "to");
-    dtToDate_ = new DayPicker(&inner, "To", [this](const Date& to) {
+    };
+    const auto toChanged = [this](const Date& to) {
         chooseRange();
         events_.ToChanged(to);
-    });
+    };
+    dtFromDate_ = new DayPicker(&inner, "From", {fromChanged, events_.DayMistyped});
+    auto* toLabel = new wxStaticText(&inner, wxID_ANY, "to");
+    dtToDate_ = new DayPicker(&inner, "To", {toChanged, events_.DayMistyped});
     cmdStartDownload_ = new wxButton(&inner, command::Start, "Start do&wnload");
     cmdStopDownload_ = new wxButton(&inner, command::Stop, "&Stop download");
     cmdStopDownload_->Hide();
@@ -83,9 +85,9 @@ void ForcedDownloadPane::showRunning(bool running) {
     Refresh();
 }
 
-void ForcedDownloadPane::takeTyped() {
-    dtFromDate_->takeTyped();
-    dtToDate_->takeTyped();
+bool ForcedDownloadPane::takeTyped() {
+    const bool fromStands = dtFromDate_->takeTyped(), toStands = dtToDate_->takeTyped();
+    return fromStands && toStands;
 }
 
 void ForcedDownloadPane::showRange(const Date& from, const Date& to) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <wx/panel.h>
 
@@ -22,13 +23,14 @@ class ForcedDownloadPane : public wxPanel {
         std::function<void(bool onlyToday)> RangeChosen;
         std::function<void(const Date& from)> FromChanged;
         std::function<void(const Date& to)> ToChanged;
+        std::function<void(const std::string& text)> DayMistyped;
     };
     ForcedDownloadPane(wxWindow* parent, Events events);
 
     void showRunning(bool running);
     [[nodiscard]] bool isRunning() const { return running_; }
-    // What stands in the pickers counts, also while the keyboard is still in one.
-    void takeTyped();
+    // What stands in the pickers counts, also while the keyboard is still in one. False when it had to be corrected.
+    bool takeTyped();
     void showRange(const Date& from, const Date& to);
 
   private:

@@ -126,6 +126,11 @@ class WindowTest(unittest.TestCase):
         window.press("Up")
         wait(lambda: is_shown(ok))
         self.assertEqual(text_of(window.find("text", "From")), TODAY.strftime("%d/%m/%Y"))
+        window.press("ctrl+a")
+        window.type("30/02/2026")
+        window.press("F9")
+        wait(lambda: "'30/02/2026' is no day of the calendar. Write a day as dd/mm/yyyy." in window.texts())
+        self.assertEqual(list(self.clips.iterdir()), [])  # other days than the typed ones are not fetched
         self.assertEqual(window.close(), 0)
 
     def test_a_long_answer_of_a_broken_service_leaves_the_window_in_shape(self):
