@@ -48,8 +48,11 @@ bool FileTurns::take(std::int32_t index) {
 
 bool FileTurns::attempt(const Turn& turn, FileTransfer::Attempt attempt) {
     const Session& state = p_.State;
-    return p_.Transfer.adownloadFile(turn.Entry, turn.IsAdvertisement ? state.gAppPath : state.Run.Day.gDayFolder,
-                                     attempt);
+    p_.Progress.attemptBegins();
+    const bool ok = p_.Transfer.adownloadFile(
+        turn.Entry, turn.IsAdvertisement ? state.gAppPath : state.Run.Day.gDayFolder, attempt);
+    if (!ok) p_.Progress.attemptFailed();
+    return ok;
 }
 
 bool FileTurns::retry(const Turn& turn) {

@@ -70,9 +70,17 @@ void TransferProgress::HTTPDownloadProgress(std::int32_t bytes) {
     loop_.DoEvents();
 }
 
+void TransferProgress::attemptFailed() {
+    session_.Downloads.gBytesDownloaded -= ofAttempt_;
+    session_.gLastProgressBytes = 0;
+    ofAttempt_ = 0;
+}
+
 void TransferProgress::count(std::int32_t bytes) {
     std::int32_t& last = session_.gLastProgressBytes;
-    session_.Downloads.gBytesDownloaded += last <= bytes ? bytes - last : bytes;
+    const std::int32_t came = last <= bytes ? bytes - last : bytes;
+    session_.Downloads.gBytesDownloaded += came;
+    ofAttempt_ += came;
     last = last == bytes ? 0 : bytes;
 }
 

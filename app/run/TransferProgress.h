@@ -33,6 +33,11 @@ class TransferProgress : public RunFeedback {
     void HTTPDownloadProgress(std::int32_t bytes) override;
     void openSetup() override;
 
+    // An attempt at a file has failed: its bytes come once more, and do not count twice.
+    void attemptFailed();
+    // An attempt at a file begins.
+    void attemptBegins() { ofAttempt_ = 0; }
+
     // The file of the list that is being fetched, as the status texts name it: "(clipping/clippings)".
     [[nodiscard]] std::string clippingCounter() const;
 
@@ -47,6 +52,7 @@ class TransferProgress : public RunFeedback {
     EventLog& log_;
     Pacer pacer_;
     std::string statusText_;
+    std::int64_t ofAttempt_ = 0;  // bytes that it has counted
 };
 
 }  // namespace vell

@@ -35,6 +35,11 @@ TEST_F(TransferProgressTest, followsAFileFromItsFirstByteToItsEnd) {
     report({5120, 2047});  // an attempt that breaks off, and the next one: fewer bytes begin anew
     EXPECT_EQ(session.Downloads.gBytesDownloaded, 10240 + 5120 + 2047);
     EXPECT_EQ(view.Status, "(1/3) Downloading A.PDF (1/10kb), Total kb downloaded: 16/40kb");
+    progress.attemptBegins();
+    report({2048, 9000});
+    progress.attemptFailed();
+    report({5000});
+    EXPECT_EQ(session.Downloads.gBytesDownloaded, 10240 + 5120 + 2047 + 5000);
 }
 
 TEST_F(TransferProgressTest, countsClippingsWithTheirFractionsAndTellsTheEnd) {
