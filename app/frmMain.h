@@ -6,8 +6,8 @@
 
 #include "app/Reading.h"
 #include "app/Session.h"
+#include "app/progress/TransferProgress.h"
 #include "app/run/Fetching.h"
-#include "app/run/TransferProgress.h"
 #include "config/SettingsLoader.h"
 #include "config/frmSchedule.h"
 #include "config/frmSetup.h"

@@ -14,7 +14,7 @@
 #include "platform/MessageBoxes.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/files/PosixIniFile.h"
+#include "platform/posix/files/ini/PosixIniFile.h"
 #include "platform/posix/program/SystemClock.h"
 #include "store/DayIndex.h"
 #include "store/IndexFile.h"

@@ -2,7 +2,7 @@
 #include "app/run/ClippingBooks.h"
 
 #include "app/Session.h"
-#include "app/run/TransferProgress.h"
+#include "app/progress/TransferProgress.h"
 #include "base/text.h"
 #include "platform/Files.h"
 #include "store/Articles.h"

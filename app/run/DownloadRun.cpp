@@ -3,8 +3,8 @@
 
 #include "app/MainView.h"
 #include "app/Session.h"
+#include "app/progress/TransferProgress.h"
 #include "app/run/FtpSession.h"
-#include "app/run/TransferProgress.h"
 #include "service/DownloadList.h"
 #include "store/Articles.h"
 #include "store/IndexFile.h"

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/progress/TransferProgress.h"
 #include "app/run/DownloadRun.h"
 #include "app/run/DownloadSession.h"
 #include "app/run/Downloads.h"
@@ -8,7 +9,6 @@
 #include "app/run/InternetLink.h"
 #include "app/run/RunBoxes.h"
 #include "app/run/ScheduledRuns.h"
-#include "app/run/TransferProgress.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/Platform.h"

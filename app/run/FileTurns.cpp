@@ -3,9 +3,9 @@
 
 #include "app/MainView.h"
 #include "app/Session.h"
+#include "app/progress/TransferProgress.h"
 #include "app/run/ClippingBooks.h"
 #include "app/run/RetryPause.h"
-#include "app/run/TransferProgress.h"
 #include "base/text.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "app/run/FtpProgress.h"
+#include "app/progress/FtpProgress.h"
 #include "ftp/CFtpConnection.h"
 #include "ftp/TimeoutCounter.h"
 #include "log/EventLog.h"

@@ -6,7 +6,7 @@
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/files/PosixIniFile.h"
+#include "platform/posix/files/ini/PosixIniFile.h"
 #include "platform/posix/internet/CurlInternet.h"
 #include "platform/posix/network/NetworkManagerClient.h"
 #include "platform/posix/network/PosixConnection.h"

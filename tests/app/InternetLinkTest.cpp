@@ -2,8 +2,8 @@
 #include <gmock/gmock.h>
 
 #include "app/Session.h"
+#include "app/progress/TransferProgress.h"
 #include "app/run/InternetLink.h"
-#include "app/run/TransferProgress.h"
 #include "net/CWinInetConnection.h"
 #include "net/ModRAS.h"
 #include "platform/asio/AsioEventLoop.h"

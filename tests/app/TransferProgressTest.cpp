@@ -2,7 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "app/Session.h"
-#include "app/run/TransferProgress.h"
+#include "app/progress/TransferProgress.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/StoreRig.h"
 

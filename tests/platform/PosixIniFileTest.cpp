@@ -7,7 +7,7 @@
 
 #include "base/text.h"
 #include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/files/PosixIniFile.h"
+#include "platform/posix/files/ini/PosixIniFile.h"
 #include "tests/support/TempFolder.h"
 
 namespace vell::test {

@@ -7,7 +7,7 @@
 #include "config/SettingsLoader.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
-#include "platform/posix/files/PosixIniFile.h"
+#include "platform/posix/files/ini/PosixIniFile.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/TroubledFiles.h"

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "app/run/FtpProgress.h"
+#include "app/progress/FtpProgress.h"
 
 #include <array>
 
 #include "app/Session.h"
-#include "app/run/TransferProgress.h"
+#include "app/progress/TransferProgress.h"
 #include "base/text.h"
 #include "platform/EventLoop.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/files/PosixIniFile.h"
+#include "platform/posix/files/ini/PosixIniFile.h"
 
 #include <chrono>
 #include <cstdlib>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "app/run/TransferProgress.h"
+#include "app/progress/TransferProgress.h"
 
 #include <algorithm>
 #include <cmath>

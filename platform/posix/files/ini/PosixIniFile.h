@@ -5,7 +5,7 @@
 
 #include "platform/Files.h"
 #include "platform/IniFile.h"
-#include "platform/posix/files/IniText.h"
+#include "platform/posix/files/ini/IniText.h"
 
 namespace vell {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/files/IniText.h"
+#include "platform/posix/files/ini/IniText.h"
 
 #include <algorithm>
 #include <utility>
