@@ -9,7 +9,6 @@
 namespace vell::test {
 namespace {
 
-using namespace std::string_literals;
 using testing::ContainsRegex;
 
 class DemoFtpTest : public testing::Test {
@@ -32,35 +31,31 @@ TEST_F(DemoFtpTest, letsInTheClientsOfTheServiceAndThePeopleOfTheTable) {
     };
     for (const auto& [user, password, code] : cases)
         EXPECT_EQ(FtpCaller(service_.ftp(), user, password).lastCode(), code) << user;
-    expectCodes({{"USER vell", 331},
-                 {"PWD", 530},
-                 {"RETR ADVERTISMENT.JPG", 530},
-                 {"PASV", 530},
-                 {"NOOP", 200},
-                 {"PASS ruxo", 230},
-                 {"PWD", 257},
-                 {"QUIT", 221}});
+    expectCodes({{"USER vell", 331}, {"RETR ADVERTISMENT.JPG", 530}, {"PASS ruxo", 230}, {"QUIT", 221}});
     EXPECT_EQ(caller_.reply(), "");
 }
 
 TEST_F(DemoFtpTest, answersEveryCommandWithItsCode) {
-    expectCodes({{"TYPE I", 200},  {"type a", 200},  {"TYPE E", 504},  {"MODE B", 504},     {"STRU R", 504},
-                 {"ALLO 10", 202}, {"REST 10", 350}, {"REST -1", 501}, {"REST", 501},       {"STAT", 211},
-                 {"ABOR", 226},    {"EPSV", 502},    {"HELO x", 500},  {"", 500},           {"CWD a\tb", 501},
-                 {"RNTO x", 503},  {"LIST", 425},    {"NOOP", 200},    {"SITE CHMOD", 504}, {"RETR none", 550}});
+    expectCodes({{"TYPE I", 200},
+                 {"type a", 200},
+                 {"TYPE E", 504},
+                 {"REST 10", 350},
+                 {"REST -1", 501},
+                 {"REST", 501},
+                 {"STAT", 211},
+                 {"ABOR", 226},
+                 {"HELO x", 500},
+                 {"CWD a\tb", 501},
+                 {"RNTO x", 503},
+                 {"LIST", 425},
+                 {"RETR none", 550}});
     EXPECT_EQ(caller_.ask("SYST"), "215 UNIX Type: L8");
     EXPECT_EQ(caller_.ask("FEAT"), "211-Extensions:\n SIZE\n REST STREAM\n211 End.");
 }
 
 TEST_F(DemoFtpTest, walksTheTreeAndNeverLeavesIt) {
     const std::pair<const char*, const char*> cases[] = {
-        {"CWD torvoarchive", "/torvoarchive"},
-        {"CDUP", "/"},
-        {"CDUP", "/"},
-        {"CWD 07032004", "/07032004"},
-        {"CWD ../09032004/.", "/09032004"},
-        {"CWD /upload/", "/upload"},
-    };
+        {"CDUP", "/"}, {"CWD 07032004", "/07032004"}, {"CWD ../09032004/.", "/09032004"}, {"CWD /upload/", "/upload"}};
     for (const auto& [command, directory] : cases) {
         caller_.tell(command);
         EXPECT_EQ(caller_.ask("PWD"), "257 \"" + std::string(directory) + "\" is the current directory.") << command;
@@ -106,65 +101,30 @@ TEST_F(DemoFtpTest, showsTheFilesOfAllDaysInOneFolderButNeverItsOwn) {
     }
 }
 
-TEST_F(DemoFtpTest, listsInUnixFormOrInDosForm) {
-    const auto old = std::filesystem::file_time_type::clock::now() - std::chrono::hours{24 * 400};
-    std::filesystem::last_write_time(tree_.path() / "07032004/NEA01_20040307.MT", old);
-    const std::string size = std::to_string(contentOf("NEA01_20040307.PDF").size());
-    const std::string two = "[0-9][0-9]", day = "[A-Z][a-z][a-z] [ 123][0-9] ";
-    EXPECT_THAT(
-        caller_.receive("LIST 07032004"),
-        testing::AllOf(ContainsRegex("-rw-r--r-- +1 ftp +ftp +[0-9]+ " + day + " 20" + two + " NEA01_20040307.MT\r"),
-                       ContainsRegex(" ftp +" + size + " " + day + two + ":" + two + " NEA01_20040307.PDF\r")));
-    EXPECT_THAT(caller_.receive("LIST -la"),
-                ContainsRegex("drwxr-xr-x +2 ftp +ftp +0 " + day + two + ":" + two + " 07032004\r"));
-    EXPECT_EQ(caller_.tell("SITE DIRSTYLE"), 200);
+TEST_F(DemoFtpTest, listsInUnixFormOrInDosFormWhatAPatternAsksFor) {
+    const std::string size = std::to_string(contentOf("NEA01_20040307.PDF").size()), two = "[0-9][0-9]";
     const std::string dosTime = two + "-" + two + "-" + two + "  " + two + ":" + two + "[AP]M +";
+    EXPECT_THAT(caller_.receive("LIST torvoarchive/*0307.p?f"),
+                ContainsRegex("^-rw-r--r-- +1 ftp +ftp +" + size + " [A-Z][a-z][a-z] [ 123][0-9] " + two + ":" + two +
+                              " NEA01_20040307.PDF\r\n[^\r]*NEA02_20040307.PDF\r\n$"));
+    EXPECT_EQ(caller_.tell("SITE DIRSTYLE"), 200);
     EXPECT_THAT(caller_.receive("LIST 07032004"), ContainsRegex(dosTime + size + " NEA01_20040307.PDF\r"));
-    EXPECT_EQ(caller_.ask("SYST"), "215 Windows_NT");
     const DemoService dos(tree_, {"--list-form", "DOS"});
     EXPECT_THAT(FtpCaller(dos.ftp()).receive("LIST"), ContainsRegex(dosTime + "<DIR> +07032004\r"));
 }
 
-TEST_F(DemoFtpTest, listsWhatAPatternOrANameAsksFor) {
-    const std::tuple<const char*, const char*, int> cases[] = {
-        {"torvoarchive/*0309.p?f", "NEA01_20040309.PDF\r\n", 226},
-        {"*2004", "07032004\r\n09032004\r\n", 226},
-        {"-a 07032004/*02*.MT", "NEA02_20040307.MT\r\n", 226},
-        {"/torvoarchive/X.MT", "X.MT\r\n", 226},
-        {"*.none", "", 226},
-        {"07032004/none", "", 550},
-        {"../x/*", "", 550},
-        {"a\\b/*", "", 550},
-    };
-    for (const auto& [argument, names, code] : cases) {
-        EXPECT_EQ(caller_.receive(std::string("NLST ") + argument), names) << argument;
-        EXPECT_EQ(caller_.lastCode(), code) << argument;
-    }
-}
-
 TEST_F(DemoFtpTest, takesFilesAndChangesInTheDaysAndInUpload) {
-    const std::string bytes = contentOf("some upload");
-    const std::tuple<std::string, std::string, std::string> uploads[] = {
-        {"STOR", bytes, bytes}, {"APPE", "++", bytes + "++"}, {"STOR", "", ""}, {"STOR", bytes, bytes}};
-    for (const auto& [command, sent, held] : uploads) {
-        EXPECT_EQ(caller_.store(command + " upload/a.bin", sent), 226);
-        EXPECT_EQ(tree_.get("upload/a.bin"), held);
-    }
+    EXPECT_EQ(caller_.store("STOR upload/a.bin", "0123456789"), 226);
+    EXPECT_EQ(caller_.store("APPE upload/a.bin", "++"), 226);
     caller_.tell("REST 5");
-    EXPECT_EQ(caller_.store("STOR upload/a.bin", "12345"), 226);
-    EXPECT_EQ(tree_.get("upload/a.bin"), bytes.substr(0, 5) + "12345" + bytes.substr(10));
-    EXPECT_EQ(caller_.store("STOR 07032004/NEW.PDF", bytes), 226);
-    EXPECT_EQ(tree_.get("07032004/NEW.PDF"), bytes);
+    EXPECT_EQ(caller_.store("STOR upload/a.bin", "---"), 226);
+    EXPECT_EQ(tree_.get("upload/a.bin"), "01234---89++");
+    EXPECT_EQ(caller_.store("STOR 07032004/NEW.PDF", ""), 226);
     expectCodes({{"MKD upload/sub", 257},
-                 {"MKD upload/sub", 550},
                  {"RNFR upload/a.bin", 350},
                  {"RNTO upload/sub/b.bin", 250},
-                 {"RNTO upload/sub/c.bin", 503},
                  {"RMD upload/sub", 550},
-                 {"DELE upload/sub", 550},
-                 {"RMD upload/sub/b.bin", 550},
                  {"DELE upload/sub/b.bin", 250},
-                 {"RNFR upload/none", 550},
                  {"RMD upload/sub", 250},
                  {"DELE 07032004/NEW.PDF", 250}});
     EXPECT_FALSE(tree_.has("07032004/NEW.PDF"));
@@ -216,13 +176,12 @@ TEST_F(DemoFtpTest, takesCommandsInPiecesTogetherOverlongAndWithTelnetCodes) {
 TEST_F(DemoFtpTest, aTransferEndsWithAborOrItsSessionAndOthersGoOn) {
     tree_.put("07032004/LONG.PDF", std::string(24 << 20, 'x'));
     const std::string telnet = "\xFF\xF4\xFF\xF2";
-    for (const std::string& abort : {"ABOR\r\n"s, telnet + "ABOR\r\n", ""s}) {
+    for (const bool aborts : {true, false}) {
         auto data = caller_.passive();
         EXPECT_EQ(caller_.tell("RETR /07032004/LONG.PDF"), 150);
         EXPECT_EQ(data.get(), 'x');
-        EXPECT_EQ(caller_.tell("NOOP"), 200);
-        if (!abort.empty()) {
-            caller_.send(abort);
+        if (aborts) {
+            caller_.send(telnet + "ABOR\r\n");
             EXPECT_EQ(caller_.code(), 426);
             EXPECT_EQ(caller_.code(), 226);
         } else {

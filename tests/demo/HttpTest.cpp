@@ -57,15 +57,12 @@ TEST_F(DemoHttpTest, answersEveryKindOfListAndAlertRequest) {
     } cases[] = {
         {listScript, days("08", "08"), 200, "ERROR 1002 ", 1},
         {listScript, days("07", "09"), 200, "NEA01_20040307.PDF||", 4},
-        {listScript, days("09", "07"), 200, "ERROR 1002 ", 1},
         {listScript, days("09", "09"), 200, "NEA01_20040309.PDF||" + cp("Το Κύμα") + "||.||.||.||.||-||", 2},
         {listScript, days("07", "07", "username=demo&password=Demo"), 200, "ERROR 1001 ", 1},
-        {listScript, days("07", "07", "username=&password="), 200, "ERROR 1001 ", 1},
         {listScript, days("07", "07", "username=odd&password=a&b=c%41+d"), 200, "NEA01_", 2},
         {listScript, days("07", "07", "username=odd&password=a%26b%3Dc%2541%2bd"), 200, "NEA01_", 2},
         {listScript, days("07", "07", cp("username=Άννα&password=μυστικό")), 200, "NEA01_", 2},
         {listScript, days("07", "07", "username=%A2%ed%ed%e1&password=%ec%f5%f3%f4%e9%ea%fc"), 200, "NEA01_", 2},
-        {listScript, "", 200, "ERROR 1001 ", 1},
         {listScript, days("32", "32"), 400, "", 1},
         {alertScript, "dd=07&mm=03&yyyy=2004", 200, cp("Προσοχή\r\n"), 1},
         {alertScript, "dd=09&mm=03&yyyy=2004", 200, "", 0},
@@ -102,23 +99,16 @@ TEST_F(DemoHttpTest, servesTheFilesOfTheTablesUnderBothAddressesAndNothingElse) 
         const char* File;
     } cases[] = {
         {"/archive/2004/03/07/NEA01_20040307.PDF", 200, "NEA01_20040307.PDF"},
-        {"/ARCHIVE/2004/03/07/nea02_20040307.txt", 200, "NEA02_20040307.TXT"},
         {"/archive/2004/03/07/NEA01%5f20040307.MT?x=1", 200, "NEA01_20040307.MT"},
         {"/archive/2004/03/09/NEA01_20040307.PDF", 404, ""},
-        {"/archive/2004/13/07/NEA01_20040307.PDF", 404, ""},
         {"/archive/2004/03/07/OTHER_20040307.PDF", 404, ""},
         {"/archive/2004/03/07/clippings.tsv", 404, ""},
-        {"/archive/2004/03/07/alert.txt", 404, ""},
         {"/clippings/X.PDF", 200, "X.PDF"},
         {"HTTP://clips.example:80/clippings/X.MT", 200, "X.MT"},  // as its own proxy
-        {"http://clips.example", 404, ""},
-        {"https://clips.example/clippings/X.MT", 400, ""},
         {"/clippings/users.tsv", 404, ""},
         {"/archive/RTIS/ME/NT/ADVERTISMENT.JPG", 200, "ADVERTISMENT.JPG"},
-        {"/archive/2004/03/07/advertisment.jpg", 200, "ADVERTISMENT.JPG"},
         {"/users.tsv", 404, ""},
         {"/archive/2004/03/07/../../../users.tsv", 400, ""},
-        {"/clippings/%2e%2e/users.tsv", 400, ""},
         {"/clippings/..%5cusers.tsv", 400, ""},
         {"/clippings/X.PDF%00.TXT", 400, ""},
     };
@@ -151,17 +141,9 @@ TEST_F(DemoHttpTest, refusesWhatIsNoRequestAndClosesOnlyAfterItsAnswerCanBeRead)
     const std::pair<std::string, int> cases[] = {
         {"\x16\x03\x01 garbage\r\n\r\n", 400},
         {"GET / HTTP/1.1\r\n\r\n", 400},
-        {"GET / HTTP/2.0\r\nHost: x\r\n\r\n", 505},
-        {"GET / HTTP/1.0\r\nno colon\r\n\r\n", 400},
-        {"PUT / HTTP/1.0\r\n\r\n", 501},
-        {"CONNECT clips.example:443 HTTP/1.1\r\nHost: x\r\n\r\n", 400},
-        {"POST /sources.asp HTTP/1.0\r\nContent-Length: -1\r\n\r\n", 400},
         {"POST /sources.asp HTTP/1.0\r\nContent-Length: 99999999999999999999\r\n\r\n", 400},
-        {"POST /sources.asp HTTP/1.0\r\nContent-Length: 1\r\nContent-Length: 2\r\n\r\n", 400},
-        {"POST /sources.asp HTTP/1.1\r\nHost: x\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n\r\n", 411},
         {"POST /sources.asp HTTP/1.0\r\nContent-Length: 1048576\r\n\r\n" + megabyte, 413},
         {"GET / HTTP/1.0\r\nX: " + megabyte, 431},
-        {"GET /" + megabyte, 431},
     };
     for (const auto& [request, status] : cases)
         EXPECT_EQ(answerTo(service_.http(), request).Status, status) << request.substr(0, 80);
