@@ -1,60 +1,41 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/HttpPeer.h"
 
-#include <algorithm>
-#include <array>
-#include <cerrno>
-#include <stdexcept>
-#include <string_view>
 #include <utility>
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <poll.h>
-#include <sys/socket.h>
-#include <unistd.h>
+#include <asio/buffer.hpp>
+#include <asio/co_spawn.hpp>
+#include <asio/post.hpp>
+#include <asio/read.hpp>
+#include <asio/use_awaitable.hpp>
+#include <asio/use_future.hpp>
+#include <asio/write.hpp>
 
 namespace vell::test {
 
 namespace {
 
-// Waits in steps, so that the peer's end is heard.
-bool waitForInput(int descriptor, const std::atomic<bool>& ending) {
-    pollfd input{descriptor, POLLIN, 0};
-    while (!ending)
-        if (poll(&input, 1, 20) > 0) return true;
-    return false;
-}
-
-std::size_t announcedLength(const std::string& request) {
-    const auto at = request.find("Content-Length: ");
-    return at == std::string::npos ? 0 : std::stoul(request.substr(at + 16));
-}
-
 bool isWhole(const std::string& request) {
-    const auto end = request.find("\r\n\r\n");
-    return end != std::string::npos && request.size() >= end + 4 + announcedLength(request);
+    const auto end = request.find("\r\n\r\n"), length = request.find("Content-Length: ");
+    if (end == std::string::npos) return false;
+    return request.size() >= end + 4 + (length > end ? 0 : std::stoul(request.substr(length + 16)));
+}
+
+// A test that the peer cannot serve must not seem to be served.
+void rethrow(const std::exception_ptr& failure) {
+    if (failure) std::rethrow_exception(failure);
 }
 
 }  // namespace
 
-HttpPeer::HttpPeer(Handler handler) : handler_(std::move(handler)), listener_(socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    auto* generic = reinterpret_cast<sockaddr*>(&address);
-    if (bind(listener_, generic, size) != 0 || listen(listener_, 64) != 0 ||
-        getsockname(listener_, generic, &size) != 0)
-        throw std::runtime_error("no HTTP peer");
-    port_ = ntohs(address.sin_port);
-    thread_ = std::thread([this] { serve(); });
+HttpPeer::HttpPeer(Handler handler) : handler_(std::move(handler)) {
+    asio::co_spawn(context_, serve(), rethrow);
+    thread_ = std::thread([this] { context_.run(); });
 }
 
 HttpPeer::~HttpPeer() {
-    ending_ = true;
+    context_.stop();
     thread_.join();
-    close(listener_);
 }
 
 std::vector<std::string> HttpPeer::requests() const {
@@ -72,65 +53,51 @@ HttpPeer::Answer HttpPeer::status(const std::string& codeAndReason, const std::s
             "\r\n\r\n" + body};
 }
 
-void HttpPeer::serve() {
-    while (waitForInput(listener_, ending_)) {
-        const int connection = accept(listener_, nullptr, nullptr);
-        if (connection < 0) continue;
+asio::awaitable<void> HttpPeer::serve() {
+    for (;;) {
+        asio::ip::tcp::socket socket = co_await listener_.async_accept(asio::use_awaitable);
         ++connections_;
-        current_ = connection;
-        for (bool isKept = false; serveOne(connection, isKept); isKept = true)
-            continue;
-        current_ = -1;
-        close(connection);
+        asio::co_spawn(context_, converse(std::move(socket)), rethrow);
     }
 }
 
-bool HttpPeer::serveOne(int connection, bool isKept) {
-    std::string request;
-    std::array<char, 65536> buffer{};
-    while (!isWhole(request)) {
-        pollfd inputs[] = {{connection, POLLIN, 0}, {listener_, POLLIN, 0}};
-        const nfds_t watched = isKept && request.empty() ? 2 : 1;
-        while (!ending_ && poll(inputs, watched, 20) == 0)
-            continue;
-        if (ending_ || inputs[0].revents == 0) return false;
-        const ssize_t got = recv(connection, buffer.data(), buffer.size(), 0);
-        if (got <= 0) return false;
-        request.append(buffer.data(), static_cast<std::size_t>(got));
+asio::awaitable<void> HttpPeer::converse(asio::ip::tcp::socket socket) try {
+    for (bool isKept = true; isKept;) {
+        std::string request;
+        while (!isWhole(request))
+            co_await asio::async_read(socket, asio::dynamic_buffer(request), asio::transfer_at_least(1),
+                                      asio::use_awaitable);
+        const Answer answer = this->answer(request);
+        for (std::size_t at = 0; at < answer.Bytes.size();) {
+            const std::size_t left =
+                co_await socket.async_write_some(asio::buffer(answer.Bytes) + at, asio::use_awaitable);
+            at += left;
+            sent_ += left;
+        }
+        if (answer.Sent) answer.Sent();
+        if (answer.Stalls) {
+            stalling_ = &socket;
+            co_await asio::async_read(socket, asio::dynamic_buffer(request), asio::use_awaitable);
+        }
+        isKept = answer.Keeps;
     }
-    return answer(connection, request);
+} catch (const asio::system_error&) {
+    stalling_ = nullptr;  // the other side has left
 }
 
-bool HttpPeer::answer(int connection, const std::string& request) {
+HttpPeer::Answer HttpPeer::answer(const std::string& request) {
     {
         const std::lock_guard lock(guard_);
         requests_.push_back(request);
     }
-    const Answer answer = handler_(request);
-    if (!write(connection, answer.Bytes)) return false;
-    if (answer.Sent) answer.Sent();
-    char byte = 0;
-    while (answer.Stalls && waitForInput(connection, ending_))
-        if (recv(connection, &byte, 1, 0) <= 0) return false;
-    return answer.Keeps;
-}
-
-// In steps, so that a reader who stops reading does not hold up the peer's end.
-bool HttpPeer::write(int connection, std::string_view bytes) {
-    while (!bytes.empty() && !ending_) {
-        const ssize_t sent = send(connection, bytes.data(), bytes.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
-        if (sent < 0 && errno != EAGAIN) return false;
-        pollfd room{connection, POLLOUT, 0};
-        if (sent < 0) poll(&room, 1, 20);
-        const auto count = static_cast<std::size_t>(std::max<ssize_t>(sent, 0));
-        sent_ += count;
-        bytes.remove_prefix(count);
-    }
-    return bytes.empty();
+    return handler_(request);
 }
 
 void HttpPeer::say(std::string_view bytes) {
-    (void)write(current_, bytes);
+    asio::post(context_, asio::use_future([&] {
+                   if (stalling_) sent_ += asio::write(*stalling_, asio::buffer(bytes));
+               }))
+        .get();
 }
 
 }  // namespace vell::test

@@ -9,10 +9,14 @@
 #include <thread>
 #include <vector>
 
+#include <asio/awaitable.hpp>
+#include <asio/io_context.hpp>
+#include <asio/ip/tcp.hpp>
+
 namespace vell::test {
 
-// A server on loopback that answers HTTP requests as the test wants, however badly. One connection at a time: the next
-// one ends one that is kept. It runs in a thread of its own and ends with the object.
+// A server on loopback that answers HTTP requests as the test wants, however badly. It runs in a thread of its own and
+// ends with the object.
 class HttpPeer {
   public:
     struct Answer {
@@ -35,7 +39,7 @@ class HttpPeer {
     [[nodiscard]] int connections() const { return connections_; }
     // How much of the answers has left.
     [[nodiscard]] std::size_t sentBytes() const { return sent_; }
-    // More on the connection that stalls, at once.
+    // More on the connection that stalls, which has left when this returns.
     void say(std::string_view bytes);
 
     // A well-formed answer.
@@ -44,21 +48,19 @@ class HttpPeer {
                                        const std::string& body = "");
 
   private:
-    void serve();
-    // False when the connection is to be closed.
-    bool serveOne(int connection, bool isKept);
-    bool answer(int connection, const std::string& request);
-    bool write(int connection, std::string_view bytes);
+    asio::awaitable<void> serve();
+    asio::awaitable<void> converse(asio::ip::tcp::socket socket);
+    Answer answer(const std::string& request);
 
     Handler handler_;
-    int listener_ = -1;
-    int port_ = 0;
-    std::atomic<bool> ending_ = false;
     std::atomic<int> connections_ = 0;
-    std::atomic<int> current_ = -1;
     std::atomic<std::size_t> sent_ = 0;
     mutable std::mutex guard_;
     std::vector<std::string> requests_;
+    asio::ip::tcp::socket* stalling_ = nullptr;
+    asio::io_context context_;
+    asio::ip::tcp::acceptor listener_{context_, {asio::ip::address_v4::loopback(), 0}};
+    int port_ = listener_.local_endpoint().port();
     std::thread thread_;
 };
 
