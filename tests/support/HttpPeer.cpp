@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "tests/support/HttpPeer.h"
 
+#include <future>
 #include <utility>
 
 #include <asio/buffer.hpp>
@@ -8,7 +9,6 @@
 #include <asio/post.hpp>
 #include <asio/read.hpp>
 #include <asio/use_awaitable.hpp>
-#include <asio/use_future.hpp>
 #include <asio/write.hpp>
 
 namespace vell::test {
@@ -94,10 +94,12 @@ HttpPeer::Answer HttpPeer::answer(const std::string& request) {
 }
 
 void HttpPeer::say(std::string_view bytes) {
-    asio::post(context_, asio::use_future([&] {
-                   if (stalling_) sent_ += asio::write(*stalling_, asio::buffer(bytes));
-               }))
-        .get();
+    std::packaged_task<void()> task([&] {
+        if (stalling_) sent_ += asio::write(*stalling_, asio::buffer(bytes));
+    });
+    auto left = task.get_future();
+    asio::post(context_, [task = std::move(task)]() mutable { task(); });
+    left.get();
 }
 
 }  // namespace vell::test
