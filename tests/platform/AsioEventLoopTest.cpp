@@ -16,7 +16,6 @@ namespace vell::test {
 namespace {
 
 using std::chrono::milliseconds;
-using testing::ElementsAre;
 
 class AsioEventLoopTest : public testing::Test {
   protected:
