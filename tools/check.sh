@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The checks of the sources: format, forbidden words, floors, headers that compile alone, clang-tidy, and the other
-# system's compiler for everything above platform/.
+# The checks of the sources: format, forbidden words, floors, headers that compile alone, clang-tidy, the release, and
+# the other system's compiler for everything above platform/.
 #   tools/check.sh          everything
-#   tools/check.sh --fast   all but clang-tidy and the other system's compiler
+#   tools/check.sh --fast   all but clang-tidy, the release and the other system's compiler
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -61,6 +61,11 @@ if [ "$fast" -eq 0 ]; then
   echo "== clang-tidy"
   units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop/native/generic|fuzz|bench)/')
   echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --extra-arg=-Wno-unknown-warning-option 2>/dev/null || fail "clang-tidy"
+
+  # What the demo builds. The optimiser warns of things that no other build sees.
+  echo "== release"
+  cmake --preset release >/dev/null
+  cmake --build --preset release || fail "the release does not build"
 
   echo "== MinGW-w64"
   cmake --preset windows >/dev/null

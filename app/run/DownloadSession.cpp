@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/run/DownloadSession.h"
 
+#include <utility>
+
 #include "app/Session.h"
 #include "app/run/DownloadRun.h"
 #include "app/run/InternetLink.h"
@@ -11,7 +13,10 @@ bool DownloadSession::RunDownloadSession(Starter begunBy, const Date& first, con
     if (!session_.isIdle() || session_.IsEnding) return false;
     const ActivityScope whole(session_, Activity::BetweenDays);
     session_.gStopRequested = false;
-    session_.Run = {.Day = {}, .BegunBy = begunBy, .Outcome = {}, .Setup = session_.Setup};
+    RunContext run;
+    run.BegunBy = begunBy;
+    run.Setup = session_.Setup;
+    session_.Run = std::move(run);
     if (connect()) runDays(first, next);
     session_.Run.Outcome.Stopped = session_.gStopRequested;
     hangUp();
