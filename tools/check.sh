@@ -47,7 +47,9 @@ if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh 
 
 echo "== headers compile alone"
 cmake --preset debug >/dev/null
-flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED -DVELL_CONSOLE=__FILE__ $(pkg-config --cflags gio-2.0) $(wx-config --cxxflags)"
+# What the build tells the tests: where programs and scripts are.
+places="-DVELL_CONSOLE=__FILE__ -DVELL_REAL_SERVER=__FILE__ -DVELL_NETWORK_MANAGER_PY=__FILE__"
+flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED $places $(pkg-config --cflags gio-2.0) $(wx-config --cxxflags)"
 headers=$(git ls-files --cached --others --exclude-standard -- '*.h' | grep -v -E '^(platform/windows|bench)/')
 # shellcheck disable=SC2086
 echo "$headers" | xargs -P "$(nproc)" -I{} g++ $flags -x c++ -include {} /dev/null || fail "a header does not compile alone"
