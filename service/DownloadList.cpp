@@ -109,7 +109,7 @@ std::unordered_set<std::string> DownloadList::storeIndex(const std::vector<std::
 Merged DownloadList::mergeInto(const std::string& path, const std::vector<std::string>& records) {
     const auto lock = p_.Disk.Lock(path);
     Merged merged = mergeWithIndex(records, p_.Disk.PathExists(path) ? p_.Disk.ReadFile(path) : std::string());
-    p_.Disk.WriteWhole(path, merged.Index, Durability::Rename);
+    p_.Disk.WriteWhole(path, merged.Index, Durability::Flushed);
     return merged;
 }
 

@@ -36,7 +36,7 @@ void DayIndex::markDownloaded(const std::string& dayFolder, std::span<const Arri
         appendIndexLine(marked, line);
     }
     appendIndexLine(marked, "");
-    if (marked != before) files_.WriteWhole(path, marked, Durability::Rename);
+    if (marked != before) files_.WriteWhole(path, marked, Durability::Flushed);
 }
 
 }  // namespace vell

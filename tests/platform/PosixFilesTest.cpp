@@ -196,7 +196,13 @@ TEST_F(PosixFilesTest, whatIsNoFileDoesNotGiveWayToAPartButALinkDoes) {
     part->Write("ours");
     EXPECT_EQ(errorOf([&] { part->MoveTo(at("folder")); }).Number, error_number::PathAccess);
     part->MoveTo(at("LINK.PDF"));
-    EXPECT_EQ(folder_.get("LINK.PDF") + folder_.get("real"), "ourstheirs");
+    std::filesystem::create_hard_link(folder_.path() / "real", folder_.path() / ".h.part");
+    std::filesystem::create_hard_link(folder_.path() / "real", folder_.path() / "B.PDF");
+    const auto other = files_.OpenPart(at(".h.part"));
+    other->Write("new");
+    EXPECT_NE(errorOf([&] { other->Adopt(at("B.PDF")); }).Number, 0);
+    EXPECT_EQ(folder_.get("LINK.PDF"), "ours");
+    EXPECT_EQ(folder_.get("real"), "theirs");
     for (const char* name : {".l.part", ".f.part"})
         EXPECT_NE(errorOf([&] { (void)files_.OpenPart(at(name)); }).Number, 0) << name;
 }

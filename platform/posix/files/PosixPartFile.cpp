@@ -34,6 +34,11 @@ bool isStillThere(const struct stat& opened, const FilePlace& place) {
     return lstat(place.System.c_str(), &now) == 0 && now.st_ino == opened.st_ino && now.st_dev == opened.st_dev;
 }
 
+// Another name means the same file, whose bytes are not ours to change: a part of that kind gives way to a new one.
+bool isShared(const struct stat& opened) {
+    return opened.st_nlink > 1;
+}
+
 // A share of the other system's kind refuses to open what is in use there.
 bool isInUse(const RunTimeError& error) {
     return error.LastSystemError == EBUSY || error.LastSystemError == ETXTBSY;
@@ -46,8 +51,12 @@ std::unique_ptr<PosixPartFile> PosixPartFile::open(PosixFiles& files, const File
         while (true) {
             FileHandle file = openFile(place, O_CREAT);
             if (!file.tryLock()) return nullptr;
-            if (isStillThere(statusOf(file, place), place))
+            const struct stat opened = statusOf(file, place);
+            if (isShared(opened)) {
+                if (unlink(place.System.c_str()) != 0 && errno != ENOENT) raiseFileError(place);
+            } else if (isStillThere(opened, place)) {
                 return std::make_unique<PosixPartFile>(files, std::move(file), place);
+            }
         }
     } catch (const RunTimeError& error) {
         if (isInUse(error)) return nullptr;
@@ -98,10 +107,11 @@ void PosixPartFile::Adopt(std::string_view path) {
     const FilePlace other = files_.locate(path);
     FileHandle file = openFile(other, 0);
     if (!file.tryLock()) throw fileError(EBUSY, other);
-    const auto length = statusOf(file, other).st_size;
+    const struct stat opened = statusOf(file, other);
+    if (isShared(opened)) throw fileError(EMLINK, other);
     files_.rename(other, place_);
     file_ = std::move(file);
-    length_ = length;
+    length_ = opened.st_size;
 }
 
 void PosixPartFile::MoveTo(std::string_view path) {
