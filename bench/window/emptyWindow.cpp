@@ -3,7 +3,7 @@
 #include <wx/app.h>
 #include <wx/frame.h>
 
-#include "bench/firstFrame.h"
+#include "bench/window/firstFrame.h"
 
 class EmptyProgram : public wxApp {
   public:
