@@ -4,12 +4,18 @@
 #include "store/Articles.h"
 #include "store/DayState.h"
 #include "store/modGlobal.h"
+#include "ui/AlertLinks.h"
 #include "ui/ClippingOpening.h"
 #include "ui/ClippingsBrowser.h"
 #include "ui/DayCommands.h"
 #include "ui/PrintCommands.h"
 #include "ui/StatusText.h"
 #include "ui/dialogs/frmAutoView.h"
+#include "ui/find/Finder.h"
+#include "ui/list/ClippingCopies.h"
+#include "ui/list/ClippingSaving.h"
+#include "ui/list/PageReader.h"
+#include "ui/reading/TextReader.h"
 
 namespace vell {
 
@@ -35,10 +41,16 @@ struct Reading {
     modGlobal Store;
     Articles Article;
     ClippingsBrowser Browser;
+    TextReader Text;
+    Finder Find;
+    PageReader Pages;
     ClippingOpening Opening;
+    ClippingCopies Copies;
+    ClippingSaving Saving;
     PrintCommands Printing;
     frmAutoView AutoView;
     DayCommands Days;
+    AlertLinks Links;
 };
 
 }  // namespace vell

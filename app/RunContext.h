@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <vector>
+
+#include "app/failures/FailedFile.h"
+#include "app/run/RunSummary.h"
 #include "config/Settings.h"
 #include "store/DayState.h"
 
@@ -29,7 +33,13 @@ struct RunContext {
     DayState Day;
     // A person can be asked things; the schedule's runs are alone, and nobody would answer.
     Starter BegunBy = Starter::Person;
+    Date FirstDay;
+    // What is to be fetched of their days; of a day that has none here, everything.
+    std::vector<FailedFile> Only;
     RunOutcome Outcome;  // over all days
+    RunSummary Summary;
+    std::string Told;     // the message that its exchanges with the service have shown last
+    Failure LastFailure;  // of the attempt that was made last, when it has failed
     // As they were at the begin, or as the user has saved them since: what is only being tried out in the setup dialog
     // is no matter of the run.
     Settings Setup;

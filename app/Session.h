@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/RunContext.h"
+#include "app/failures/FailedFiles.h"
 #include "config/Settings.h"
 #include "service/DownloadState.h"
 
@@ -22,6 +23,7 @@ struct Session {
 
     Activity Doing = Activity::Idle;
     RunContext Run;               // of the download under way, else of the last one
+    FailedFiles Failed;           // what the runs so far have left missing
     bool gStopRequested = false;  // the user asked the download under way to stop
     bool IsEnding = false;        // the program is to end: no download begins any more
 

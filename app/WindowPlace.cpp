@@ -13,12 +13,12 @@ namespace vell {
 
 namespace {
 
+constexpr std::string_view section = "Position";
 constexpr int designWidth = 15600;
 constexpr int designHeight = 10350;
 constexpr int leastCorner = -50;  // a window that touches the edge may stand a little beyond it
 
 struct PlaceKey {
-    const char* Section;
     const char* Key;
     int WindowPlace::*Value;
     int WhenEmpty;
@@ -26,13 +26,11 @@ struct PlaceKey {
     int WhenLess;
 };
 
-constexpr std::array<PlaceKey, 6> placeKeys{{
-    {"Position", "posTop", &WindowPlace::Top, 1000, leastCorner, 0},
-    {"Position", "posLeft", &WindowPlace::Left, 1500, leastCorner, 0},
-    {"Position", "posWidth", &WindowPlace::Width, designWidth, 0, designWidth},
-    {"Position", "posHeight", &WindowPlace::Height, designHeight, 0, designHeight},
-    {"Columns", "Newspaper", &WindowPlace::NewspaperWidth, 0, 1, 0},
-    {"Columns", "Type", &WindowPlace::TypeWidth, 0, 1, 0},
+constexpr std::array<PlaceKey, 4> placeKeys{{
+    {"posTop", &WindowPlace::Top, 1000, leastCorner, 0},
+    {"posLeft", &WindowPlace::Left, 1500, leastCorner, 0},
+    {"posWidth", &WindowPlace::Width, designWidth, 0, designWidth},
+    {"posHeight", &WindowPlace::Height, designHeight, 0, designHeight},
 }};
 
 int numberOf(const std::string& text) {
@@ -46,7 +44,7 @@ WindowPlace loadWindowPlace(const modIni& ini) {
     WindowPlace place;
     for (const PlaceKey& key : placeKeys) {
         std::string text;
-        ini.VellIniReadString(key.Section, key.Key, text);
+        ini.VellIniReadString(section, key.Key, text);
         const int value = text.empty() ? key.WhenEmpty : numberOf(text);
         place.*key.Value = value < key.Least ? key.WhenLess : value;
     }
@@ -58,7 +56,7 @@ void saveWindowPlace(modIni& ini, const WindowPlace& place) {
         std::vector<IniEdit> edits;
         for (const PlaceKey& key : placeKeys)
             if (place.*key.Value >= key.Least)
-                edits.push_back({key.Section, key.Key, std::to_string(place.*key.Value)});
+                edits.push_back({std::string(section), key.Key, std::to_string(place.*key.Value)});
         return edits;
     });
 }

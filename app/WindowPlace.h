@@ -11,8 +11,6 @@ struct WindowPlace {
     int Left = 0;
     int Width = 0;
     int Height = 0;
-    int NewspaperWidth = 0;  // of the list's columns, as the user has drawn them; 0 for one that fits its texts
-    int TypeWidth = 0;
 
     bool operator==(const WindowPlace&) const = default;
 };

@@ -15,6 +15,7 @@
 #include "platform/InternetApi.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Process.h"
+#include "ui/list/ListLayout.h"
 
 namespace vell {
 
@@ -45,8 +46,9 @@ std::string frmMain::programFolder(const Process& process) {
 bool frmMain::Form_Load(Start start) {
     showToday();
     isOnline_ = start == Start::Window || start == Start::Alone;
-    if (start != Start::Beside && isRefused()) return false;
+    if (start != Start::Beside && isRefused(start)) return false;
     findProgramFolder();
+    lookForSettings(start);
     session_.Setup.UseHTTP = true;
     if (start == Start::Window) {
         mUpdatePending_ = takePendingUpdate(ini_, platform_.Boxes);
@@ -70,17 +72,23 @@ void frmMain::showToday() {
     fetching_.Forced.reset(today);
 }
 
-bool frmMain::isRefused() {
+// The other window comes when this one's box is gone: it would cover the box.
+bool frmMain::isRefused(Start start) {
     mIsSecondInstance_ = platform_.Program.IsPreviousInstance();
     if (mIsSecondInstance_)
         platform_.Boxes.Show("Program is already running", programCaption, Buttons::Ok, BoxIcon::None);
+    if (mIsSecondInstance_ && start == Start::Window) platform_.Program.RaisePrevious();
     return mIsSecondInstance_;
 }
 
 void frmMain::findProgramFolder() {
     session_.gAppPath = programFolder(platform_.Program);
     ini_.setAppDir(session_.gAppPath);
-    if (!platform_.Disk.PathExists(ini_.settingsFile()))
+}
+
+void frmMain::lookForSettings(Start start) {
+    isFirstStart_ = !platform_.Disk.PathExists(ini_.settingsFile());
+    if (isFirstStart_ && start != Start::Window)
         platform_.Boxes.Show(
             "Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE parameters must be set "
             "again.",
@@ -88,10 +96,12 @@ void frmMain::findProgramFolder() {
 }
 
 void frmMain::showFirstDay() {
+    reading_.Browser.setOrder(keptRowOrder(looks_));
     reading_.Days.chooseFirst(platform_.Time.Now().Day);
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
     if (!settingsComplaint().empty()) view_.displayInfoMessageBox(settingsComplaint());
     fetching_.Scheduled.start();
+    fetching_.News.showNextRun();
 }
 
 void frmMain::Form_Unload() {
@@ -130,15 +140,21 @@ std::vector<std::string> frmMain::dialUpNames() {
 
 void frmMain::settingsSaved() {
     session_.Run.Setup = session_.Setup;
+    reading_.AutoView.followSettings();
     reading_.Days.reload();
 }
 
 frmSetup frmMain::setupDialog() {
-    return {session_.Setup, loader_, ini_, log_, platform_.Disk, platform_.Program.DocumentsFolder()};
+    return frmSetup(
+        {session_.Setup, loader_, ini_, log_, platform_.Disk, platform_.Words, platform_.Program.DocumentsFolder()});
+}
+
+frmFailedFiles frmMain::failedFiles() {
+    return {session_.Failed, platform_.Disk, session_.Setup.LocalDir, platform_.Words, log_};
 }
 
 frmSchedule frmMain::scheduleDialog() {
-    return {session_.Setup, ini_, platform_.Boxes, log_};
+    return {session_.Setup, ini_, platform_.Boxes, log_, platform_.Words};
 }
 
 }  // namespace vell

@@ -6,9 +6,11 @@
 
 #include "app/Reading.h"
 #include "app/Session.h"
+#include "app/failures/frmFailedFiles.h"
 #include "app/progress/TransferProgress.h"
 #include "app/run/Fetching.h"
 #include "config/SettingsLoader.h"
+#include "config/ViewSettings.h"
 #include "config/frmSchedule.h"
 #include "config/frmSetup.h"
 #include "config/modIni.h"
@@ -37,16 +39,22 @@ class frmMain {
     // Ends the session. A front-end ends the process right after it, whatever is still under way.
     void Form_Unload();
     [[nodiscard]] bool isSecondInstance() const { return mIsSecondInstance_; }
+    // There is no settings file yet. A front-end without a window has told so; a window leads its user to Setup.
+    [[nodiscard]] bool isFirstStart() const { return isFirstStart_; }
 
     // The program is to end: what is under way is given up at once, and no run begins any more.
     void endSession();
 
     [[nodiscard]] Downloads& downloads() { return fetching_.Forced; }
     [[nodiscard]] ScheduledRuns& schedule() { return fetching_.Scheduled; }
+    [[nodiscard]] RunNews& news() { return fetching_.News; }
     [[nodiscard]] Reading& reading() { return reading_; }
+    // What the user has chosen of the window's looks; there once the session is up.
+    [[nodiscard]] ViewSettings& viewSettings() { return looks_; }
 
     [[nodiscard]] frmSetup setupDialog();
     [[nodiscard]] frmSchedule scheduleDialog();
+    [[nodiscard]] frmFailedFiles failedFiles();
     // The user has saved other settings: a run goes on with them, and the days may lie in another folder.
     void settingsSaved();
     // The dial-up connections that the setup dialog offers.
@@ -60,8 +68,9 @@ class frmMain {
 
   private:
     void showToday();
-    [[nodiscard]] bool isRefused();
+    [[nodiscard]] bool isRefused(Start start);
     void findProgramFolder();
+    void lookForSettings(Start start);
     void showFirstDay();
     void closeConnections();
     [[nodiscard]] static std::string programFolder(const Process& process);
@@ -71,12 +80,14 @@ class frmMain {
     Session session_;
     EventLog log_;
     modIni ini_;
+    ViewSettings looks_{ini_};
     SettingsLoader loader_;
     TransferProgress progress_;
     Reading reading_;
     Fetching fetching_;
     bool mIsSecondInstance_ = false;
     bool mUpdatePending_ = false;
+    bool isFirstStart_ = false;
     bool isOnline_ = false;  // this session's connections are its to close
 };
 

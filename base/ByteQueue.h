@@ -14,6 +14,8 @@ class ByteQueue {
     [[nodiscard]] std::string take(std::size_t most);
     // The same into memory that is there; gives how many came.
     [[nodiscard]] std::size_t take(std::span<char> target);
+    // Keeps the memory.
+    void clear() { drop(size()); }
     [[nodiscard]] bool isEmpty() const { return size() == 0; }
     [[nodiscard]] std::size_t size() const { return bytes_.size() - taken_; }
 

@@ -62,7 +62,7 @@ std::string mistakeInTyped(std::string_view entry) {
     int times = 0;
     for (const std::string_view word : words(entry)) {
         if (dayOf(word) < scheduleDays.size()) continue;
-        if (!IsTimeValid(word))
+        if (!IsTimeValid(completedTime(word)))
             return "'" + std::string(word) + "' is neither a day (Mon Tue Wed Thu Fri Sat Sun) nor a time (HH:MM).";
         ++times;
     }
@@ -72,10 +72,16 @@ std::string mistakeInTyped(std::string_view entry) {
 ScheduleEntry scheduleEntryTyped(std::string_view entry) {
     std::string single;
     for (const std::string_view word : words(entry))
-        single.append(single.empty() ? "" : " ").append(word);
+        single.append(single.empty() ? "" : " ").append(completedTime(word));
     ScheduleEntry typed = scheduleEntryOf(single);
     if (std::ranges::find(typed.Days, true) == typed.Days.end()) typed.Days.fill(true);
     return typed;
+}
+
+std::string completedTime(std::string_view text) {
+    constexpr std::size_t length = 4;
+    text = Trim(text);
+    return (text.size() == length && text[1] == ':' ? "0" : "") + std::string(text);
 }
 
 bool IsTimeValid(std::string_view text) {

@@ -26,7 +26,8 @@ inline constexpr std::string_view scheduleSection = "Schedule";
 // The text under which an entry is stored.
 [[nodiscard]] std::string storedTextOf(const ScheduleEntry& entry);
 
-// The complaint about an entry as somebody types it, such as "wed mon 07:30": days if any, in any order, and one time.
+// The complaint about an entry as somebody types it, such as "wed mon 07:30": days if any, in any order, and one time,
+// which may lack the 0 in front.
 // Empty when there is none.
 [[nodiscard]] std::string mistakeInTyped(std::string_view entry);
 // The entry that such a text stands for; one without days is active on all of them.
@@ -37,6 +38,10 @@ inline constexpr std::string_view scheduleSection = "Schedule";
 [[nodiscard]] std::vector<ScheduleEntry> mergedSchedule(const std::vector<ScheduleEntry>& before,
                                                         const std::vector<ScheduleEntry>& theirs,
                                                         std::vector<ScheduleEntry> ours);
+
+// A time between blanks as its check wants it: an hour of one digit gets a 0 in front. Whatever else stands there
+// stays.
+[[nodiscard]] std::string completedTime(std::string_view text);
 
 // True for five characters "HH:MM" between blanks, digits only. The hour 24 is accepted.
 [[nodiscard]] bool IsTimeValid(std::string_view text);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -11,10 +12,10 @@ class ScheduleView {
   public:
     virtual ~ScheduleView() = default;
 
-    // A box with one line of text, which holds `offered` at first. What stands in it at the end; empty when the user
+    // A box with one line of text, which holds `offered` at first. What stands in it at the end; nothing when the user
     // gave up.
-    [[nodiscard]] virtual std::string InputBox(std::string_view prompt, std::string_view title,
-                                               std::string_view offered) = 0;
+    [[nodiscard]] virtual std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                                              std::string_view offered) = 0;
     virtual void Beep() = 0;
 };
 

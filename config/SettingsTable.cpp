@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
 
 #include "base/text.h"
@@ -21,7 +20,6 @@ constexpr int most16 = std::numeric_limits<std::int16_t>::max();
 constexpr int mostDelay = 49;                   // seconds
 constexpr auto whole = std::string_view::npos;  // of a stored number
 constexpr double mostTyped = 999'999'999;       // more digits than any box has use for
-constexpr std::size_t longestStored = 249;      // the file gives no more of a value back
 
 // A damaged password ends the load where it stands: the passwords are the last of their section.
 constexpr std::array<SettingRow, 21> table{{
@@ -166,24 +164,6 @@ bool isSeparator(char c) {
     return c == '/' || c == '\\';
 }
 
-bool isFullPath(std::string_view path) {
-    return isSeparator(path.front()) || (path.size() > 2 && path[1] == ':' && isSeparator(path[2]));
-}
-
-bool isControl(char c) {
-    return static_cast<unsigned char>(c) < ' ';
-}
-
-std::string_view failedCheck(const SettingRow& row, std::string_view entry) {
-    const SettingCheck& check = row.Check;
-    if (check.Turn == 0) return {};
-    if (Trim(entry).empty()) return check.Missing;
-    if (!isNumber(row)) return {};
-    const double value = std::nearbyint(Val(entry));
-    if (value < check.Least) return check.Missing;
-    return value > check.Most ? check.TooHigh : std::string_view{};
-}
-
 }  // namespace
 
 std::span<const SettingRow> settingRows() {
@@ -236,16 +216,6 @@ std::string plainEntry(const SettingRow& row, std::string_view entry) {
         while (entry.size() > 1 && isSeparator(entry.back()))
             entry.remove_suffix(1);
     return std::string(entry);
-}
-
-std::string problemWith(const SettingRow& row, std::string_view entry, ErrorLog& log) {
-    if (const auto problem = failedCheck(row, entry); !problem.empty()) return std::string(problem);
-    if (row.Kind == Kind::Folder && !isFullPath(entry))
-        return "Error! Download path must be a full path, such as /home/ann/clippings";
-    if (std::ranges::any_of(entry, isControl))
-        return "Error! " + std::string(row.Key) + " must be one line without control characters";
-    if (storedText(row, entry, log).size() > longestStored) return "Error! " + std::string(row.Key) + " is too long";
-    return {};
 }
 
 }  // namespace vell

@@ -72,7 +72,5 @@ void loadSetting(const SettingRow& row, const modIni& ini, Settings& settings, E
 // An entry in the plain form of its kind: of a number the number that it begins with, of a folder the path without a
 // separator at its end.
 [[nodiscard]] std::string plainEntry(const SettingRow& row, std::string_view entry);
-// The complaint about an entry; empty when it can be saved.
-[[nodiscard]] std::string problemWith(const SettingRow& row, std::string_view entry, ErrorLog& log);
 
 }  // namespace vell

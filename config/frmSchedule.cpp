@@ -11,6 +11,7 @@
 #include "config/Settings.h"
 #include "config/modIni.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Translations.h"
 
 namespace vell {
 
@@ -20,8 +21,8 @@ constexpr std::string_view invalidTime = "Invalid time entered";
 constexpr std::array everyDay{true, true, true, true, true, true, true};
 }  // namespace
 
-frmSchedule::frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log)
-    : settings_(settings), ini_(ini), boxes_(boxes), log_(log) {}
+frmSchedule::frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log, const Translations& words)
+    : settings_(settings), ini_(ini), boxes_(boxes), log_(log), words_(words) {}
 
 bool frmSchedule::Form_Load() {
     const bool isRead = GetSchedule(settings_, ini_, log_);
@@ -31,30 +32,43 @@ bool frmSchedule::Form_Load() {
 }
 
 void frmSchedule::cmdAddSchedule_Click(ScheduleView& view) {
-    const std::string answer = view.InputBox("Enter a valid time in the format HH:MM ie. 15:30", inputTitle, "");
-    const std::string_view time = Trim(answer);
-    if (IsTimeValid(time)) {
-        add({everyDay, std::string(time)});
-        return;
+    std::string typed;
+    while (const auto answer = view.InputBox("Enter a valid time in the format HH:MM ie. 15:30", inputTitle, typed)) {
+        typed = completedTime(*answer);
+        if (IsTimeValid(typed)) {
+            add({everyDay, typed});
+            return;
+        }
+        if (!typed.empty()) refuse(invalidTime);
+        view.Beep();
+        if (typed.empty()) return;
     }
-    if (!time.empty()) refuse(invalidTime);
-    view.Beep();
 }
 
-void frmSchedule::cmdEdit_Click(ScheduleView& view, std::size_t row) {
-    if (row >= rows_.size()) return;
-    const std::string answer = view.InputBox("Enter a valid time", inputTitle, rows_[row].Time);
-    if (IsTimeValid(answer))
-        rows_[row].Time = Trim(answer);
-    else
+void frmSchedule::cmdEdit_Click(ScheduleView& view, std::optional<std::size_t> row) {
+    if (rows_.empty() || !isChosen(row)) return;
+    std::string typed = rows_[*row].Time;
+    while (const auto answer = view.InputBox("Enter a valid time", inputTitle, typed)) {
+        typed = completedTime(*answer);
+        if (IsTimeValid(typed)) {
+            rows_[*row].Time = typed;
+            return;
+        }
         refuse(invalidTime);
+    }
 }
 
-void frmSchedule::cmdDelSchedule_Click(std::size_t row) {
+void frmSchedule::cmdDelSchedule_Click(std::optional<std::size_t> row) {
     if (rows_.size() == 1)
         rows_.clear();
-    else if (row < rows_.size())
-        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(row));
+    else if (!rows_.empty() && isChosen(row))
+        rows_.erase(rows_.begin() + static_cast<std::ptrdiff_t>(*row));
+}
+
+bool frmSchedule::isChosen(std::optional<std::size_t> row) {
+    if (row && *row < rows_.size()) return true;
+    refuse(words_.translate("Choose an entry of the schedule first."));
+    return false;
 }
 
 void frmSchedule::grdSchedule_Click(ScheduleView& view, std::size_t row, std::size_t column) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -12,6 +13,7 @@ namespace vell {
 
 class MessageBoxes;
 class ScheduleView;
+class Translations;
 class modIni;
 struct Settings;
 
@@ -19,7 +21,7 @@ struct Settings;
 // caption row apart; columns 0 to 6 are the days and column 7 is the time.
 class frmSchedule {
   public:
-    frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log);
+    frmSchedule(Settings& settings, modIni& ini, MessageBoxes& boxes, ErrorLog& log, const Translations& words);
 
     static constexpr std::size_t timeColumn = 7;
 
@@ -27,10 +29,12 @@ class frmSchedule {
     bool Form_Load();
     [[nodiscard]] const std::vector<ScheduleEntry>& rows() const { return rows_; }
 
-    // Asks for a time; the new row is active on every day.
+    // Both ask for a time until it is one, or the user gives up; a wrong one stays in the box. A new row is active on
+    // every day.
     void cmdAddSchedule_Click(ScheduleView& view);
-    void cmdEdit_Click(ScheduleView& view, std::size_t row);
-    void cmdDelSchedule_Click(std::size_t row);
+    void cmdEdit_Click(ScheduleView& view, std::optional<std::size_t> row);
+    // The only row goes whether it is the chosen one or not.
+    void cmdDelSchedule_Click(std::optional<std::size_t> row);
     // Switches a day on or off, or edits the time.
     void grdSchedule_Click(ScheduleView& view, std::size_t row, std::size_t column);
 
@@ -44,11 +48,14 @@ class frmSchedule {
   private:
     [[nodiscard]] bool write();
     void refuse(std::string_view message);
+    // Tells the user to choose a row when none is.
+    [[nodiscard]] bool isChosen(std::optional<std::size_t> row);
 
     Settings& settings_;
     modIni& ini_;
     MessageBoxes& boxes_;
     ErrorLog& log_;
+    const Translations& words_;
     std::vector<ScheduleEntry> loaded_;  // what was stored when the rows were read
     std::vector<ScheduleEntry> rows_;
 };

@@ -5,6 +5,7 @@
 #include <array>
 #include <climits>
 
+#include "base/text.h"
 #include "platform/Files.h"
 
 namespace vell {
@@ -17,17 +18,15 @@ std::string downloadFolderIn(std::string_view documents) {
     return plainEntry(rowOf(&Settings::LocalDir), documents) + separator + "Clippings";
 }
 
+bool isPlainWhileTyped(const SettingField& field) {
+    constexpr std::array<SettingField, 3> fields{&Settings::Port, &Settings::TimeOut, &Settings::PrintAllDelay};
+    return std::ranges::find(fields, field) != fields.end();
+}
+
 }  // namespace
 
-frmSetup::frmSetup(Settings& settings, SettingsLoader& loader, modIni& ini, ErrorLog& log, Files& files,
-                   std::string_view documents)
-    : settings_(settings),
-      loader_(loader),
-      ini_(ini),
-      log_(log),
-      files_(files),
-      proposedFolder_(downloadFolderIn(documents)),
-      entries_(settingRows().size()) {}
+frmSetup::frmSetup(const Parts& parts)
+    : p_(parts), proposedFolder_(downloadFolderIn(parts.Documents)), entries_(settingRows().size()) {}
 
 std::span<const std::string_view> frmSetup::hosts() {
     static constexpr std::array<std::string_view, 2> hosts{"clippings.example", "192.0.2.80"};
@@ -35,19 +34,19 @@ std::span<const std::string_view> frmSetup::hosts() {
 }
 
 void frmSetup::Form_Load() {
-    loader_.GetSetup();
+    p_.Loader.GetSetup();
     for (const SettingRow& row : setupRows())
         entries_[index(row)] = loaded(row);
 }
 
 // Read by itself: a damaged password keeps the loader, but not the dialog, from what stands behind it.
 frmSetup::Entry frmSetup::loaded(const SettingRow& row) const {
-    Settings settings = settings_;
+    Settings settings = p_.State;
     bool isUnreadable = false;
-    if (!complaint().empty() && ini_.isReadable()) {
+    if (!complaint().empty() && p_.Ini.isReadable()) {
         settings = Settings{};
-        isUnreadable = !trap(log_, "Form_Load()", false, [&] {
-            loadSetting(row, ini_, settings, log_);
+        isUnreadable = !trap(p_.Log, "Form_Load()", false, [&] {
+            loadSetting(row, p_.Ini, settings, p_.Log);
             return true;
         });
     }
@@ -73,7 +72,7 @@ std::vector<const SettingRow*> frmSetup::proposals() const {
 
 std::string frmSetup::stored(const SettingRow& row) const {
     std::string text;
-    ini_.VellIniReadString(row.Section, row.Key, text);
+    p_.Ini.VellIniReadString(row.Section, row.Key, text);
     return text;
 }
 
@@ -86,11 +85,12 @@ void frmSetup::setEntry(const SettingField& field, std::string_view text) {
     Entry& entry = entries_[index(rowOf(field))];
     entry.Text = text;
     entry.IsTouched = true;
-    if (field == SettingField(&Settings::Protocol)) settings_.UseHTTP = text != "FTP";
+    entry.IsForeign = false;
+    if (field == SettingField(&Settings::Protocol)) p_.State.UseHTTP = text != "FTP";
 }
 
 void frmSetup::cmdSelDirectory_Click(std::string_view chosen) {
-    settings_.LocalDir = chosen;
+    p_.State.LocalDir = chosen;
     if (!chosen.empty()) setEntry(&Settings::LocalDir, chosen);
 }
 
@@ -99,9 +99,31 @@ void frmSetup::normalise(const SettingField& field) {
     text = plainEntry(rowOf(field), text);
 }
 
+void frmSetup::typed(const SettingField& field, std::string_view utf8) {
+    setEntry(field, codePageFromUtf8Lossy(utf8));
+    entries_[index(rowOf(field))].IsForeign = !isNumber(rowOf(field)) && !codePageFromUtf8(utf8);
+    if (isPlainWhileTyped(field)) normalise(field);
+}
+
+void frmSetup::left(const SettingField& field) {
+    if (!isPlainWhileTyped(field)) normalise(field);
+    entries_[index(rowOf(field))].IsLeft = true;
+}
+
+std::string frmSetup::note(const SettingField& field) const {
+    if (!entries_[index(rowOf(field))].IsLeft || !isEnabled(field)) return {};
+    return noteOf(rowOf(field), faultOf(field), p_.Words);
+}
+
+EntryFault frmSetup::faultOf(const SettingField& field) const {
+    const SettingRow& row = rowOf(field);
+    return entries_[index(row)].IsForeign ? EntryFault::ForeignCharacter : faultIn(row, entry(field), p_.Log);
+}
+
 std::optional<SetupProblem> frmSetup::problemOf(const SettingField& field) const {
-    const std::string message = problemWith(rowOf(field), entry(field), log_);
-    return message.empty() ? std::nullopt : std::optional(SetupProblem{field, message});
+    const EntryFault fault = faultOf(field);
+    if (fault == EntryFault::None) return std::nullopt;
+    return SetupProblem{field, complaintOf(rowOf(field), fault)};
 }
 
 std::optional<SetupProblem> frmSetup::firstProblem() const {
@@ -122,7 +144,7 @@ bool frmSetup::isToSave(const SettingRow& row) const {
 }
 
 IniEdit frmSetup::editOf(const SettingRow& row) const {
-    return {std::string(row.Section), std::string(row.Key), storedText(row, entry(row.Field), log_)};
+    return {std::string(row.Section), std::string(row.Key), storedText(row, entry(row.Field), p_.Log)};
 }
 
 std::optional<SetupProblem> frmSetup::cmdOk_Click() {
@@ -144,28 +166,28 @@ std::optional<SetupProblem> frmSetup::saveOnly(const SettingField& field) {
 std::optional<SetupProblem> frmSetup::write(const std::vector<const SettingRow*>& rows) {
     if (std::ranges::find(rows, &rowOf(&Settings::LocalDir)) != rows.end() && !makeProposedFolder())
         return SetupProblem{&Settings::LocalDir, "Error! Download path could not be made"};
-    const bool saved = ini_.VellIniWriteStrings([&] {
+    const bool saved = p_.Ini.VellIniWriteStrings([&] {
         std::vector<IniEdit> edits;
         for (const SettingRow* row : rows)
             if (isToSave(*row)) edits.push_back(editOf(*row));
         return edits;
     });
     if (!saved) return SetupProblem{rows.back()->Field, "Error! The settings file could not be written"};
-    loader_.GetSetup();
+    p_.Loader.GetSetup();
     return std::nullopt;
 }
 
 // Nobody can be asked to make a folder that the program itself has thought of.
 bool frmSetup::makeProposedFolder() {
-    return trap(log_, "cmdOk_Click()", false, [&] {
-        if (entry(&Settings::LocalDir) == proposedFolder_ && !files_.PathExists(proposedFolder_))
-            files_.MakeFolder(proposedFolder_);
+    return trap(p_.Log, "cmdOk_Click()", false, [&] {
+        if (entry(&Settings::LocalDir) == proposedFolder_ && !p_.Disk.PathExists(proposedFolder_))
+            p_.Disk.MakeFolder(proposedFolder_);
         return true;
     });
 }
 
 void frmSetup::Form_Unload() {
-    loader_.GetSetup();
+    p_.Loader.GetSetup();
 }
 
 }  // namespace vell

@@ -54,8 +54,12 @@ bool modIni::VellIniReadString(std::string_view section, std::string_view key, s
 }
 
 bool modIni::readAtOnce(const std::function<void()>& reads) const {
+    return readAtOnce(settingsFile(), reads);
+}
+
+bool modIni::readAtOnce(std::string_view file, const std::function<void()>& reads) const {
     return trap(log_, "VellIniReadString()", false, [&] {
-        ini_.ReadAtOnce(settingsFile(), reads);
+        ini_.ReadAtOnce(file, reads);
         return true;
     });
 }
@@ -66,8 +70,12 @@ bool modIni::VellIniWriteString(std::string_view section, std::string_view key, 
 
 bool modIni::IniWriteString(std::string_view file, std::string_view section, std::string_view key,
                             std::string_view value) {
+    return IniWriteStrings(file, one(section, key, value));
+}
+
+bool modIni::IniWriteStrings(std::string_view file, const std::vector<IniEdit>& edits) {
     return trap(log_, "IniWriteString()", false, [&] {
-        ini_.Update(file, [&] { return one(section, key, value); });
+        ini_.Update(file, [&] { return edits; });
         return true;
     });
 }

@@ -34,6 +34,8 @@ class modIni {
     // Runs `reads`, in which the settings file reads as it was at one moment. False, and nothing has run, when it is
     // there and cannot be read.
     bool readAtOnce(const std::function<void()>& reads) const;
+    // The same for a file of that path.
+    bool readAtOnce(std::string_view file, const std::function<void()>& reads) const;
     [[nodiscard]] bool isReadable() const {
         return readAtOnce([] {});
     }
@@ -41,6 +43,8 @@ class modIni {
     // True when the file was written.
     bool VellIniWriteString(std::string_view section, std::string_view key, std::string_view value);
     bool IniWriteString(std::string_view file, std::string_view section, std::string_view key, std::string_view value);
+    // Several changes of one file in one step.
+    bool IniWriteStrings(std::string_view file, const std::vector<IniEdit>& edits);
     // Several changes of the settings file in one step. No other writer comes between the call of `edits`, which may
     // read the file, and the replacement.
     bool VellIniWriteStrings(const std::function<std::vector<IniEdit>()>& edits);

@@ -2,6 +2,7 @@
 #include "console/ClippingCommands.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "app/exitCodes.h"
 #include "app/frmMain.h"
@@ -22,6 +23,12 @@ constexpr std::size_t widthWithoutTerminal = 120;
 
 int codeOf(bool done) {
     return done ? exit_code::Good : exit_code::Failed;
+}
+
+std::vector<std::string> codePageTexts(const std::vector<std::string>& utf8) {
+    std::vector<std::string> texts;
+    std::ranges::transform(utf8, std::back_inserter(texts), codePageFromUtf8Lossy);
+    return texts;
 }
 
 // The number of the first name that is `utf8`, in any case; nothing when none is.
@@ -53,19 +60,30 @@ bool ClippingCommands::chooseDay(const std::optional<Date>& day) {
 
 int ClippingCommands::list(const CommandLine& line) {
     if (!chooseDay(line.Day)) return codeOf(!line.Day);
-    const ClippingsBrowser& browser = program_.reading().Browser;
+    const std::vector<ClippingRow> rows = wantedRows(line);
     if (line.Tsv) {
-        for (const ClippingRow& row : browser.rows())
+        for (const ClippingRow& row : rows)
             screen_.print(clippingTsv(row));
         return exit_code::Good;
     }
-    screen_.print(browser.chosenDay()->dayName() + "   " + std::to_string(browser.rows().size()) + " Clippings");
+    screen_.print(program_.reading().Browser.chosenDay()->dayName() + "   " + std::to_string(rows.size()) +
+                  " Clippings");
     if (const std::string alert = shownLines(view_.alert()); !alert.empty()) screen_.print(alert);
     const bool fits = terminal_.isTerminal(Terminal::Stream::Output);
     for (const std::string& text :
-         clippingsTable(browser.rows(), fits ? static_cast<std::size_t>(terminal_.width()) : widthWithoutTerminal))
+         clippingsTable(rows, fits ? static_cast<std::size_t>(terminal_.width()) : widthWithoutTerminal))
         screen_.print(text);
     return exit_code::Good;
+}
+
+std::vector<ClippingRow> ClippingCommands::wantedRows(const CommandLine& line) {
+    Reading& reading = program_.reading();
+    reading.Browser.setFilter({.Categories = codePageTexts(line.Categories), .Types = codePageTexts(line.Types)});
+    reading.Find.setTyped(codePageFromUtf8Lossy(line.Words));
+    reading.Find.finish();
+    std::vector<ClippingRow> rows = reading.Browser.rows();
+    if (line.Unread) std::erase_if(rows, [](const ClippingRow& row) { return row.Opened; });
+    return rows;
 }
 
 int ClippingCommands::open(const CommandLine& line) {
@@ -73,6 +91,19 @@ int ClippingCommands::open(const CommandLine& line) {
     return forEachFile(line, [this](std::size_t row) {
         const std::string path = program_.reading().Browser.rows().at(row).path();
         return program_.reading().Opening.open(path) == ClippingOpening::Outcome::Done;
+    });
+}
+
+int ClippingCommands::show(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return exit_code::Failed;
+    return forEachFile(line, [this](std::size_t row) {
+        const CFtpFile& clipping = *program_.reading().Browser.rows().at(row).File;
+        const TextReader::WholeText text = program_.reading().Text.wholeText(clipping);
+        if (text.Notice.empty())
+            screen_.print(shownLines(text.Text));
+        else
+            screen_.tell(clipping.FileName + ": " + text.Notice);
+        return text.Notice.empty();
     });
 }
 

@@ -17,9 +17,10 @@ class EventLoop;
 class Screen;
 class Terminal;
 class frmMain;
+struct ClippingRow;
 struct CommandLine;
 
-// The commands for the clippings of one day: lists, opens, prints or deletes them. Each gives the exit code.
+// The commands for the clippings of one day: lists, shows, opens, prints or deletes them. Each gives the exit code.
 class ClippingCommands {
   public:
     ClippingCommands(frmMain& program, EventLoop& loop, const ConsoleView& view, const Terminal& terminal,
@@ -27,12 +28,15 @@ class ClippingCommands {
 
     [[nodiscard]] int list(const CommandLine& line);
     [[nodiscard]] int open(const CommandLine& line);
+    [[nodiscard]] int show(const CommandLine& line);
     [[nodiscard]] int print(const CommandLine& line);
     [[nodiscard]] int deleteDay(const CommandLine& line);
 
   private:
     // The newest day without a day of the user's. False, and told, when there is none.
     [[nodiscard]] bool chooseDay(const std::optional<Date>& day);
+    // Those of the chosen day that the command line asks for.
+    [[nodiscard]] std::vector<ClippingRow> wantedRows(const CommandLine& line);
     [[nodiscard]] int printAll(const CommandLine& line);
     [[nodiscard]] int printCategories(const CommandLine& line);
     [[nodiscard]] int printFiles(const CommandLine& line);

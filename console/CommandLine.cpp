@@ -56,6 +56,11 @@ void addList(CLI::App& app, CommandLine& line) {
     CLI::App* command = app.add_subcommand("list", "Show the clippings of a day");
     addDay(*command, "--date", line.Day, "The day to show; the newest one without it");
     command->add_flag("--tsv", line.Tsv, "For programs: fields separated by tabs, no header");
+    command->add_option("--find", line.Words, "Only clippings that have all these words, in their texts, too")
+        ->type_name("TEXT");
+    command->add_option("--category", line.Categories, "Only those of these categories")->type_name("NAME");
+    command->add_option("--type", line.Types, "Only those of these types")->type_name("NAME");
+    command->add_flag("--unread", line.Unread, "Only those that have not been opened");
     command->callback([&line] { line.What = CommandLine::Command::List; });
 }
 
@@ -84,6 +89,14 @@ void addOpen(CLI::App& app, CommandLine& line) {
     command->add_option("FILE", line.Files, "Their file names, as 'list --tsv' shows them; .PDF can be left out")
         ->required();
     command->callback([&line] { line.What = CommandLine::Command::Open; });
+}
+
+void addShow(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("show", "Show the text of clippings of a day");
+    addDay(*command, "--date", line.Day, "The day of the clippings; the newest one without it");
+    command->add_option("FILE", line.Files, "Their file names, as 'list --tsv' shows them; .PDF can be left out")
+        ->required();
+    command->callback([&line] { line.What = CommandLine::Command::Show; });
 }
 
 void addDelete(CLI::App& app, CommandLine& line) {
@@ -135,6 +148,7 @@ void describe(CLI::App& app, CommandLine& line) {
         line.What = CommandLine::Command::Days;
     });
     addOpen(app, line);
+    addShow(app, line);
     addPrint(app, line);
     addDelete(app, line);
     addSetup(app, line);
@@ -143,8 +157,9 @@ void describe(CLI::App& app, CommandLine& line) {
         line.What = CommandLine::Command::Watch;
     });
     app.footer(
-        "Exit codes: 0 ended well, 1 a file or the list could not be fetched, or something was not opened, printed\n"
-        "or deleted, 2 wrong usage, 3 no internet connection, 5 already running, 130 stopped with Ctrl-C (watch: 0).");
+        "Exit codes: 0 ended well, 1 a file or the list could not be fetched, or something was not opened, shown,\n"
+        "printed or deleted, 2 wrong usage, 3 no internet connection, 5 already running, 130 stopped with Ctrl-C "
+        "(watch: 0).");
 }
 
 }  // namespace

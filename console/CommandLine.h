@@ -24,6 +24,7 @@ struct CommandLine {
         Watch,
         Print,
         Open,
+        Show,
         Delete
     };
 
@@ -34,9 +35,12 @@ struct CommandLine {
     std::optional<Date> From;
     std::optional<Date> To;
     bool Tsv = false;
-    // What to print or open: everything, whole categories, or clippings by their file names.
+    std::string Words;  // that the listed clippings have
+    bool Unread = false;
+    // Of what to list, print or open: everything, whole categories or types, or clippings by their file names.
     bool All = false;
     std::vector<std::string> Categories;
+    std::vector<std::string> Types;
     std::vector<std::string> Files;
     std::optional<std::string> Key;
     std::optional<std::string> Value;

@@ -66,6 +66,8 @@ int Commands::perform(const CommandLine& line) {
             return clippings_.list(line);
         case Command::Open:
             return clippings_.open(line);
+        case Command::Show:
+            return clippings_.show(line);
         case Command::Print:
             return clippings_.print(line);
         case Command::Delete:

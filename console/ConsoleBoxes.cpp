@@ -27,6 +27,7 @@ std::vector<Button> buttonsOf(Buttons buttons) {
         case Buttons::OkCancel:
             return {{Answer::Ok, "OK"}, {Answer::Cancel, "Cancel"}};
         case Buttons::YesNo:
+        case Buttons::NoYes:
             return {{Answer::Yes, "Yes"}, {Answer::No, "No"}};
         case Buttons::RetryCancel:
             return {{Answer::Retry, "Retry"}, {Answer::Cancel, "Cancel"}};

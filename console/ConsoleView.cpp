@@ -16,12 +16,20 @@ void ConsoleView::showProgress(int /*currentFile*/, int wholeRun) {
     percent_ = wholeRun;
 }
 
-void ConsoleView::showForcedRun(bool running) {
+void ConsoleView::showForcedRun(ForcedRun state) {
     percent_ = -1;
-    if (!running) screen_.leaveStatus();
+    if (state != ForcedRun::Running) screen_.leaveStatus();
+}
+
+void ConsoleView::showRunMessage(const std::optional<Message>& message) {
+    if (!message) return;
+    if (message->Text != told_) screen_.tell(message->Text);
+    for (const std::string& line : message->Details)
+        screen_.tell(line);
 }
 
 void ConsoleView::displayInfoMessageBox(std::string_view text) {
+    told_ = text;
     boxes_.Show(text, programCaption, Buttons::Ok, BoxIcon::Information);
 }
 

@@ -22,14 +22,15 @@ class ConsoleView : public MainView {
     void showDays(const std::vector<Date>& /*days*/, const std::optional<Date>& /*chosen*/) override {}
     void showClippings(const std::vector<ClippingRow>& /*rows*/) override {}
     void showMarks(std::size_t /*row*/) override {}
-    void showCount(std::string_view /*text*/) override {}
+    void showCounts(const CountTexts& /*texts*/) override {}
     void showAlert(std::string_view text) override { alert_ = text; }
     void showAdvertisement(const std::string& /*path*/) override {}
     void showBusy(bool /*busy*/) override {}
 
     void showStatus(std::string_view text) override;
     void showProgress(int currentFile, int wholeRun) override;
-    void showForcedRun(bool running) override;
+    void showForcedRun(ForcedRun state) override;
+    void showRunMessage(const std::optional<Message>& message) override;
     void showDateRange(const Date& /*from*/, const Date& /*to*/) override {}
     void displayInfoMessageBox(std::string_view text) override;
     void openSetup() override;
@@ -43,6 +44,7 @@ class ConsoleView : public MainView {
     ConsoleBoxes& boxes_;
     std::function<void()> openSetup_;
     std::string alert_;
+    std::string told_;  // the last message
     int percent_ = -1;  // of the run; negative while nothing is fetched
 };
 

@@ -4,24 +4,27 @@
 #include <algorithm>
 #include <utility>
 
+#include <wx/app.h>
 #include <wx/display.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
 
 #include "desktop/MainMenu.h"
+#include "desktop/bars/FilterBar.h"
+#include "desktop/bars/FindBar.h"
+#include "desktop/bars/MessageBar.h"
+#include "desktop/bars/StatusLine.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/native/insistOnPlace.h"
-#include "desktop/panes/Advertisement.h"
-#include "desktop/panes/AlertPanel.h"
-#include "desktop/panes/DatePane.h"
-#include "desktop/panes/FilterBar.h"
-#include "desktop/panes/ForcedDownloadPane.h"
-#include "desktop/panes/MessageFrame.h"
-#include "desktop/panes/ProgressPane.h"
-#include "desktop/panes/StatusLine.h"
 #include "desktop/pictures.h"
+#include "desktop/reading/ReadingSplitter.h"
 #include "desktop/screenText.h"
+#include "desktop/sidebar/Advertisement.h"
+#include "desktop/sidebar/AlertPanel.h"
+#include "desktop/sidebar/DatePane.h"
+#include "desktop/sidebar/ForcedDownloadPane.h"
+#include "desktop/sidebar/ProgressPane.h"
 #include "desktop/twips.h"
 
 namespace vell {
@@ -35,16 +38,29 @@ void tell(const Event& event, const Arguments&... arguments) {
     if (event) event(arguments...);
 }
 
-// A window that was left on a display which is gone would never be found again.
+wxRect screenAt(int display) {
+    return wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
+}
+
+// A window that was left on a display which is gone would never be found again, and one larger than its display never
+// be seen whole.
 wxRect reachable(wxRect window) {
     constexpr int seizable = 40;  // enough of the title bar for the mouse
-    const wxPoint title(window.GetLeft() + window.GetWidth() / 2, window.GetTop() + seizable / 2);
-    if (wxDisplay::GetFromPoint(title) == wxNOT_FOUND) window.SetPosition(wxDisplay(0u).GetClientArea().GetPosition());
+    const int display =
+        wxDisplay::GetFromPoint({window.GetLeft() + window.GetWidth() / 2, window.GetTop() + seizable / 2});
+    const wxRect screen = screenAt(display);
+    if (display == wxNOT_FOUND) window.SetPosition(screen.GetPosition());
+    if (window.GetWidth() > screen.GetWidth()) window.SetLeft(screen.GetLeft()), window.SetWidth(screen.GetWidth());
+    if (window.GetHeight() > screen.GetHeight()) window.SetTop(screen.GetTop()), window.SetHeight(screen.GetHeight());
     return window;
 }
 }  // namespace
 
-MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr, wxID_ANY, "Vell") {
+MainWindow::MainWindow(const Clock& clock, const Files& files)
+    : wxFrame(nullptr, wxID_ANY, "Vell"),
+      presence_(*this, {[this] { tell(events_.NoticeChosen); },
+                        [this](int id) { CallAfter([this, id] { tell(events_.CommandChosen, id); }); },
+                        [this](int id) { return events_.IsEnabled && events_.IsEnabled(id); }}) {
     SetIcons(programIcons());
     addMenuBar(*this);
     addToolBar(*this);
@@ -52,26 +68,43 @@ MainWindow::MainWindow(const Clock& clock, const Files& files) : wxFrame(nullptr
     SetStatusBar(StatusBar1_);
     SetStatusBarPane(-1);  // the words for menu entries must not overwrite the status of a run
     addParts(clock, files);
-    SetMinSize(FromDIP(smallest));
+    wxSize least = FromDIP(smallest);
+    least.DecTo(screenAt(wxNOT_FOUND).GetSize());
+    SetMinSize(least);
     bindCommands();
 }
 
 void MainWindow::addParts(const Clock& clock, const Files& files) {
     auto* all = new wxPanel(this);
-    message_ = new MessageFrame(all);
+    message_ = new MessageBar(all, clock,
+                              {[this](const std::optional<SettingField>& setting) {
+                                   CallAfter([this, setting] { tell(events_.SettingInQuestion, setting); });
+                               },
+                               [this] { list_->focusList(); }});
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
     columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
+    find_ = new FindBar(all);
     filter_ = new FilterBar(all);
-    list_ =
-        new ClippingsList(all, clock,
-                          {[this](std::size_t row) { tell(events_.RowDoubleClicked, row); },
-                           [this](std::size_t row) { tell(events_.RowEntered, row); }, [this] { showContextMenu(); }});
+    reading_ = new ReadingSplitter(all);
+    list_ = new ClippingsList(
+        reading_, clock,
+        {[this](std::size_t row) { tell(events_.RowDoubleClicked, row); }, [this] { tell(events_.RowsEntered); },
+         [this](const wxPoint& place) { showContextMenu(place); },
+         [this](GridColumn column) { tell(events_.SortChosen, column); },
+         [this](const auto& rows) {
+             return events_.FilesWanted ? events_.FilesWanted(rows) : std::vector<std::string>();
+         },
+         [this] { showColumnMenu(); }, [this] { tell(events_.RowSelected); },
+         [this] { return events_.BlankPressed && events_.BlankPressed(); }});
+    reading_->setList(list_);
     addMenuKeys(*list_);  // GTK's list has uses of its own for Ctrl+F and Ctrl+P
-    filter_->MoveAfterInTabOrder(dates_);
-    list_->MoveAfterInTabOrder(filter_);
+    find_->MoveAfterInTabOrder(dates_);
+    filter_->MoveAfterInTabOrder(find_);
+    reading_->MoveAfterInTabOrder(filter_);
     auto* main = new wxBoxSizer(wxVERTICAL);
+    main->Add(find_, wxSizerFlags().Expand().Border(wxBOTTOM));
     main->Add(filter_, wxSizerFlags().Expand().Border(wxBOTTOM));
-    main->Add(list_, wxSizerFlags(1).Expand());
+    main->Add(reading_, wxSizerFlags(1).Expand());
     columns->Add(main, wxSizerFlags(1).Expand().Border(wxTOP | wxRIGHT | wxBOTTOM));
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(message_, wxSizerFlags().Expand());
@@ -86,7 +119,8 @@ wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
                                                  [this](const Date& to) { tell(events_.ToDateChanged, to); },
                                                  [this](const std::string& text) { tell(events_.DayMistyped, text); }});
     progress_ = new ProgressPane(&parent);
-    alert_ = new AlertPanel(&parent);
+    alert_ = new AlertPanel(&parent, {[this] { tell(events_.AlertSeen); },
+                                      [this](const std::string& address) { tell(events_.AddressChosen, address); }});
     advertisement_ = new Advertisement(&parent, files);
 
     auto* bar = new wxBoxSizer(wxVERTICAL);
@@ -110,7 +144,11 @@ void MainWindow::bindCommands() {
         Bind(wxEVT_BUTTON, begin, id);
         Bind(
             wxEVT_UPDATE_UI,
-            [this, id](wxUpdateUIEvent& event) { event.Enable(events_.IsEnabled && events_.IsEnabled(id)); }, id);
+            [this, id](wxUpdateUIEvent& event) {
+                event.Enable(events_.IsEnabled && events_.IsEnabled(id));
+                if (event.IsCheckable() && events_.IsOn) event.Check(events_.IsOn(id));
+            },
+            id);
     });
     Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent& event) {
         if (events_.Closing)
@@ -120,9 +158,15 @@ void MainWindow::bindCommands() {
     });
 }
 
-void MainWindow::showContextMenu() {
+void MainWindow::showContextMenu(const wxPoint& place) {
     wxMenu menu;
     addClippingItems(menu);
+    PopupMenu(&menu, ScreenToClient(place));
+}
+
+void MainWindow::showColumnMenu() {
+    wxMenu menu;
+    addColumnItems(menu);
     PopupMenu(&menu);
 }
 
@@ -139,8 +183,13 @@ void MainWindow::showMarks(std::size_t row) {
     list_->showMarks(row, rows_->at(row));
 }
 
-void MainWindow::showCount(std::string_view text) {
-    StatusBar1_->showCount(text);
+void MainWindow::showCounts(const CountTexts& texts) {
+    StatusBar1_->showCounts(texts);
+}
+
+// A run says by itself what it is about, and its rows are awaited.
+void MainWindow::showEmptyHint(const EmptyHint& hint) {
+    if (!download_->isRunning()) list_->showHint(hint);
 }
 
 void MainWindow::showAlert(std::string_view text) {
@@ -149,6 +198,14 @@ void MainWindow::showAlert(std::string_view text) {
 
 void MainWindow::showAdvertisement(const std::string& path) {
     advertisement_->show(path);
+}
+
+void MainWindow::offerAdvertisement(bool wanted) {
+    advertisement_->offer(wanted);
+}
+
+void MainWindow::showAlertIsNew(bool isNew) {
+    alert_->showIsNew(isNew);
 }
 
 void MainWindow::showBusy(bool busy) {
@@ -163,16 +220,43 @@ void MainWindow::showFilter(std::string_view text) {
     filter_->show(text);
 }
 
+void MainWindow::showOrder(const RowOrder& order) {
+    list_->showOrder(order);
+}
+
+void MainWindow::showSeveralDays(bool several) {
+    list_->columns().showDays(several);
+}
+
 void MainWindow::showStatus(std::string_view text) {
     StatusBar1_->showStatus(text);
+}
+
+void MainWindow::showLastRun(std::string_view text) {
+    StatusBar1_->showLastRun(text);
+}
+
+void MainWindow::showNextRun(std::string_view text) {
+    StatusBar1_->showNextRun(text);
+    presence_.showNextRun(text);
+}
+
+// Also when one of its dialogs has the keyboard.
+bool MainWindow::isLookedAt() const {
+    return wxTheApp->IsActive();
+}
+
+void MainWindow::showNotice(const RunNotice& notice) {
+    presence_.showNotice(notice);
 }
 
 void MainWindow::showProgress(int currentFile, int wholeRun) {
     progress_->show(currentFile, wholeRun);
 }
 
-void MainWindow::showForcedRun(bool running) {
-    download_->showRunning(running);
+void MainWindow::showForcedRun(ForcedRun state) {
+    download_->show(state);
+    if (state == ForcedRun::Running) list_->hideHint();
 }
 
 void MainWindow::showDateRange(const Date& from, const Date& to) {
@@ -180,7 +264,14 @@ void MainWindow::showDateRange(const Date& from, const Date& to) {
 }
 
 void MainWindow::displayInfoMessageBox(std::string_view text) {
-    message_->show(text);
+    message_->note(text);
+}
+
+void MainWindow::showRunMessage(const std::optional<Message>& message) {
+    if (message)
+        message_->add(*message);
+    else
+        message_->forgetRun();
 }
 
 void MainWindow::openSetup() {
@@ -202,20 +293,14 @@ void MainWindow::placeWindow(const WindowPlace& place) {
     window = reachable(window);
     SetSize(window);
     insistOnPlace(*this, window.GetPosition());
-    if (place.NewspaperWidth > 0) list_->setColumnWidth(GridColumn::Newspaper, pixels(place.NewspaperWidth));
-    if (place.TypeWidth > 0) list_->setColumnWidth(GridColumn::Type, pixels(place.TypeWidth));
 }
 
 std::optional<WindowPlace> MainWindow::windowPlace() const {
     if (IsIconized() || IsMaximized() || IsFullScreen()) return std::nullopt;
     const auto twips = [this](int pixels) { return twipsFromPixels(*this, pixels); };
     const wxRect window = GetRect();
-    return WindowPlace{twips(window.GetTop()),
-                       twips(window.GetLeft()),
-                       twips(window.GetWidth()),
-                       twips(window.GetHeight()),
-                       twips(list_->chosenWidth(GridColumn::Newspaper).value_or(0)),
-                       twips(list_->chosenWidth(GridColumn::Type).value_or(0))};
+    return WindowPlace{twips(window.GetTop()), twips(window.GetLeft()), twips(window.GetWidth()),
+                       twips(window.GetHeight())};
 }
 
 }  // namespace vell

@@ -7,7 +7,9 @@
 #include <utility>
 
 #include <wx/image.h>
+#include <wx/imaggif.h>
 #include <wx/imagjpeg.h>
+#include <wx/imagpng.h>
 #include <wx/log.h>
 #include <wx/utils.h>
 
@@ -16,10 +18,12 @@
 #include "desktop/MainWindow.h"
 #include "desktop/WindowCommands.h"
 #include "desktop/WindowLoop.h"
+#include "desktop/WxTranslations.h"
 #include "desktop/dialogs/WxMessageBoxes.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/native/showQuietly.h"
 #include "desktop/screenText.h"
+#include "platform/Process.h"
 #include "platform/SystemPlatform.h"
 
 namespace vell {
@@ -27,13 +31,14 @@ namespace vell {
 struct Program::Parts {
     explicit Parts(const std::optional<std::string>& folder)
         : System(folder),
-          Services(System.with(Boxes)),
+          Services(System.with(Boxes).with(Words)),
           Window(*new MainWindow(Services.Time, Services.Disk)),  // the toolkit deletes its windows
           Main(Services, Window, VELL_VERSION),
           Events(Main, Window, Boxes, [] { std::quick_exit(exit_code::Good); }),
           Marriage(System.loop()) {}
 
     WxMessageBoxes Boxes;
+    WxTranslations Words;
     SystemPlatform System;
     Platform Services;
     MainWindow& Window;
@@ -61,7 +66,11 @@ bool Program::Initialize(int& count, wxChar** arguments) {
 bool Program::OnInit() {
     SetAppName("vell");
     SetAppDisplayName("Vell");
-    wxImage::AddHandler(new wxJPEGHandler);  // for the advertisement; the toolkit deletes it
+    // For the advertisement, which may be in any of them whatever its name says. The toolkit deletes them.
+    wxImage::AddHandler(new wxJPEGHandler);
+    wxImage::AddHandler(new wxPNGHandler);
+    wxImage::AddHandler(new wxGIFHandler);
+    WxTranslations::open();
     started_ = start();
     if (!started_) return true;
     for (const int signal : {SIGINT, SIGTERM})
@@ -73,8 +82,11 @@ bool Program::start() {
     try {
         parts_ = std::make_unique<Parts>(folder_);
         if (parts_->Main.Form_Load(frmMain::Start::Window)) {
+            parts_->Events.showChosenView();
             showQuietly(parts_->Window);
             parts_->Window.list().focusList();
+            parts_->Services.Program.OnRaise([this] { parts_->Window.presence().comeToFront(); });
+            parts_->Events.welcome();
             return true;
         }
         exitCode_ = parts_->Main.isSecondInstance() ? exit_code::AlreadyRunning : exit_code::Good;

@@ -11,34 +11,57 @@
 #include "desktop/dialogs/FilterDialog.h"
 #include "desktop/dialogs/PrintDialog.h"
 #include "desktop/dialogs/ScheduleDialog.h"
-#include "desktop/dialogs/SetupDialog.h"
+#include "desktop/dialogs/setup/SetupDialog.h"
 #include "desktop/list/ClippingsList.h"
 
 namespace vell {
 
 WindowCommands::WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end)
-    : program_(program), window_(window), boxes_(boxes), end_(std::move(end)) {
+    : program_(program), window_(window), boxes_(boxes), end_(std::move(end)), onList_(program, window, dialogs_) {
+    onList_.addTo(table_);
     addClippingCommands();
     addDayCommands();
     addProgramCommands();
+    addFailureCommands();
+    addViewCommands();
+    addFindCommands();
+    addReadingCommands();
     listen();
 }
 
 WindowCommands::~WindowCommands() {
+    program_.reading().Text.showIn(nullptr);
+    program_.reading().Find.showIn(nullptr);
     window_.listenTo({});
+}
+
+void WindowCommands::welcome() {
+    if (program_.isFirstStart()) commandChosen(command::Setup);
 }
 
 void WindowCommands::listen() {
     window_.listenTo({
         .CommandChosen = [this](int id) { commandChosen(id); },
         .IsEnabled = [this](int id) { return isEnabled(id); },
+        .IsOn = [this](int id) { return isOn(id); },
         .DayChosen = [this](const Date& day) { program_.reading().Browser.chooseDay(day); },
         .RowDoubleClicked = [this](std::size_t row) { program_.reading().Opening.grdLocalFiles_DblClick(row); },
-        .RowEntered = [this](std::size_t row) { program_.reading().Opening.openRow(row); },
+        .RowsEntered = [this] { commandChosen(command::Open); },
+        .RowSelected = [this] { showText(); },
+        .BlankPressed = [this] { return readOn(); },
+        .SortChosen = [this](GridColumn column) { onList_.sortBy(column); },
+        .FilesWanted = [this](const auto& rows) { return program_.reading().Copies.paths(rows); },
         .RangeChosen = [this](bool onlyToday) { program_.downloads().chooseOnlyToday(onlyToday); },
         .FromDateChanged = [this](const Date& from) { program_.downloads().dtFromDate_Change(from); },
         .ToDateChanged = [this](const Date& to) { program_.downloads().dtToDate_Change(to); },
         .DayMistyped = [this](const std::string& text) { program_.downloads().typedNoDay(text); },
+        .NoticeChosen =
+            [this] {
+                if (const auto row = program_.news().goToNews()) window_.list().selectRow(*row);
+            },
+        .AlertSeen = [this] { program_.reading().Browser.alertSeen(); },
+        .AddressChosen = [this](const std::string& address) { program_.reading().Links.open(address); },
+        .SettingInQuestion = [this](const auto& setting) { setUp(setting); },
         .SetupWanted = [this] { setUpAndWait(); },
         .Closing = [this](bool mayBeRefused) { closing(mayBeRefused); },
     });
@@ -47,25 +70,12 @@ void WindowCommands::listen() {
 void WindowCommands::addClippingCommands() {
     const auto hasRows = [this] { return !program_.reading().Browser.rows().empty(); };
     const auto canPrint = [this, hasRows] { return hasRows() && !program_.reading().Printing.isPrinting(); };
-    const auto onRow = [this](auto action) {
-        return [this, action] {
-            if (const auto row = window_.list().currentRow()) action(*row);
-        };
-    };
-    const auto sortBy = [this](GridColumn column) { return [this, column] { window_.list().sortBy(column); }; };
-    table_[command::Open] = {onRow([this](std::size_t row) { program_.reading().Opening.openRow(row); }), hasRows};
     table_[command::OpenNext20] = {[this] { program_.reading().Opening.openNext20(); }, hasRows};
-    table_[command::PrintSelected] = {
-        onRow([this](std::size_t row) { program_.reading().Printing.mnuPrintSel_Click(row); }), hasRows};
     table_[command::PrintAll] = {[this] { program_.reading().Printing.mnuPrintAll_Click(); }, canPrint};
     table_[command::StopPrinting] = {[this] { program_.reading().Printing.stop(); },
                                      [this] { return program_.reading().Printing.isPrinting(); }};
     table_[command::PrintByCategory] = {[this] { printByCategory(); }, canPrint};
     table_[command::AutoView] = {[this] { showAutoView(); }, hasRows};
-    table_[command::SortByMarks] = {sortBy(GridColumn::Marks), hasRows};
-    table_[command::SortByNewspaper] = {sortBy(GridColumn::Newspaper), hasRows};
-    table_[command::SortByTitle] = {sortBy(GridColumn::Title), hasRows};
-    table_[command::SortByType] = {sortBy(GridColumn::Type), hasRows};
 }
 
 void WindowCommands::addDayCommands() {
@@ -76,8 +86,6 @@ void WindowCommands::addDayCommands() {
     table_[command::NewerDay] = {[this] { program_.reading().Days.chooseNewer(); }, hasDay};
     table_[command::OlderDay] = {[this] { program_.reading().Days.chooseOlder(); }, hasDay};
     table_[command::Filter] = {[this] { chooseFilter(); }, hasDay};
-    table_[command::ShowAll] = {[this] { program_.reading().Browser.setFilter({}); },
-                                [this] { return program_.reading().Browser.filter().isSet(); }};
 }
 
 void WindowCommands::addProgramCommands() {
@@ -85,8 +93,11 @@ void WindowCommands::addProgramCommands() {
     table_[command::Start] = {[this] { download(); }, [this] { return !program_.downloads().isBusy(); }};
     table_[command::Stop] = {[this] { program_.downloads().cmdStopDownload_Click(); },
                              [this] { return program_.downloads().isBusy() || window_.offersStop(); }};
-    table_[command::Setup] = {[this] { dialogs_.open(setupDialog(), [this] { program_.settingsSaved(); }); }, always};
-    table_[command::Schedule] = {[this] { dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog())); },
+    table_[command::Setup] = {[this] { setUp(std::nullopt); }, always};
+    table_[command::Schedule] = {[this] {
+                                     dialogs_.open(new ScheduleDialog(&window_, program_.scheduleDialog()),
+                                                   [this] { program_.news().showNextRun(); });
+                                 },
                                  always};
     table_[command::Refresh] = {[this] { program_.reading().Days.reload(); }, always};
     table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
@@ -96,7 +107,12 @@ void WindowCommands::addProgramCommands() {
 }
 
 void WindowCommands::printByCategory() {
-    dialogs_.open(new PrintDialog(&window_, program_.reading().Printing.mnuPrintByCategory_Click()));
+    constexpr std::string_view splitKey = "PrintSplit";
+    ViewSettings& looks = program_.viewSettings();
+    frmPrint rules = program_.reading().Printing.mnuPrintByCategory_Click();
+    rules.splitCategories(looks.flag(splitKey, false));
+    dialogs_.open(
+        new PrintDialog(&window_, std::move(rules), [&looks](bool split) { looks.keepFlag(splitKey, split); }));
 }
 
 void WindowCommands::chooseFilter() {
@@ -105,9 +121,15 @@ void WindowCommands::chooseFilter() {
 
 void WindowCommands::showAutoView() {
     if (!autoView_)
-        autoView_ = new AutoViewWindow(&window_, program_.reading().AutoView, [this] {
-            if (const auto row = window_.list().currentRow()) program_.reading().AutoView.start(*row);
-        });
+        autoView_ = new AutoViewWindow(&window_, program_.reading().AutoView,
+                                       {[this] {
+                                            if (const auto row = window_.list().currentRow())
+                                                program_.reading().AutoView.start(*row);
+                                        },
+                                        [this](const std::string& path) {
+                                            if (const auto row = program_.reading().Browser.rowOf(path))
+                                                window_.list().selectRow(*row);
+                                        }});
     autoView_->Show();
     autoView_->Raise();
 }
@@ -116,9 +138,16 @@ SetupDialog* WindowCommands::setupDialog() {
     return new SetupDialog(&window_, program_.setupDialog(), boxes_, program_.dialUpNames());
 }
 
-// For a run that cannot go on without the settings.
+void WindowCommands::setUp(const std::optional<SettingField>& setting) {
+    SetupDialog* dialog = setupDialog();
+    if (setting) dialog->goTo(*setting);
+    dialogs_.open(dialog, [this] { program_.settingsSaved(); });
+}
+
+// For a run whose login was refused.
 void WindowCommands::setUpAndWait() {
     const std::unique_ptr<SetupDialog> dialog(setupDialog());
+    dialog->goTo(&Settings::Pwd);
     if (dialog->ShowModal() == wxID_OK) program_.settingsSaved();
 }
 
@@ -143,9 +172,15 @@ bool WindowCommands::isEnabled(int id) const {
     return entry != table_.end() && entry->second.CanRun();
 }
 
+bool WindowCommands::isOn(int id) const {
+    const auto entry = table_.find(id);
+    return entry != table_.end() && entry->second.IsOn && entry->second.IsOn();
+}
+
 void WindowCommands::closing(bool mayBeRefused) {
     if (mayBeRefused && dialogs_.raise()) return;
     if (std::exchange(closing_, true)) return;  // the end may ask the user something, who may close once more
+    onList_.keepLooks();
     program_.Form_Unload();
     end_();
 }

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <functional>
-#include <map>
+#include <optional>
 
 #include <wx/weakref.h>
 
+#include "config/SettingsTable.h"
+#include "desktop/CommandTable.h"
+#include "desktop/ListCommands.h"
 #include "desktop/dialogs/AutoViewWindow.h"
 #include "desktop/dialogs/OpenDialogs.h"
 
@@ -22,27 +25,41 @@ class WindowCommands {
     // `end` ends the process. The window is deaf before this lives and after it.
     WindowCommands(frmMain& program, MainWindow& window, MessageBoxes& boxes, std::function<void()> end);
     ~WindowCommands();
+    // Leads a user for whom nothing is set up to Setup.
+    void welcome();
     WindowCommands(const WindowCommands&) = delete;
     WindowCommands& operator=(const WindowCommands&) = delete;
 
+    // The settings are there: the window gets the looks that its user has chosen.
+    void showChosenView();
+
   private:
-    struct Entry {
-        std::function<void()> Run;
-        std::function<bool()> CanRun;
-    };
     void listen();
     void commandChosen(int id);
     [[nodiscard]] bool isEnabled(int id) const;
+    [[nodiscard]] bool isOn(int id) const;
     void closing(bool mayBeRefused);
 
     void addClippingCommands();
     void addDayCommands();
     void addProgramCommands();
+    void addFailureCommands();
+    void addViewCommands();
+    void addFindCommands();
+    void find(const std::string& text);
+    void endFinding();
+    void showChosenFinding();
+    void addReadingCommands();
+    void showReadingPane();
+    void showText();
+    bool readOn();
+    void showFailedFiles();
     void download();
     void printByCategory();
     void chooseFilter();
     void showAutoView();
     [[nodiscard]] SetupDialog* setupDialog();
+    void setUp(const std::optional<SettingField>& setting);
     void setUpAndWait();
     void showAbout();
 
@@ -50,8 +67,9 @@ class WindowCommands {
     MainWindow& window_;
     MessageBoxes& boxes_;
     std::function<void()> end_;
-    std::map<int, Entry> table_;
+    CommandTable table_;
     OpenDialogs dialogs_;
+    ListCommands onList_;
     wxWeakRef<AutoViewWindow> autoView_;
     bool closing_ = false;
 };

@@ -7,12 +7,23 @@
 
 namespace vell {
 
-// The client's own error numbers that are set outside the tables of FtpErrors.cpp.
+// The client's own error numbers that callers tell apart, or that are set outside the tables of FtpErrors.cpp.
 namespace ftp_error {
+inline constexpr std::int32_t ConnectionAborted = 5;
+inline constexpr std::int32_t ConnectionRefused = 6;
+inline constexpr std::int32_t ConnectionReset = 7;
+inline constexpr std::int32_t HostNotFound = 9;
+inline constexpr std::int32_t HostNotFoundTryAgain = 10;
+inline constexpr std::int32_t NetworkUnreachable = 19;
+inline constexpr std::int32_t NoAddress = 21;
+inline constexpr std::int32_t ConnectTimedOut = 33;
 inline constexpr std::int32_t ServiceReadyLater = 37;
-inline constexpr std::int32_t UnknownCommand = 47;    // as for reply 500
-inline constexpr std::int32_t BadArgument = 48;       // as for reply 501
-inline constexpr std::int32_t UnknownParameter = 51;  // as for reply 504
+inline constexpr std::int32_t ServiceNotAvailable = 41;  // as for reply 421
+inline constexpr std::int32_t TransferAborted = 43;      // as for reply 426
+inline constexpr std::int32_t UnknownCommand = 47;       // as for reply 500
+inline constexpr std::int32_t BadArgument = 48;          // as for reply 501
+inline constexpr std::int32_t UnknownParameter = 51;     // as for reply 504
+inline constexpr std::int32_t FileUnavailable = 54;      // as for reply 550
 inline constexpr std::int32_t TimedOut = 58;
 inline constexpr std::int32_t TransferInProgress = 59;
 }  // namespace ftp_error

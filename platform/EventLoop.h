@@ -16,7 +16,12 @@ class EventLoop {
     // to any depth. An error that a handler lets escape ends up in the handler's own trap, never here.
     virtual void DoEvents() = 0;
 
-    // Returns as soon as something happened (and was handled), at the latest after `milliseconds`.
+    // The same for a caller that comes back within a moment, as one does who is told of every piece of a file: most of
+    // the time it does nothing, since events were looked at less than five milliseconds ago.
+    virtual void DoEventsNowAndThen() = 0;
+
+    // Returns as soon as something happened (and was handled), at the latest after `milliseconds`. A window's messages
+    // may wait for five milliseconds.
     virtual void WaitForEvents(int milliseconds) = 0;
 
     // Blocks without letting anything happen.

@@ -81,6 +81,8 @@ class Files {
                                                        Kind kind) const = 0;
 
     [[nodiscard]] virtual std::string ReadFile(std::string_view path) const = 0;
+    // The bytes from `offset` on, `most` of them; fewer only where the file ends.
+    [[nodiscard]] virtual std::string ReadPart(std::string_view path, std::int64_t offset, std::size_t most) const = 0;
     // Replaces or makes the file; what lies under its name is the old content or the new, never a part.
     virtual void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) = 0;
     // Makes the file when it is missing.
@@ -104,6 +106,17 @@ class Files {
     // The folder must be empty but for what Enumerate shows nobody, which goes with it: parts that are not being
     // written, files whose names the code page cannot say, links that lead nowhere.
     virtual void RemoveFolder(std::string_view path) = 0;
+
+    // For what people take elsewhere: paths in the system's own form, UTF-8. A folder of theirs may have a name that
+    // the code page cannot say.
+
+    // Of the file that is meant by a path.
+    [[nodiscard]] virtual std::string SystemPath(std::string_view path) const = 0;
+    // Is there anything of that name?
+    [[nodiscard]] virtual bool IsTaken(const std::string& systemPath) const = 0;
+    // Copies a file whole: what lies under the new name is what was there or the copy, never a part. Nothing else in
+    // that folder is touched.
+    virtual void CopyOut(std::string_view path, const std::string& systemPath) = 0;
 
     // Free bytes for the calling user on the drive that holds `path`, which need not exist itself; nothing when the
     // system cannot tell.

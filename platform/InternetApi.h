@@ -42,7 +42,8 @@ class InternetApi {
 
     // Reads at most `size` bytes; `read` 0 with a true result is the end. False when the answer ended before its
     // announced length, when the connection broke, when no byte came for 30 seconds, or fewer than 64 bytes a second
-    // over five minutes. A reader may take its time or stop: what is not read waits at the server, but for 2 MB.
+    // over five minutes. A reader may take its time or stop: what is not read waits at the server, but for half a
+    // megabyte.
     virtual bool InternetReadFile(Object& request, char* buffer, std::size_t size, std::size_t& read) = 0;
     // The last answer's raw headers, status line first, each line ended by CR LF, cut to `size` bytes; empty when no
     // answer came.

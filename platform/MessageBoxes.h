@@ -5,7 +5,14 @@
 
 namespace vell {
 
-enum class Buttons { Ok, OkCancel, YesNo, RetryCancel, AbortRetryIgnore };
+enum class Buttons {
+    Ok,
+    OkCancel,
+    YesNo,
+    NoYes,  // the same for what cannot be undone: who presses Enter without reading says no
+    RetryCancel,
+    AbortRetryIgnore
+};
 enum class BoxIcon { None, Information, Question, Warning, Error };
 enum class Answer { Ok, Cancel, Yes, No, Retry, Abort, Ignore };
 
@@ -15,6 +22,11 @@ class MessageBoxes {
   public:
     virtual ~MessageBoxes() = default;
     virtual Answer Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon icon) = 0;
+    // The same, with a word on what it would act on where the front-end has a place for it beside the text.
+    virtual Answer ShowWithDetail(std::string_view text, std::string_view /*detail*/, std::string_view caption,
+                                  Buttons buttons, BoxIcon icon) {
+        return Show(text, caption, buttons, icon);
+    }
 };
 
 // The caption of every box that has none of its own.

@@ -15,6 +15,7 @@ class Process;
 class RasApi;
 class Shell;
 class Sockets;
+class Translations;
 
 // Everything that the program has of the operating system, handed down by constructors. Owned by the program's main.
 struct Platform {
@@ -30,10 +31,15 @@ struct Platform {
     Process& Program;
     Shell& DesktopShell;
     Printers& Printer;
+    Translations& Words;
 
+    // The same in another language.
+    [[nodiscard]] Platform with(Translations& words) const {
+        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Program, DesktopShell, Printer, words};
+    }
     // The same with other message boxes.
     [[nodiscard]] Platform with(MessageBoxes& boxes) const {
-        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, boxes, Program, DesktopShell, Printer};
+        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, boxes, Program, DesktopShell, Printer, Words};
     }
 };
 

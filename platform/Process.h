@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace vell {
@@ -16,6 +17,11 @@ class Process {
     [[nodiscard]] virtual std::string DocumentsFolder() const = 0;
     // True when another process works in the same program folder; else this one holds the place until it ends.
     [[nodiscard]] virtual bool IsPreviousInstance() = 0;
+    // Of the other one: asks it to show its window, where it has one.
+    virtual void RaisePrevious() = 0;
+    // Of this one, once it holds the place: what to do when another asks for its window. Called from the loop of the
+    // window's toolkit.
+    virtual void OnRaise(std::function<void()> raise) = 0;
 };
 
 }  // namespace vell

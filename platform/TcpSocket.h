@@ -66,6 +66,9 @@ class TcpSocket {
     // Takes a block of them without copying any: what `block` held is gone, and its storage is used for what comes
     // next. False when there are none.
     [[nodiscard]] virtual bool TakeBlock(ByteBlock& block) = 0;
+    // What has arrived is acknowledged now, not with what is sent next: the peer may say no more before it knows. For a
+    // dialogue in short lines; where the system cannot be told so, nothing happens.
+    virtual void AcknowledgeNow() = 0;
     // Bytes that have arrived and not been read, and bytes given to SendData that have not left.
     [[nodiscard]] virtual std::size_t BytesReceived() const = 0;
     [[nodiscard]] virtual std::size_t BytesToSend() const = 0;

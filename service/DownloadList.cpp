@@ -8,6 +8,7 @@
 #include "config/Settings.h"
 #include "platform/Files.h"
 #include "platform/MessageBoxes.h"
+#include "service/FailureLog.h"
 #include "service/ListAnswer.h"
 #include "service/ListMerge.h"
 #include "service/RunFeedback.h"
@@ -42,7 +43,8 @@ std::string dayFields(const Date& day, std::string_view suffix) {
 }  // namespace
 
 bool DownloadList::GetDownloadFiles() {
-    return trap(p_.Log, "GetDownloadFiles()", false, [&] { return getList(); });
+    FailureLog log(p_.Log, p_.Feedback);
+    return trap(log, "GetDownloadFiles()", false, [&] { return getList(); });
 }
 
 bool DownloadList::getList() {
@@ -56,9 +58,11 @@ bool DownloadList::getList() {
         p_.Log.WriteLog("        A record of the list was dropped, it names no file of a clipping: '" + record + "'");
     switch (answer->What) {
         case ListAnswer::Kind::LoginRefused:
+            p_.Feedback.failed({Cause::LoginRefused});
             return false;
         case ListAnswer::Kind::NoList:
             p_.Log.WriteLog("        The answer is no list of clippings, " + answer->Fault);
+            p_.Feedback.failed({Cause::NoList, answer->Fault});
             return false;
         case ListAnswer::Kind::Silence:
             p_.Downloads.ServiceWasSilent = true;
@@ -96,14 +100,14 @@ std::string DownloadList::listRequest() const {
            dayFields(p_.Day.gCurrentDate, "2") + "&vellVersion=" + p_.Version;
 }
 
-std::unordered_set<std::string> DownloadList::storeIndex(const std::vector<std::string>& records) {
+Merged DownloadList::storeIndex(const std::vector<std::string>& records) {
     const std::string path = p_.Day.gDayFolder + std::string(indexFileName);
-    const Merged merged = mergeInto(path, records);
+    Merged merged = mergeInto(path, records);
     for (const std::string& name : merged.GoneFiles) {
         p_.Log.WriteLog("        The service does not list " + name + " any more");
         p_.Store.DeleteArticleFiles(name);
     }
-    return merged.ChangedFiles;
+    return merged;
 }
 
 Merged DownloadList::mergeInto(const std::string& path, const std::vector<std::string>& records) {
@@ -113,8 +117,7 @@ Merged DownloadList::mergeInto(const std::string& path, const std::vector<std::s
     return merged;
 }
 
-void DownloadList::fillDownloadList(const std::vector<std::string>& records,
-                                    const std::unordered_set<std::string>& changed) {
+void DownloadList::fillDownloadList(const std::vector<std::string>& records, const Merged& merged) {
     append({.FileName = advertisementFile, .Size = advertisementSize, .Change = {}});
     for (const std::string& record : records) {
         if (record.empty()) continue;
@@ -123,7 +126,11 @@ void DownloadList::fillDownloadList(const std::vector<std::string>& records,
         const std::string change(indexChange(record));
         auto forms = clippingForms(name);
         for (std::size_t i = 0; i < forms.size(); ++i)
-            append({std::move(forms[i]), indexSize(record, sizeFields[i]), change, changed.contains(name)});
+            append({.FileName = std::move(forms[i]),
+                    .Size = indexSize(record, sizeFields[i]),
+                    .Change = change,
+                    .IsNew = merged.NewFiles.contains(name),
+                    .IsOutdated = merged.ChangedFiles.contains(name)});
     }
 }
 
@@ -144,8 +151,10 @@ bool DownloadList::GetAlert() {
             p_.Log.WriteLog("        A web page came in place of the alert.");
             return false;
         }
-        p_.Disk.WriteWhole(p_.Day.gDayFolder + std::string(alertFileName), std::string(alert) + "\r\n",
-                           Durability::Rename);
+        const std::string path = p_.Day.gDayFolder + std::string(alertFileName);
+        const std::string stored = std::string(alert) + "\r\n";
+        p_.Downloads.HasNewAlert = !p_.Disk.PathExists(path) || p_.Disk.ReadFile(path) != stored;
+        p_.Disk.WriteWhole(path, stored, Durability::Rename);
         return true;
     });
 }

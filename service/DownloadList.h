@@ -4,7 +4,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -53,11 +52,11 @@ class DownloadList {
     // The login was refused. True when the user has changed it.
     [[nodiscard]] bool mayAskAgain();
     [[nodiscard]] std::string listRequest() const;
-    // Gives the articles of which the service has another version than the last time.
-    [[nodiscard]] std::unordered_set<std::string> storeIndex(const std::vector<std::string>& records);
+    // Removes what the service does not list any more, too.
+    [[nodiscard]] Merged storeIndex(const std::vector<std::string>& records);
     // Replaces the index in one step, with nobody's marks lost meanwhile.
     [[nodiscard]] Merged mergeInto(const std::string& path, const std::vector<std::string>& records);
-    void fillDownloadList(const std::vector<std::string>& records, const std::unordered_set<std::string>& changed);
+    void fillDownloadList(const std::vector<std::string>& records, const Merged& merged);
     void append(DownloadEntry entry);
 
     Parts p_;

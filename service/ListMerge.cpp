@@ -32,6 +32,7 @@ Merged mergeWithIndex(const std::vector<std::string>& records, std::string_view 
     Merged merged;
     for (std::string line : records) {
         if (const auto old = oldLineOf.extract(indexKey(line))) takeOver(line, old.mapped(), merged.ChangedFiles);
+        if (!isMarked(line)) merged.NewFiles.emplace(indexKey(line));
         appendIndexLine(merged.Index, line);
     }
     for (const std::string_view line : oldLines)

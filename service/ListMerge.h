@@ -12,6 +12,7 @@ namespace vell {
 struct Merged {
     std::string Index;                             // the text of the new index
     std::vector<std::string> GoneFiles;            // clippings of the old index that the list does not name
+    std::unordered_set<std::string> NewFiles;      // clippings that are not here as the list names them
     std::unordered_set<std::string> ChangedFiles;  // clippings of which the service has another version now
 };
 

@@ -6,6 +6,7 @@
 
 #include "base/text.h"
 #include "config/Settings.h"
+#include "service/FailureLog.h"
 #include "service/RunFeedback.h"
 
 namespace vell {
@@ -38,6 +39,12 @@ std::string pathText(std::string_view path) {
         }
     }
     return text;
+}
+
+// Without the protocol's name.
+std::string_view statusLine(std::string_view headers) {
+    headers.remove_prefix(InStr(headers, " "));
+    return Trim(headers.substr(0, headers.find_first_of("\r\n")));
 }
 
 }  // namespace
@@ -81,7 +88,8 @@ struct modHTTP::Exchange {
 
 bool modHTTP::OpenUrl(std::string_view method, std::string_view host, std::string_view script,
                       std::string_view postData, std::string& body, std::string& headers) {
-    return trap(log_, "OpenUrl()", false, [&] {
+    FailureLog log(log_, feedback_);
+    return trap(log, "OpenUrl()", false, [&] {
         body.clear();
         headers.clear();
         const bool result = exchange({method, host, script, postData}, body, headers);
@@ -94,7 +102,10 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     InternetApi::Handle session;
     InternetApi::Handle connection;
     const InternetApi::Handle http = openRequest(request, session, connection);
-    if (!http) return false;
+    if (!http) {
+        feedback_.failed(internetFailure(internet_.LastError(), request.Host));
+        return false;
+    }
 
     log_.WriteLog("HttpAddRequestHeaders function");
     log_.WriteLog(std::string("        Headers:").append(formHeader));
@@ -103,7 +114,7 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     log_.WriteLog("HttpSendRequest function");
     log_.WriteLog(std::string("        PostData:").append(request.PostData));
     const bool sent = internet_.HttpSendRequest(*http, request.PostData);
-    if (!sent) logFailure("The service could not be reached");
+    if (!sent) logFailure("The service could not be reached", request.Host);
 
     std::array<char, readStep> buffer{};
     std::size_t read = 0;
@@ -121,13 +132,14 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     headers = internet_.RawHeaders(*http, longestHeaders);
     log_.WriteLog("        Headers:" + headers);
     if (InStr(headers, " ") == 0) {
+        if (sent) feedback_.failed({Cause::ConnectionLost, std::string(request.Host)});
         body.clear();
         headers.clear();
         return false;
     }
     bool result = judge(headers);
     if (result && !whole) {
-        logFailure("The answer was cut short");
+        logFailure("The answer was cut short", request.Host);
         result = false;
     }
     log_.WriteLog(std::string(" OpenUrl Return Status: ").append(BooleanText(result)));
@@ -165,6 +177,7 @@ bool modHTTP::logHandle(const InternetApi::Handle& handle) {
 bool modHTTP::judge(std::string_view headers) {
     const std::string_view status = Mid(headers, InStr(headers, " ") + 1, 3);
     if (status == "200") return true;
+    feedback_.failed({Cause::ServiceStatus, std::string(statusLine(headers))});
     if (status == "500")
         feedback_.displayInfoMessageBox("Quillon Service not available. Please try again later.");
     else
@@ -172,14 +185,16 @@ bool modHTTP::judge(std::string_view headers) {
     return false;
 }
 
-void modHTTP::logFailure(std::string_view what) {
+void modHTTP::logFailure(std::string_view what, std::string_view host) {
     log_.WriteLog("        " + std::string(what) + ". Error " + std::to_string(internet_.LastError()));
+    feedback_.failed(internetFailure(internet_.LastError(), host));
 }
 
 bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string& localPath, PartFile& part,
                                std::int32_t& bytesReceived) {
     bytesReceived = 0;
-    return trap(log_, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, part, bytesReceived); });
+    FailureLog log(log_, feedback_);
+    return trap(log, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, part, bytesReceived); });
 }
 
 bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
@@ -188,17 +203,19 @@ bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath,
     const auto file =
         session ? internet_.InternetOpenUrl(*session, BuildClippingUrl(settings_.Host, remoteName)) : nullptr;
     if (!file) {
-        logFailure("The file is not available");
+        logFailure("The file is not available", settings_.Host);
         feedback_.StatusBar(feedback_.statusText() + " File Not Available");
         return false;
     }
     const std::string status = internet_.StatusCode(*file);
     if (!status.starts_with("200")) {
         log_.WriteLog("        The service answered with status " + status);
+        feedback_.failed(status == "404" ? Failure{Cause::NotThere} : Failure{Cause::ServiceStatus, status});
         return false;
     }
     const auto end = receiver_.receive(*file, localPath, part, bytesReceived);
-    if (end == FileReceiver::End::Cut) logFailure("The file was cut short");
+    if (end == FileReceiver::End::Cut) logFailure("The file was cut short", settings_.Host);
+    if (end == FileReceiver::End::NoRoom) feedback_.failed({Cause::DiskFull});
     return end == FileReceiver::End::Whole;
 }
 

@@ -49,7 +49,7 @@ class modHTTP {
                                                   InternetApi::Handle& connection);
     [[nodiscard]] bool logHandle(const InternetApi::Handle& handle);
     [[nodiscard]] bool judge(std::string_view headers);
-    void logFailure(std::string_view what);
+    void logFailure(std::string_view what, std::string_view host);
 
     [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
                              std::int32_t& bytesReceived);

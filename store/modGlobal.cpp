@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <map>
 #include <unordered_map>
 #include <utility>
 
@@ -144,11 +145,6 @@ void modGlobal::deleteFromSelectedDay(std::span<const std::string> fileNames, st
 
 namespace {
 
-// The place behind the last backslash of a trimmed path; 0 when there is none.
-std::size_t nameStart(std::string_view path) {
-    return InStrRev(path, "\\");
-}
-
 // A file's name as a key: what would end the key, or make its line a comment or a section, is written as a character
 // that no clipping's name has.
 std::string markKey(std::string_view name) {
@@ -160,38 +156,65 @@ std::string markKey(std::string_view name) {
 
 }  // namespace
 
+std::optional<modGlobal::MarkPlace> modGlobal::placeOf(const Mark& mark, std::string_view path) {
+    path = Trim(path);
+    const std::size_t backslash = InStrRev(path, "\\");
+    if (backslash == 0) return std::nullopt;
+    return MarkPlace{std::string(Left(path, backslash)).append(mark.File), markKey(Mid(path, backslash + 1))};
+}
+
 bool modGlobal::setMark(const Mark& mark, std::string_view path) {
     return trap(p_.Log, mark.Procedure, false, [&] {
-        path = Trim(path);
-        const std::size_t start = nameStart(path);
-        if (start == 0) return false;
-        const std::string file = std::string(Left(path, start)).append(mark.File);
-        return p_.Ini.IniWriteString(file, mark.Section, markKey(Mid(path, start + 1)), "1");
+        const auto place = placeOf(mark, path);
+        return place && p_.Ini.IniWriteString(place->File, mark.Section, place->Key, "1");
     });
 }
 
 bool modGlobal::hasMark(const Mark& mark, std::string_view path) const {
     return trap(p_.Log, mark.Procedure, false, [&] {
-        path = Trim(path);
-        const std::size_t start = nameStart(path);
-        if (start == 0) return false;
-        const std::string file = std::string(Left(path, start)).append(mark.File);
+        const auto place = placeOf(mark, path);
         std::string value;
-        return p_.Ini.IniReadString(file, mark.Section, markKey(Mid(path, start + 1)), value) && Trim(value) == "1";
+        return place && p_.Ini.IniReadString(place->File, mark.Section, place->Key, value) && Trim(value) == "1";
+    });
+}
+
+bool modGlobal::markOpened(std::span<const std::string> paths, bool opened) {
+    return trap(p_.Log, openedMark.Procedure, false, [&] {
+        std::map<std::string, std::vector<IniEdit>> edits;  // of each day's marks
+        for (const std::string& path : paths)
+            if (const auto place = placeOf(openedMark, path); place && IsFileOpened(path) != opened)
+                edits[place->File].push_back({std::string(openedMark.Section), place->Key, opened ? "1" : "0"});
+        bool all = true;
+        for (const auto& [file, marks] : edits)
+            all = p_.Ini.IniWriteStrings(file, marks) && all;
+        return all;
     });
 }
 
 bool modGlobal::MarkFileOpened(std::string_view path) {
-    return setMark({openedFileName, "VIEW", "MarkFileOpened()"}, path);
+    return setMark(openedMark, path);
 }
 bool modGlobal::MarkFilePrinted(std::string_view path) {
-    return setMark({printedFileName, "PRINT", "MarkFilePrinted()"}, path);
+    return setMark(printedMark, path);
 }
 bool modGlobal::IsFileOpened(std::string_view path) const {
     return hasMark({openedFileName, "VIEW", "IsFileOpened()"}, path);
 }
 bool modGlobal::IsFilePrinted(std::string_view path) const {
     return hasMark({printedFileName, "PRINT", "IsFilePrinted()"}, path);
+}
+
+// Marks that cannot be read are asked for all the same, so that each clipping's failure is told as ever.
+void modGlobal::withMarksOf(const std::string& dayFolder, const std::function<void()>& asks) const {
+    bool asked = false;
+    const auto ask = [&] {
+        asked = true;
+        asks();
+    };
+    const std::string opened = std::string(dayFolder).append(openedFileName);
+    const std::string printed = std::string(dayFolder).append(printedFileName);
+    p_.Ini.readAtOnce(opened, [&] { p_.Ini.readAtOnce(printed, ask); });
+    if (!asked) asks();
 }
 
 }  // namespace vell

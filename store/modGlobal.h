@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -59,8 +61,13 @@ class modGlobal {
     // The paths are full ones; without a backslash nothing is done and the result is false.
     bool MarkFileOpened(std::string_view path);
     bool MarkFilePrinted(std::string_view path);
+    // Marks all of these files as opened, or as not opened, in one step for each day. False when a mark was not
+    // written.
+    bool markOpened(std::span<const std::string> paths, bool opened);
     [[nodiscard]] bool IsFileOpened(std::string_view path) const;
     [[nodiscard]] bool IsFilePrinted(std::string_view path) const;
+    // Runs `asks`, in which the marks of that day's folder are read from the disk once for all clippings.
+    void withMarksOf(const std::string& dayFolder, const std::function<void()>& asks) const;
 
     // A day's folder, backslash at its end. Raises RunTimeError when there is no download root or no such day, so that
     // nothing is ever made or deleted outside a day folder.
@@ -72,6 +79,14 @@ class modGlobal {
         std::string_view Section;
         std::string_view Procedure;
     };
+    static constexpr Mark openedMark{openedFileName, "VIEW", "MarkFileOpened()"};
+    static constexpr Mark printedMark{printedFileName, "PRINT", "MarkFilePrinted()"};
+    // Where a file's mark stands.
+    struct MarkPlace {
+        std::string File;
+        std::string Key;
+    };
+    [[nodiscard]] static std::optional<MarkPlace> placeOf(const Mark& mark, std::string_view path);
     bool setMark(const Mark& mark, std::string_view path);
     [[nodiscard]] bool hasMark(const Mark& mark, std::string_view path) const;
 

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# The checks of the sources: format, forbidden words, floors, headers that compile alone, clang-tidy, the release, and
-# the other system's compiler for everything above platform/.
+# The checks of the sources: format, forbidden words, floors, headers that compile alone, catalogues, clang-tidy, the
+# release, and the other system's compiler for everything above platform/.
 #   tools/check.sh          everything
-#   tools/check.sh --fast   all but clang-tidy, the release and the other system's compiler
+#   tools/check.sh --fast   all but the catalogues, clang-tidy, the release and the other system's compiler
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -40,7 +40,7 @@ git grep -n -E '#include <(asio|curl|gio|glib|wx|windows|unistd|sys/|poll)' -- '
   ':!demo/' ':!tests/' ':!bench/' && fail "system headers outside platform/"
 
 echo "== documents"
-for folder in "${floors[@]}" console desktop demo tests bench fuzz packaging; do
+for folder in "${floors[@]}" console desktop demo tests bench fuzz packaging po; do
   [ ! -d "$folder" ] || grep -q "\`$folder/\`" docs/architecture.md || fail "docs/architecture.md does not name $folder/"
 done
 if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh .ci/run || fail "shellcheck"; fi
@@ -60,6 +60,9 @@ git ls-files 'desktop/native/generic/*.cpp' | xargs -P "$(nproc)" -I{} g++ $flag
   fail "desktop/native/generic does not compile"
 
 if [ "$fast" -eq 0 ]; then
+  echo "== catalogues"
+  tools/messages.sh --check || fail "po/ is not up to date"
+
   echo "== clang-tidy"
   units=$(sources | grep '\.cpp$' | grep -v -E '^(platform/windows|desktop/native/generic|fuzz|bench)/')
   echo "$units" | xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --extra-arg=-Wno-unknown-warning-option 2>/dev/null || fail "clang-tidy"

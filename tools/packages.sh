@@ -4,12 +4,12 @@
 set -euo pipefail
 
 # The last two let GTK draw its own pictures, which it only recommends.
-build=(g++ cmake ninja-build pkg-config libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev libwxgtk3.2-dev
+build=(g++ cmake gettext ninja-build pkg-config libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev libwxgtk3.2-dev
   libgtk-3-dev librsvg2-common shared-mime-info)
 window=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick python3-gi xdotool xvfb)
-test=("${build[@]}" "${window[@]}" libgtest-dev libgmock-dev curl python3-dbusmock python3-pyftpdlib proftpd-core)
+test=("${build[@]}" "${window[@]}" libgtest-dev libgmock-dev curl python3-dbusmock python3-pyftpdlib proftpd-core trayer)
 check=("${build[@]}" libgtest-dev libgmock-dev clang-format clang-tidy g++-mingw-w64-x86-64-posix git)
-bench=("${build[@]}" "${window[@]}" libbenchmark-dev nginx-light proftpd-core openssl time curl)
+bench=("${build[@]}" "${window[@]}" libbenchmark-dev nginx-light proftpd-core openssl curl wget aria2 lftp iproute2 python3)
 
 wanted=()
 for job in "$@"; do

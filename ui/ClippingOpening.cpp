@@ -7,6 +7,8 @@
 #include "store/Articles.h"
 #include "store/modGlobal.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/numberedText.h"
+#include "ui/wantsMany.h"
 
 namespace vell {
 
@@ -14,59 +16,72 @@ namespace {
 constexpr std::size_t openedAtOnce = 20;
 }
 
-ClippingOpening::ClippingOpening(ClippingsBrowser& browser, modGlobal& store, Articles& articles, EventLog& log,
-                                 StatusText status, StatusText message)
-    : browser_(browser),
-      store_(store),
-      articles_(articles),
-      log_(log),
-      status_(std::move(status)),
-      message_(std::move(message)) {}
+ClippingOpening::ClippingOpening(const Parts& parts, StatusText status, StatusText message)
+    : p_(parts), status_(std::move(status)), message_(std::move(message)) {}
 
 void ClippingOpening::grdLocalFiles_DblClick(std::size_t row) {
-    trapStep(log_, "grdLocalFiles_DblClick()", [&] {
-        const std::string path = browser_.rows().at(row).path();
-        if (store_.IsFileOpened(path))
+    trapStep(p_.Log, "grdLocalFiles_DblClick()", [&] {
+        const std::string path = p_.Browser.rows().at(row).path();
+        if (p_.Store.IsFileOpened(path))
             status_("This clipping has been opened already. Press Enter to open it again.");
         else
             open(path);
     });
 }
 
-void ClippingOpening::openRow(std::size_t row) {
-    trapStep(log_, "grdLocalFiles_KeyPress()", [&] { open(browser_.rows().at(row).path()); });
-}
-
 void ClippingOpening::openNext20() {
-    trapStep(log_, "mnuOpenNext_Click()", [&] {
+    trapStep(p_.Log, "mnuOpenNext_Click()", [&] {
         std::vector<std::string> next;
-        for (const ClippingRow& row : browser_.rows())
+        for (const ClippingRow& row : p_.Browser.rows())
             if (!row.Opened && next.size() < openedAtOnce) next.push_back(row.path());
         if (next.empty()) status_("All clippings of the list have been opened already.");
-        for (const std::string& path : next)
-            if (open(path) == Outcome::Failed) return;
+        openAll(next);
+    });
+}
+
+void ClippingOpening::openRows(std::span<const std::size_t> rows) {
+    trapStep(p_.Log, "grdLocalFiles_KeyPress()", [&] {
+        const std::vector<std::string> paths = p_.Browser.pathsOf(rows);
+        if (wantsMany(p_.Boxes, paths.size(),
+                      numberedText(p_.Words, "Open %d clipping?", "Open %d clippings?", paths.size())))
+            openAll(paths);
+    });
+}
+
+void ClippingOpening::openAll(const std::vector<std::string>& paths) {
+    for (const std::string& path : paths)
+        if (open(path) == Outcome::Failed) return;
+}
+
+void ClippingOpening::markRows(std::span<const std::size_t> rows, bool opened) {
+    trapStep(p_.Log, "mnuMark_Click()", [&] {
+        const std::vector<std::string> paths = p_.Browser.pathsOf(rows);
+        if (!p_.Store.markOpened(paths, opened))
+            message_(p_.Words.translate("The marks could not be written. The log says why."));
+        p_.Browser.refreshMarks(paths);
     });
 }
 
 void ClippingOpening::openDayFolder() {
-    trapStep(log_, "mnuOpenFolder_Click()", [&] {
-        if (const auto day = browser_.chosenDay()) articles_.ShellExec(store_.folderOfDay(*day), "");
+    trapStep(p_.Log, "mnuOpenFolder_Click()", [&] {
+        if (const auto day = p_.Browser.chosenDay()) p_.Article.ShellExec(p_.Store.folderOfDay(*day), "");
     });
 }
 
 void ClippingOpening::openHelp() {
-    articles_.ShellExec("Vellhelp.htm", "");
+    // Translators: the file of the help page in this language, beside the English one.
+    p_.Article.ShellExec(p_.Words.translate("Vellhelp.htm"), "");
 }
 
 void ClippingOpening::openAddress(const std::string& address) {
-    articles_.ShellExec(address, "");
+    p_.Article.ShellExec(address, "");
 }
 
 ClippingOpening::Outcome ClippingOpening::open(const std::string& path) {
-    if (!articles_.ShellExec(path, "")) return Outcome::Failed;
-    const bool isMarked = store_.MarkFileOpened(path);
+    if (!p_.Article.ShellExec(path, "")) return Outcome::Failed;
+    const bool isMarked = p_.Store.MarkFileOpened(path);
     if (!isMarked) message_("Opened, but it could not be marked as opened. The log says why.");
-    browser_.refreshMarks(path);
+    p_.Browser.refreshMarks(path);
     return isMarked ? Outcome::Done : Outcome::Unmarked;
 }
 

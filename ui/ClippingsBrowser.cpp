@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
+#include <unordered_set>
 #include <utility>
 
 #include "base/text.h"
@@ -10,6 +12,9 @@
 #include "platform/Files.h"
 #include "store/modGlobal.h"
 #include "ui/BusyMoment.h"
+#include "ui/find/FoundClippings.h"
+#include "ui/list/CountTexts.h"
+#include "ui/list/EmptyHint.h"
 
 namespace vell {
 
@@ -37,18 +42,51 @@ void ClippingsBrowser::PopulateDateCombo() {
 void ClippingsBrowser::PopulateLocalFilesGrid() {
     trapStep(p_.Log, "PopulateLocalFilesGrid()", [&] {
         const BusyMoment busy(p_.View);
-        std::vector<ClippingRow> rows;
-        dayFiles_ = {};
-        if (p_.Day.cmbDate) {
-            const std::array<std::string, 2> patterns{"*.PDF", ""};
-            dayFiles_ = p_.Store.GetLocalFiles(p_.Store.folderOfDay(*p_.Day.cmbDate), patterns);
-        }
-        for (const auto& file : dayFiles_)
-            if (filter_.passes(*file)) ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file}));
-        rows_ = std::move(rows);
-        p_.View.showClippings(rows_);
-        refreshClippingsCount();
+        readDay();
+        listRows();
     });
+    if (dayRead_) dayRead_();
+}
+
+void ClippingsBrowser::readDay() {
+    dayFiles_ = {};
+    dayRows_.clear();
+    if (!p_.Day.cmbDate) return;
+    const std::array<std::string, 2> patterns{"*.PDF", ""};
+    const std::string folder = p_.Store.folderOfDay(*p_.Day.cmbDate);
+    dayFiles_ = p_.Store.GetLocalFiles(folder, patterns);
+    p_.Store.withMarksOf(folder, [this] {
+        for (const auto& file : dayFiles_)
+            ShowOpenPrintedPicture(dayRows_.emplace_back(ClippingRow{file, dayRows_.size()}));
+    });
+}
+
+void ClippingsBrowser::listRows() {
+    std::vector<ClippingRow> rows = wantedRows();
+    std::erase_if(rows, [this](const ClippingRow& row) { return !filter_.passes(*row.File); });
+    if (listing_) listing_(rows);
+    order_.sort(rows);
+    rows_ = std::move(rows);
+    p_.View.showClippings(rows_);
+    showHint();
+    refreshClippingsCount();
+}
+
+std::vector<ClippingRow> ClippingsBrowser::wantedRows() {
+    if (!found_) return dayRows_;
+    if (!found_->OfDay) return rowsOfAllDays();
+    std::vector<ClippingRow> rows;
+    if (found_->OfDay == p_.Day.cmbDate)
+        std::ranges::copy_if(dayRows_, std::back_inserter(rows),
+                             [this](const ClippingRow& row) { return found_->Names.contains(row.File->FileName); });
+    return rows;
+}
+
+std::vector<ClippingRow> ClippingsBrowser::rowsOfAllDays() {
+    std::vector<ClippingRow> rows;
+    for (const auto& file : found_->Clippings)
+        ShowOpenPrintedPicture(rows.emplace_back(ClippingRow{file, rows.size()}));
+    return rows;
 }
 
 void ClippingsBrowser::refresh() {
@@ -83,35 +121,111 @@ void ClippingsBrowser::loadAlert() {
             if (p_.Disk.PathExists(path)) alert = p_.Disk.ReadFile(path);
         }
         p_.View.showAlert(alert);
+        p_.View.showAlertIsNew(p_.Day.cmbDate && news_.isAlertNew(*p_.Day.cmbDate));
     });
 }
 
-void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) const {
+void ClippingsBrowser::alertSeen() {
+    if (!p_.Day.cmbDate || !news_.isAlertNew(*p_.Day.cmbDate)) return;
+    news_.alertSeen(*p_.Day.cmbDate);
+    p_.View.showAlertIsNew(false);
+}
+
+std::optional<std::size_t> ClippingsBrowser::rowOf(const std::string& path) const {
+    const auto found = std::ranges::find(rows_, path, &ClippingRow::path);
+    return found == rows_.end() ? std::nullopt : std::optional(static_cast<std::size_t>(found - rows_.begin()));
+}
+
+void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) {
     const std::string path = row.path();
     row.Opened = p_.Store.IsFileOpened(path);
     row.Printed = p_.Store.IsFilePrinted(path);
+    row.New = !row.Opened && news_.isNew(path);
+    if (row.Number < dayRows_.size() && dayRows_[row.Number].path() == path) dayRows_[row.Number] = row;
 }
 
 void ClippingsBrowser::ShowOpenPrintedPicture(std::size_t row) {
     ShowOpenPrintedPicture(rows_.at(row));
     p_.View.showMarks(row);
+    refreshClippingsCount();
 }
 
 void ClippingsBrowser::refreshMarks(const std::string& path) {
+    refreshMarks(std::span(&path, 1));
+}
+
+void ClippingsBrowser::refreshMarks(std::span<const std::string> paths) {
     trapStep(p_.Log, "ShowOpenPrintedPicture()", [&] {
-        for (std::size_t row = 0; row < rows_.size(); ++row)
-            if (rows_[row].path() == path) ShowOpenPrintedPicture(row);
+        const std::unordered_set<std::string_view> changed(paths.begin(), paths.end());
+        for (std::size_t row = 0; row < rows_.size(); ++row) {
+            if (!changed.contains(rows_[row].path())) continue;
+            ShowOpenPrintedPicture(rows_[row]);
+            p_.View.showMarks(row);
+        }
+        refreshClippingsCount();
     });
+}
+
+std::vector<std::string> ClippingsBrowser::pathsOf(std::span<const std::size_t> rows) const {
+    std::vector<std::string> paths;
+    paths.reserve(rows.size());
+    for (const std::size_t row : rows)
+        paths.push_back(rows_.at(row).path());
+    return paths;
+}
+
+void ClippingsBrowser::sortBy(GridColumn column) {
+    RowOrder order = order_;
+    order.choose(column);
+    setOrder(order);
+}
+
+void ClippingsBrowser::showPage(std::size_t row, const std::string& page) {
+    rows_.at(row).Page = page;
+    p_.View.showMarks(row);
+}
+
+void ClippingsBrowser::setOrder(const RowOrder& order) {
+    order_ = order;
+    order_.sort(rows_);
+    p_.View.showOrder(order_);
+    p_.View.showClippings(rows_);
 }
 
 void ClippingsBrowser::setFilter(ClippingFilter filter) {
     filter_ = std::move(filter);
-    p_.View.showFilter(filter_.text());
+    p_.View.showFilter(filter_.text(p_.Words));
     PopulateLocalFilesGrid();
 }
 
+void ClippingsBrowser::setFound(std::shared_ptr<const FoundClippings> found) {
+    if (!found && !found_) return;
+    const auto isOfAllDays = [](const auto& one) { return one && !one->OfDay; };
+    const bool wasOfAllDays = isOfAllDays(found_);
+    const bool comesBack = wasOfAllDays && !isOfAllDays(found);
+    found_ = std::move(found);
+    trapStep(p_.Log, "PopulateLocalFilesGrid()", [&] {
+        if (isOfAllDays(found_) != wasOfAllDays) p_.View.showSeveralDays(!wasOfAllDays);
+        if (comesBack && !dayRows_.empty())  // they may have been opened among those of all days
+            p_.Store.withMarksOf(dayRows_.front().File->FilePath, [this] {
+                for (ClippingRow& row : dayRows_)
+                    ShowOpenPrintedPicture(row);
+            });
+        listRows();
+    });
+}
+
+void ClippingsBrowser::showHint() {
+    if (!rows_.empty()) return;
+    const auto all = static_cast<std::size_t>(dayFiles_.Count());
+    p_.View.showEmptyHint(found_ && found_->Clippings.empty()
+                              ? findHint(found_->IsComplete, p_.Words)
+                              : emptyHint(p_.Setup, !days_.empty(), p_.Day.cmbDate, all, p_.Words));
+}
+
 void ClippingsBrowser::refreshClippingsCount() {
-    p_.View.showCount(std::to_string(rows_.size()) + " Clippings");
+    const auto all = static_cast<std::size_t>(dayFiles_.Count());
+    p_.View.showCounts(countTexts(rows_, found_ ? found_->Searched : all, p_.Words));
 }
 
 }  // namespace vell

@@ -2,23 +2,31 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
 #include "ui/BrowserView.h"
+#include "ui/News.h"
 #include "ui/Pacer.h"
 #include "ui/list/ClippingFilter.h"
+#include "ui/list/RowOrder.h"
 
 namespace vell {
 
 class Files;
+class Translations;
 class modGlobal;
 struct DayState;
+struct FoundClippings;
 struct Settings;
 
 // Fills the date list and the list of clippings, and keeps the marks that the rows show.
@@ -32,6 +40,7 @@ class ClippingsBrowser {
         EventLog& Log;
         const Settings& Setup;
         DayState& Day;
+        const Translations& Words;
     };
     explicit ClippingsBrowser(const Parts& parts);
 
@@ -48,30 +57,66 @@ class ClippingsBrowser {
     // The day that is chosen, if one is.
     [[nodiscard]] const std::optional<Date>& chosenDay() const;
     [[nodiscard]] const std::vector<Date>& days() const { return days_; }
+    // In the order in which they are shown, in which every command goes through them, too.
     [[nodiscard]] const std::vector<ClippingRow>& rows() const { return rows_; }
+    [[nodiscard]] std::vector<std::string> pathsOf(std::span<const std::size_t> rows) const;
+
+    [[nodiscard]] std::optional<std::size_t> rowOf(const std::string& path) const;
 
     void loadAlert();
+    // Somebody has looked at the alert that is shown.
+    void alertSeen();
 
-    // The marks of the row, counted from 0, or of the clipping with this path, when it is listed, may have changed.
+    // The marks of the row, counted from 0, or of the clippings with these paths, as far as they are listed, may have
+    // changed.
     void ShowOpenPrintedPicture(std::size_t row);
     void refreshMarks(const std::string& path);
+    void refreshMarks(std::span<const std::string> paths);
+
+    // Whoever downloads tells here what has come; it is shown when the list is filled, or the alert loaded, the next
+    // time.
+    [[nodiscard]] News& news() { return news_; }
+
+    // Sorts by this column; again: the other way, then as they come. Other days are sorted like this one.
+    void sortBy(GridColumn column);
+    void setOrder(const RowOrder& order);
+    [[nodiscard]] const RowOrder& order() const { return order_; }
 
     // Lists only what passes from now on.
     void setFilter(ClippingFilter filter);
     [[nodiscard]] const ClippingFilter& filter() const { return filter_; }
-    // All clippings of the chosen day, whether they pass the filter or not.
+    // Lists only what was found from now on, as far as it passes the filter; null for everything.
+    void setFound(std::shared_ptr<const FoundClippings> found);
+    // Completes rows before they are sorted and shown.
+    void onListing(std::function<void(std::vector<ClippingRow>& rows)> complete) { listing_ = std::move(complete); }
+    // The page on which a row's clipping stood has become known.
+    void showPage(std::size_t row, const std::string& page);
+    // Told whenever the chosen day's clippings have been read.
+    void onDayRead(std::function<void()> told) { dayRead_ = std::move(told); }
+    // All clippings of the chosen day, whether they are listed or not.
     [[nodiscard]] const CFtpFiles& dayFiles() const { return dayFiles_; }
 
   private:
-    void ShowOpenPrintedPicture(ClippingRow& row) const;
+    void ShowOpenPrintedPicture(ClippingRow& row);
+    void readDay();
+    [[nodiscard]] std::vector<ClippingRow> wantedRows();
+    [[nodiscard]] std::vector<ClippingRow> rowsOfAllDays();
+    void listRows();
     void refreshClippingsCount();
+    void showHint();
 
     Parts p_;
     Pacer pacer_;
     std::vector<Date> days_;
-    std::vector<ClippingRow> rows_;
+    std::vector<ClippingRow> dayRows_;  // all of the chosen day
+    std::vector<ClippingRow> rows_;     // that are listed
     CFtpFiles dayFiles_;
     ClippingFilter filter_;
+    News news_;
+    RowOrder order_;
+    std::shared_ptr<const FoundClippings> found_;
+    std::function<void()> dayRead_;
+    std::function<void(std::vector<ClippingRow>&)> listing_;
 };
 
 }  // namespace vell

@@ -49,6 +49,38 @@ std::optional<PictureSize> pngSize(std::string_view bytes) {
     return PictureSize{number(widthAt), number(widthAt + 4)};
 }
 
+// Behind the pieces at `at`, each with its length in its first byte; the last one is empty.
+std::size_t behindPieces(std::string_view bytes, std::size_t at) {
+    while (at < bytes.size() && byteAt(bytes, at) != 0)
+        at += 1 + byteAt(bytes, at);
+    return at + 1;
+}
+
+std::size_t colourTableLength(std::uint32_t flags) {
+    return (flags & 0x80) == 0 ? 0 : std::size_t{3} << ((flags & 7) + 1);
+}
+
+// Pixels of all frames together, up to where the file ends or breaks off: the decoder takes them all in. A block of an
+// unknown kind is more than any picture has.
+std::uint64_t gifPixels(std::string_view bytes) {
+    constexpr std::size_t flagsAt = 10, headLength = 13, frameHeadLength = 10;
+    std::uint64_t pixels = 0;
+    std::size_t at = headLength + (bytes.size() > flagsAt ? colourTableLength(byteAt(bytes, flagsAt)) : 0);
+    while (at < bytes.size() && bytes[at] != ';') {
+        if (bytes[at] == '!') {  // an extension: its kind, then pieces
+            at = behindPieces(bytes, at + 2);
+            continue;
+        }
+        if (bytes[at] != ',') return mostPixels + 1;
+        if (at + frameHeadLength > bytes.size()) break;
+        pixels += std::uint64_t{littleEndian16(bytes, at + 5)} * littleEndian16(bytes, at + 7);
+        constexpr std::size_t codeSizeLength = 1;
+        at += frameHeadLength + colourTableLength(byteAt(bytes, at + frameHeadLength - 1));
+        at = behindPieces(bytes, at + codeSizeLength);
+    }
+    return pixels;
+}
+
 }  // namespace
 
 std::optional<PictureSize> pictureSize(std::string_view bytes) {
@@ -63,6 +95,7 @@ bool isDecentPicture(std::string_view bytes) {
     if (static_cast<std::int64_t>(bytes.size()) > longestPicture) return false;
     const auto size = pictureSize(bytes);
     if (!size || size->Width == 0 || size->Height == 0) return false;
+    if (bytes.starts_with("GIF8") && gifPixels(bytes) > mostPixels) return false;
     return std::uint64_t{size->Width} * size->Height <= mostPixels;
 }
 

@@ -9,9 +9,12 @@
 #include "base/text.h"
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
+#include "platform/Translations.h"
 #include "store/Articles.h"
 #include "store/modGlobal.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/numberedText.h"
+#include "ui/wantsMany.h"
 
 namespace vell {
 
@@ -22,20 +25,48 @@ constexpr const char* notMarked = "Printed, but it could not be marked as printe
 PrintCommands::PrintCommands(const PrintParts& parts, StatusText status, StatusText message)
     : p_(parts), status_(std::move(status)), message_(std::move(message)) {}
 
-bool PrintCommands::mnuPrintAll_Click() {
-    return trap(p_.Log, "mnuPrintAll_Click()", false, [&] {
+bool PrintCommands::asBatch(std::string_view procedure, const std::function<bool()>& work) {
+    return trap(p_.Log, procedure, false, [&] {
         if (batch_.IsUnderWay) return false;
         batch_.StopRequested = false;
         const ScopedFlag printing(batch_.IsUnderWay);
-        return p_.Boxes.Show("Do you want to print all documents for selected date?", "Print All", Buttons::YesNo,
-                             BoxIcon::Question) == Answer::Yes &&
-               printAll();
+        return work();
     });
 }
 
-bool PrintCommands::printAll() {
-    // The list may change in the pauses: what was asked for is what stands in it now.
-    const std::vector<ClippingRow> rows = p_.Browser.rows();
+bool PrintCommands::mnuPrintAll_Click() {
+    return asBatch("mnuPrintAll_Click()", [&] {
+        if (p_.Boxes.ShowWithDetail("Do you want to print all documents for selected date?", whatIsListed(),
+                                    "Print All", Buttons::YesNo, BoxIcon::Question) != Answer::Yes)
+            return false;
+        // The list may change in the pauses: what was asked for is what stands in it now.
+        return print(std::vector(p_.Browser.rows()));
+    });
+}
+
+std::string PrintCommands::whatIsListed() const {
+    const auto listed = p_.Browser.rows().size();
+    const auto hidden = static_cast<std::size_t>(p_.Browser.dayFiles().Count()) - listed;
+    std::string text = numberedText(p_.Words, "%d document is printed.", "%d documents are printed.", listed);
+    if (hidden > 0)
+        text += " " + numberedText(p_.Words, "%d other of the day is not listed and is left out.",
+                                   "%d others of the day are not listed and are left out.", hidden);
+    return text;
+}
+
+bool PrintCommands::printRows(std::span<const std::size_t> rows) {
+    if (rows.size() == 1) return mnuPrintSel_Click(rows.front());
+    return asBatch("mnuPrintSel_Click()", [&] {
+        std::vector<ClippingRow> wanted;
+        for (const std::size_t row : rows)
+            wanted.push_back(p_.Browser.rows().at(row));
+        return wantsMany(p_.Boxes, wanted.size(),
+                         numberedText(p_.Words, "Print %d clipping?", "Print %d clippings?", wanted.size())) &&
+               print(wanted);
+    });
+}
+
+bool PrintCommands::print(const std::vector<ClippingRow>& rows) {
     const Articles::Batch batch(p_.Article);
     std::size_t printed = 0, marked = 0;
     for (std::size_t i = 0; i < rows.size() && !batch_.StopRequested; ++i) {

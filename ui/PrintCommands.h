@@ -2,7 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
+#include <span>
+#include <string>
+#include <vector>
 
+#include "ui/BrowserView.h"
 #include "ui/PrintParts.h"
 #include "ui/StatusText.h"
 #include "ui/dialogs/frmPrint.h"
@@ -21,6 +26,8 @@ class PrintCommands {
     bool mnuPrintAll_Click();
     // One row.
     bool mnuPrintSel_Click(std::size_t row);
+    // Several rows like all of the list, after a question only when they are many.
+    bool printRows(std::span<const std::size_t> rows);
     // The rules of the dialog that prints whole categories.
     [[nodiscard]] frmPrint mnuPrintByCategory_Click();
 
@@ -29,7 +36,9 @@ class PrintCommands {
     void stop() { batch_.StopRequested = true; }
 
   private:
-    [[nodiscard]] bool printAll();
+    [[nodiscard]] std::string whatIsListed() const;
+    [[nodiscard]] bool asBatch(std::string_view procedure, const std::function<bool()>& work);
+    [[nodiscard]] bool print(const std::vector<ClippingRow>& rows);
 
     PrintParts p_;
     StatusText status_;

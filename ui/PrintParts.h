@@ -9,6 +9,7 @@ class EventLog;
 class EventLoop;
 class MessageBoxes;
 class Printers;
+class Translations;
 class modGlobal;
 struct Settings;
 
@@ -22,6 +23,7 @@ struct PrintParts {
     Printers& Printer;
     EventLog& Log;
     const Settings& Setup;
+    const Translations& Words;
 };
 
 // The documents that are printed one after the other, one batch at a time. Whoever asks it to stop is heard before the

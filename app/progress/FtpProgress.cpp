@@ -40,7 +40,7 @@ FtpProgress::FtpProgress(Session& session, TransferProgress& progress, EventLoop
     : session_(session), progress_(progress), loop_(loop), log_(log), pacer_(clock, paintInterval) {}
 
 void FtpProgress::StateChanged(FtpState state) {
-    loop_.DoEvents();
+    loop_.DoEventsNowAndThen();
     const auto number = static_cast<std::size_t>(state);
     std::string text = "State: " + std::to_string(static_cast<std::int32_t>(state));
     bool inStatusLine = false;
@@ -64,11 +64,11 @@ void FtpProgress::DownloadProgress(std::int32_t bytes) {
             log_.WriteLog(std::string(origin) + text);
         });
     }
-    loop_.DoEvents();
+    loop_.DoEventsNowAndThen();
 }
 
 void FtpProgress::ReplyMessage(std::string_view text) {
-    loop_.DoEvents();
+    loop_.DoEventsNowAndThen();
     const std::string line = Replace(text, "\r\n", "");
     if (!Trim(line).empty()) log_.WriteLog(std::string(origin).append(Trim(line)));
 }

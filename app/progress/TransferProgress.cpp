@@ -49,7 +49,26 @@ void TransferProgress::StatusBar(std::string_view text) {
 }
 
 void TransferProgress::displayInfoMessageBox(std::string_view text) {
+    session_.Run.Told = text;
     view_.displayInfoMessageBox(text);
+}
+
+void TransferProgress::dayBegins() {
+    view_.showProgress(0, 0);
+}
+
+void TransferProgress::dayEnded(bool well) {
+    constexpr int full = 100;
+    const DownloadState& downloads = session_.Downloads;
+    const auto came = [&] { return percentOf(downloads.gBytesDownloaded, downloads.gTotalBytes); };
+    if (well)
+        view_.showProgress(full, full);
+    else
+        view_.showProgress(0, downloads.gTotalBytes > 0 ? std::min(came(), full - 1) : 0);
+}
+
+void TransferProgress::failed(const Failure& failure) {
+    session_.Run.LastFailure = failure;
 }
 
 void TransferProgress::openSetup() {
@@ -63,11 +82,16 @@ std::string TransferProgress::clippingCounter() const {
 }
 
 void TransferProgress::HTTPDownloadProgress(std::int32_t bytes) {
-    count(bytes);
+    const std::int32_t came = count(bytes);
     const bool ended = session_.gLastProgressBytes == 0;
-    if (!ended && !log_.isOn() && !pacer_.isDue()) return;
+    if (!ended && !log_.isOn() && !mayShow(came)) return;
     trapStep(log_, "HTTPDownloadProgress()", [&] { pacer_.run([&] { show(bytes); }); });
-    loop_.DoEvents();
+    loop_.DoEventsNowAndThen();
+}
+
+void TransferProgress::attemptBegins() {
+    ofAttempt_ = 0;
+    session_.Run.LastFailure = {};
 }
 
 void TransferProgress::attemptFailed() {
@@ -76,12 +100,23 @@ void TransferProgress::attemptFailed() {
     ofAttempt_ = 0;
 }
 
-void TransferProgress::count(std::int32_t bytes) {
+// While whole steps come, more is at hand already, and a look at the clock for each would be a good part of their cost.
+bool TransferProgress::mayShow(std::int32_t came) {
+    constexpr std::int32_t wholeStep = 2048;
+    constexpr std::int32_t most = 64 * 1024;
+    unseen_ += came;
+    if (came >= wholeStep && unseen_ < most) return false;
+    unseen_ = 0;
+    return pacer_.isDue();
+}
+
+std::int32_t TransferProgress::count(std::int32_t bytes) {
     std::int32_t& last = session_.gLastProgressBytes;
     const std::int32_t came = last <= bytes ? bytes - last : bytes;
     session_.Downloads.gBytesDownloaded += came;
     ofAttempt_ += came;
     last = last == bytes ? 0 : bytes;
+    return came;
 }
 
 void TransferProgress::show(std::int32_t bytes) {

@@ -31,18 +31,24 @@ class TransferProgress : public RunFeedback {
     [[nodiscard]] std::string statusText() const override { return statusText_; }
     void displayInfoMessageBox(std::string_view text) override;
     void HTTPDownloadProgress(std::int32_t bytes) override;
+    void failed(const Failure& failure) override;
     void openSetup() override;
 
+    // The run of a day begins: the bars are empty. They are full only when it has ended well.
+    void dayBegins();
+    void dayEnded(bool well);
     // An attempt at a file has failed: its bytes come once more, and do not count twice.
     void attemptFailed();
     // An attempt at a file begins.
-    void attemptBegins() { ofAttempt_ = 0; }
+    void attemptBegins();
 
     // The file of the list that is being fetched, as the status texts name it: "(clipping/clippings)".
     [[nodiscard]] std::string clippingCounter() const;
 
   private:
-    void count(std::int32_t bytes);
+    // Gives what has come since the last report.
+    std::int32_t count(std::int32_t bytes);
+    [[nodiscard]] bool mayShow(std::int32_t came);
     void show(std::int32_t bytes);
     [[nodiscard]] std::string statusOf(std::int32_t bytes) const;
 
@@ -53,6 +59,7 @@ class TransferProgress : public RunFeedback {
     Pacer pacer_;
     std::string statusText_;
     std::int64_t ofAttempt_ = 0;  // bytes that it has counted
+    std::int32_t unseen_ = 0;     // bytes since the clock was looked at
 };
 
 }  // namespace vell

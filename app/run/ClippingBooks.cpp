@@ -5,8 +5,10 @@
 #include "app/progress/TransferProgress.h"
 #include "base/text.h"
 #include "platform/Files.h"
+#include "service/FailureLog.h"
 #include "store/Articles.h"
 #include "store/modGlobal.h"
+#include "ui/News.h"
 
 namespace vell {
 
@@ -18,6 +20,7 @@ void ClippingBooks::open() {
     pdfOk_ = false;
     textOk_ = false;
     arrived_.clear();
+    new_.clear();
     markedAt_ = p_.Time.Steady();
 }
 
@@ -29,6 +32,10 @@ void ClippingBooks::enter(const DownloadEntry& entry, bool ok) {
     if (ending != ".MT") return;
     if (ok && textOk_ && pdfOk_) {
         arrived_.push_back({Replace(name, ".MT", ".PDF"), entry.Change});
+        if (entry.IsNew) {
+            new_.push_back(arrived_.back().PdfName);
+            p_.Brought.clippingArrived(p_.State.Run.Day.gDayFolder + arrived_.back().PdfName);
+        }
         ++p_.State.gClippingsDownloaded;
     }
     pdfOk_ = false;
@@ -40,19 +47,29 @@ void ClippingBooks::close() {
     markArrived();
     const int lost = static_cast<int>(arrived_.size());
     p_.State.gClippingsDownloaded -= lost;
-    p_.State.Run.Outcome.FilesFailed += lost;
+    RunContext& run = p_.State.Run;
+    run.Outcome.FilesFailed += lost;
+    for (const ArrivedClipping& clipping : arrived_) {
+        DaySummary& day = run.Summary.Days.back();
+        day.FailedFiles.push_back({day.Day, clipping.PdfName, clipping.Change, run.LastFailure});
+    }
     arrived_.clear();
+    new_.clear();
 }
 
 // An index that cannot be written must not keep the next clippings from coming: it is tried again the next time.
 void ClippingBooks::markArrived() {
     markedAt_ = p_.Time.Steady();
     if (arrived_.empty()) return;
-    trapStep(p_.Log, "StartDownload()", [&] {
+    FailureLog log(p_.Log, p_.Progress);
+    trapStep(log, "StartDownload()", [&] {
         const std::string& folder = p_.State.Run.Day.gDayFolder;
         p_.Disk.Flush(folder);
         index_.markDownloaded(folder, arrived_);
         arrived_.clear();
+        auto& told = p_.State.Run.Summary.Days.back().New;
+        told.insert(told.end(), new_.begin(), new_.end());
+        new_.clear();
     });
 }
 

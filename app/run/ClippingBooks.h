@@ -13,6 +13,7 @@ namespace vell {
 
 class Articles;
 class Files;
+class News;
 class modGlobal;
 class TransferProgress;
 struct DownloadEntry;
@@ -31,6 +32,7 @@ class ClippingBooks {
         modGlobal& Store;
         Articles& Article;
         TransferProgress& Progress;
+        News& Brought;
     };
     explicit ClippingBooks(const Parts& parts) : p_(parts), index_(parts.Disk) {}
 
@@ -53,6 +55,7 @@ class ClippingBooks {
     bool pdfOk_ = false;
     bool textOk_ = false;
     std::vector<ArrivedClipping> arrived_;  // without their mark yet
+    std::vector<std::string> new_;          // of those, the ones that are news
     SteadyTime markedAt_{};
 };
 

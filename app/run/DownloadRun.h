@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "app/run/ClippingBooks.h"
@@ -44,6 +45,8 @@ class DownloadRun {
     };
     explicit DownloadRun(const Parts& parts);
 
+    // A download begins, with the connection first: nothing has come yet.
+    void downloadBegins();
     // Returns at once when a run is under way. Success and failure show in the status, the log, the index, and for
     // the caller in the session's outcome.
     void StartDownload();
@@ -51,8 +54,10 @@ class DownloadRun {
   private:
     void run();
     [[nodiscard]] bool prepare();
+    void breakOff();
     void reportNothingToDownload();
     void fetchAll();
+    void closeBooks();
     void finish();
 
     void say(const std::string& text);  // in the status line and the log
@@ -62,6 +67,7 @@ class DownloadRun {
     ClippingBooks books_;
     FileTurns turns_;
     bool lastOk_ = true;
+    std::size_t turnsEnded_ = 0;  // of the files of the day's list
 };
 
 }  // namespace vell

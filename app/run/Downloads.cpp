@@ -3,6 +3,7 @@
 
 #include "app/MainView.h"
 #include "app/Session.h"
+#include "app/failures/MissingDays.h"
 #include "app/run/DownloadSession.h"
 #include "app/run/FtpSession.h"
 #include "platform/Clock.h"
@@ -58,11 +59,49 @@ void Downloads::showRange() {
 void Downloads::mnuForceDownload_Click() {
     if (isBusy() || p_.State.IsEnding) return;
     p_.Log.WriteLog("FORCEd download by user");
-    p_.View.showForcedRun(true);
+    p_.View.showForcedRun(MainView::ForcedRun::Running);
     if (!download()) return;  // the wrong range is to be corrected: Stop stays visible until the next download ends
-    p_.View.showForcedRun(false);
+    p_.View.showForcedRun(endOfRun());
     p_.Log.WriteLog("FORCEd download ENDED");
     p_.Browser.refresh();
+}
+
+MainView::ForcedRun Downloads::endOfRun() const {
+    using enum MainView::ForcedRun;
+    if (!outcome().isGood()) return Failed;
+    return outcome().Stopped ? Stopped : EndedWell;
+}
+
+void Downloads::tryAgain() {
+    // The days that were to be fetched are those that the user still sees.
+    const RunContext& run = p_.State.Run;
+    if (run.Summary.NotBegun && run.BegunBy == Starter::Person && run.Only.empty())
+        mnuForceDownload_Click();
+    else
+        fetch(missingDays(p_.State));
+}
+
+void Downloads::fetchAgain(const std::vector<FailedFile>& files) {
+    fetch(missingDays(p_.State, files));
+}
+
+void Downloads::fetch(const MissingDays& missing) {
+    if (isBusy() || p_.State.IsEnding || missing.Days.empty()) return;
+    p_.Log.WriteLog("What has failed is fetched again, asked for by user");
+    p_.View.showForcedRun(MainView::ForcedRun::Running);
+    p_.Download.RunDownloadSession(
+        Starter::Person, missing.Days.front(),
+        [next = std::size_t{0}, days = missing.Days]() mutable {
+            return ++next < days.size() ? std::optional(days[next]) : std::nullopt;
+        },
+        missing.Only);
+    p_.View.showForcedRun(endOfRun());
+    p_.Log.WriteLog("What had failed was fetched again");
+    p_.Browser.refresh();
+}
+
+bool Downloads::canTryAgain() const {
+    return !isBusy() && isAnythingMissing(p_.State);
 }
 
 bool Downloads::download() {
@@ -74,7 +113,7 @@ bool Downloads::download() {
     return p_.Download.RunDownloadSession(Starter::Person, dtFromDate_, [this] { return nextOfRange(); });
 }
 
-// The picker itself counts, so that the user sees it walk.
+// The picker itself counts, so that the user sees it walk; it ends on the last day that was fetched.
 std::optional<Date> Downloads::nextOfRange() {
     p_.Os.Loop.DoEvents();
     dtFromDate_ = dtFromDate_.plusDays(1);
@@ -102,6 +141,14 @@ bool Downloads::isBusy() const {
 
 const RunOutcome& Downloads::outcome() const {
     return p_.State.Run.Outcome;
+}
+
+const FailedFiles& Downloads::failed() const {
+    return p_.State.Failed;
+}
+
+const RunSummary& Downloads::summary() const {
+    return p_.State.Run.Summary;
 }
 
 }  // namespace vell

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "app/MainView.h"
 #include "app/RunContext.h"
 #include "base/Date.h"
 #include "log/EventLog.h"
@@ -12,9 +13,10 @@ namespace vell {
 
 class ClippingsBrowser;
 class DownloadSession;
+class FailedFiles;
 class FtpSession;
-class MainView;
 class RunFeedback;
+struct MissingDays;
 struct Platform;
 struct Session;
 
@@ -48,11 +50,19 @@ class Downloads {
     // Fetches today's day, or the days of the range one after the other. The outcome tells how it went.
     void mnuForceDownload_Click();
     void cmdStopDownload_Click();
+    // Fetches what the last download has not brought and what is missing since earlier ones, or those files alone.
+    void tryAgain();
+    void fetchAgain(const std::vector<FailedFile>& files);
+    [[nodiscard]] bool canTryAgain() const;
+    [[nodiscard]] const FailedFiles& failed() const;
     [[nodiscard]] bool isBusy() const;
     [[nodiscard]] const RunOutcome& outcome() const;
+    [[nodiscard]] const RunSummary& summary() const;
 
   private:
     [[nodiscard]] bool download();
+    void fetch(const MissingDays& missing);
+    [[nodiscard]] MainView::ForcedRun endOfRun() const;
     [[nodiscard]] std::optional<Date> nextOfRange();
     void showRange();
 

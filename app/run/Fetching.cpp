@@ -3,8 +3,19 @@
 
 #include "app/MainView.h"
 #include "app/Session.h"
+#include "app/failures/runMessage.h"
 
 namespace vell {
+
+namespace {
+
+// A run that was stopped has put nothing right.
+void tellEnd(const RunContext& run, MainView& view, const Translations& words) {
+    const auto message = runMessage(run, words);
+    if (message || !run.Outcome.Stopped) view.showRunMessage(message);
+}
+
+}  // namespace
 
 Fetching::Fetching(const Parts& p)
     : Boxes(p.State, p.Os.Boxes, p.View, p.Log),
@@ -19,8 +30,13 @@ Fetching::Fetching(const Parts& p)
       Ras(Os.Ras, p.Log),
       Link({p.State.Run.Setup, p.Progress, p.View, Os.Boxes, Os.Loop, p.Log, gInet, Ras}),
       Run({p.State, p.View, Os.Loop, Os.Time, Os.Disk, p.Log, Store, Article, Http, Ftp, List, p.Browser, p.Progress}),
-      Download(p.State, Link, Run, p.Log),
+      Download(p.State, Link, Run, p.Log, Os.Time),
       Forced({p.State, Os, p.View, p.Log, Download, Ftp, p.Progress, p.Browser}),
-      Scheduled({p.State, Os.Loop, Os.Time, p.Log, Download, p.Browser}) {}
+      Scheduled({p.State, Os.Loop, Os.Time, p.Log, Download, p.Browser}),
+      News({p.View, p.Browser, Os.Disk, p.Log, p.Progress, Scheduled, Os.Words}) {
+    Download.onEnd([this](const RunContext& run) { News.runEnded(run); });
+    Download.onEnd([&view = p.View, &words = Os.Words](const RunContext& run) { tellEnd(run, view, words); });
+    Scheduled.onTick([this] { News.showNextRun(); });
+}
 
 }  // namespace vell

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "app/news/RunNews.h"
 #include "app/progress/TransferProgress.h"
 #include "app/run/DownloadRun.h"
 #include "app/run/DownloadSession.h"
@@ -52,6 +53,7 @@ struct Fetching {
     DownloadSession Download;
     Downloads Forced;
     ScheduledRuns Scheduled;
+    RunNews News;
 };
 
 }  // namespace vell

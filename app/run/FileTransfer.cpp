@@ -8,6 +8,7 @@
 #include "base/text.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
+#include "service/FailureLog.h"
 #include "service/WebPage.h"
 #include "service/modHTTP.h"
 #include "store/IndexFile.h"
@@ -48,7 +49,8 @@ void FileTransfer::begin() {
 }
 
 bool FileTransfer::adownloadFile(const DownloadEntry& entry, const std::string& folder, Attempt attempt) {
-    return trap(p_.Log, "adownloadFile()", false, [&] {
+    FailureLog log(p_.Log, p_.Feedback);
+    return trap(log, "adownloadFile()", false, [&] {
         const std::string path = folder + entry.FileName;
         const std::string partPath = folder + partName(entry.FileName, entry.Change);
         auto part = p_.Disk.OpenPart(partPath);
@@ -75,6 +77,7 @@ std::unique_ptr<PartFile> FileTransfer::waitForPart(const std::string& path) {
         p_.Loop.WaitForEvents(static_cast<int>(waitStep.count()));
         part = p_.Disk.OpenPart(path);
     }
+    if (!part) p_.Feedback.failed({Cause::TakenByOther});
     return part;
 }
 
@@ -107,6 +110,7 @@ bool FileTransfer::take(const DownloadEntry& entry, const std::string& path, Par
     constexpr std::size_t enoughToTell = 512;
     if (isWebPage(part.Beginning(enoughToTell))) {
         p_.Log.WriteLog("        A web page came in place of " + entry.FileName + ".");
+        p_.Feedback.failed({Cause::WebPage});
         part.Discard();
         return false;
     }
@@ -117,6 +121,7 @@ bool FileTransfer::take(const DownloadEntry& entry, const std::string& path, Par
     }
     p_.Log.WriteLog("        " + entry.FileName + " came with " + std::to_string(length) + " bytes, the list says " +
                     std::to_string(entry.Size) + ".");
+    p_.Feedback.failed({Cause::WrongLength, std::to_string(length) + "/" + std::to_string(entry.Size)});
     if (attempt == Attempt::Last && !p_.Disk.PathExists(path))
         part.MoveTo(path);
     else if (p_.State.Run.Setup.UseHTTP || length > entry.Size)

@@ -15,6 +15,7 @@ namespace vell {
 class Clock;
 class EventLoop;
 class FtpSession;
+class RunFeedback;
 class modHTTP;
 struct DownloadEntry;
 struct Session;
@@ -31,6 +32,7 @@ class FileTransfer {
         EventLog& Log;
         modHTTP& Http;
         FtpSession& Ftp;
+        RunFeedback& Feedback;
     };
     explicit FileTransfer(const Parts& parts) : p_(parts) {}
 

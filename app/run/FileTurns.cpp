@@ -25,6 +25,10 @@ bool FileTurns::take(std::int32_t index) {
     Session& state = p_.State;
     state.gCurrentFileIndex = index;
     const DownloadEntry& entry = state.Downloads.gDownloadList[static_cast<std::size_t>(index) - 1];
+    if (entry.IsHere) {
+        p_.Books.enter(entry, true);
+        return true;
+    }
     const std::string name = entry.FileName;
     const Turn turn{index, entry, lengthOf(state.Run.Day.gDayFolder + name), equalNoCase(name, advertisementFile)};
     p_.Log.WriteLog(counter(index) + "  Downloading " + name + " (Starting from " + std::to_string(turn.Start) +
@@ -37,11 +41,15 @@ bool FileTurns::take(std::int32_t index) {
         ok = retry(turn);
     }
     // A day without its advertisement is a whole day.
-    if (!ok && !state.gStopRequested && !turn.IsAdvertisement) ++state.Run.Outcome.FilesFailed;
+    if (!ok && !state.gStopRequested && !turn.IsAdvertisement) {
+        ++state.Run.Outcome.FilesFailed;
+        DaySummary& day = state.Run.Summary.Days.back();
+        day.FailedFiles.push_back({day.Day, name, turn.Entry.Change, state.Run.LastFailure});
+    }
     p_.Books.enter(turn.Entry, ok);
     p_.Log.WriteLog(statusLine(ok));
     p_.Browser.refreshDuringRun();
-    p_.Loop.DoEvents();
+    p_.Loop.WaitForEvents(0);  // who has stopped the run is heard before the next file
     if (ok) p_.Books.printWhenNew(name, turn.Start);
     return ok;
 }

@@ -3,6 +3,7 @@
 
 #include "app/MainView.h"
 #include "app/Session.h"
+#include "app/failures/ftpFailure.h"
 #include "app/progress/TransferProgress.h"
 #include "app/run/RetryPause.h"
 #include "base/text.h"
@@ -20,6 +21,27 @@ constexpr std::string_view clippingsFolder = "torvoarchive";
 // The service's one FTP account; the user's own name and password go with the list request alone.
 constexpr const char* ftpUser = "vell";
 constexpr const char* ftpPassword = "ruxo";
+
+// Keeps what writing has failed with: the client knows the failures of the network alone.
+class WatchedFile : public OutputFile {
+  public:
+    explicit WatchedFile(OutputFile& file) : file_(file) {}
+
+    void Write(std::string_view bytes) override {
+        try {
+            file_.Write(bytes);
+        } catch (const RunTimeError& error) {
+            Why = failureOf(error);
+            throw;
+        }
+    }
+    void Close() override { file_.Close(); }
+
+    std::optional<Failure> Why;
+
+  private:
+    OutputFile& file_;
+};
 
 }  // namespace
 
@@ -68,7 +90,13 @@ bool FtpSession::connect() {
     m_objFTP_.PassiveMode = session_.Run.Setup.Passive;
     m_objFTP_.Timeout = session_.Run.Setup.TimeOut;
     m_objFTP_.AskOnTimeout = !session_.isAlone();
-    return m_objFTP_.Connect();
+    const bool isConnected = m_objFTP_.Connect();
+    if (!isConnected) tellFailure();
+    return isConnected;
+}
+
+void FtpSession::tellFailure() {
+    progress_.failed(ftpFailure(m_objFTP_.FtpGetLastError(), m_objFTP_.FtpServer, m_objFTP_.GetFtpErrorDescription()));
 }
 
 bool FtpSession::isUp() {
@@ -81,7 +109,12 @@ bool FtpSession::isUp() {
 bool FtpSession::download(const std::string& name, PartFile& part, std::int64_t offset,
                           std::optional<std::int64_t> expectedLength) {
     if (!isUp()) return false;
-    if (m_objFTP_.downloadFile(name, part, offset, expectedLength)) return true;
+    WatchedFile file(part);
+    if (m_objFTP_.downloadFile(name, file, offset, expectedLength)) return true;
+    if (file.Why)
+        progress_.failed(*file.Why);
+    else
+        tellFailure();
     if (offset > 0 && part.Length() == offset && refusedToResume()) {
         log_.WriteLog("        The server cannot go on within a file. The next attempt fetches the whole of it.");
         part.StartAt(0);

@@ -39,6 +39,7 @@ class FtpSession {
   private:
     [[nodiscard]] bool StartFTP();
     [[nodiscard]] bool connect();
+    void tellFailure();
     [[nodiscard]] bool isUp();
     [[nodiscard]] bool refusedToResume() const;
 

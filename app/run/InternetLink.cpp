@@ -13,6 +13,7 @@
 #include "net/ModRAS.h"
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
+#include "service/Failure.h"
 #include "service/RunFeedback.h"
 #include "ui/BusyMoment.h"
 
@@ -37,6 +38,7 @@ bool InternetLink::StartINET() {
         if (p_.gInet.UseModem()) return dial();
         p_.Status.StatusBar("Make sure you are connected to the Internet");
         p_.Log.WriteLog("Error! There is no LAN connection to the internet.");
+        p_.Status.failed({Cause::Offline});
         return false;
     });
 }
@@ -66,7 +68,10 @@ bool InternetLink::dial() {
     const bool ok = p_.gInet.Dial(0, p_.Setup.DialUp, dialUnattended, false);
     const std::string reason = p_.gInet.failureReason();
     p_.Loop.DoEvents();
-    if (!ok) say("Error starting " + name);
+    if (!ok) {
+        say("Error starting " + name);
+        p_.Status.failed({Cause::Offline, reason.empty() ? p_.Setup.DialUp : reason});
+    }
     // The message stays where it is read at leisure, while the status line goes on.
     if (!ok && !reason.empty()) p_.Status.displayInfoMessageBox("Error starting " + name + "\r\n" + reason);
     return ok;

@@ -21,6 +21,7 @@ Negative negativeOf(Buttons buttons) {
         case Buttons::Ok:
             return {Answer::Ok, ""};
         case Buttons::YesNo:
+        case Buttons::NoYes:
             return {Answer::No, "No"};
         case Buttons::OkCancel:
         case Buttons::RetryCancel:

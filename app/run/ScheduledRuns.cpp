@@ -25,7 +25,10 @@ bool isDue(const ScheduleEntry& entry, int weekday, std::string_view hourMinute)
 
 void ScheduledRuns::start() {
     constexpr int tickMilliseconds = 10000;
-    tmrSchedule_ = p_.Loop.SetTimer(tickMilliseconds, [this] { tmrSchedule_Timer(); });
+    tmrSchedule_ = p_.Loop.SetTimer(tickMilliseconds, [this] {
+        tmrSchedule_Timer();
+        if (ticked_) ticked_();
+    });
 }
 
 void ScheduledRuns::stop() {

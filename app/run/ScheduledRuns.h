@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include "base/Date.h"
 #include "log/EventLog.h"
@@ -29,6 +31,8 @@ class ScheduledRuns {
 
     // The timer ticks in the event loop from start on.
     void start();
+    // Whom to tell that the timer has ticked.
+    void onTick(std::function<void()> tell) { ticked_ = std::move(tell); }
     void stop();
     // One tick: starts the runs that are due in this minute, one after the other. No record is kept of what was
     // served: the next tick of the same minute starts them again. One that comes while anything else is under way is
@@ -40,6 +44,7 @@ class ScheduledRuns {
   private:
     Parts p_;
     EventLoop::TimerId tmrSchedule_ = 0;
+    std::function<void()> ticked_;
 };
 
 }  // namespace vell

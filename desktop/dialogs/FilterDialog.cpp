@@ -7,77 +7,78 @@
 #include <wx/checklst.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
+#include <wx/translation.h>
 
+#include "desktop/WxTranslations.h"
+#include "desktop/dialogs/finishDialog.h"
 #include "desktop/native/accessibleName.h"
 #include "desktop/screenText.h"
 
 namespace vell {
 
-namespace {
-
-std::vector<std::string> checkedOf(const wxCheckListBox& list, const std::vector<std::string>& names) {
-    wxArrayInt checked;
-    list.GetCheckedItems(checked);
-    std::vector<std::string> chosen;
-    for (const int item : checked)
-        chosen.push_back(names.at(static_cast<std::size_t>(item)));
-    return chosen;
-}
-
-void uncheck(wxCheckListBox& list) {
-    for (unsigned int item = 0; item < list.GetCount(); ++item)
-        list.Check(item, false);
-}
-
-}  // namespace
-
 FilterDialog::FilterDialog(wxWindow* parent, frmFilter rules)
-    : wxDialog(parent, wxID_ANY, "Filter", wxDefaultPosition, wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+    : wxDialog(parent, wxID_ANY, _("Filter"), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       rules_(std::move(rules)) {
     auto* lists = new wxBoxSizer(wxHORIZONTAL);
-    categories_ = listBox(*lists, "&Categories", rules_.lstCategories(),
-                          [this](const std::string& name) { return rules_.isCategoryChosen(name); });
-    types_ = listBox(*lists, "&Types", rules_.lstTypes(),
-                     [this](const std::string& name) { return rules_.isTypeChosen(name); });
-    auto* buttons = new wxBoxSizer(wxHORIZONTAL);
-    buttons->Add(new wxButton(this, wxID_CLEAR, "C&lear all"), wxSizerFlags().CentreVertical());
-    buttons->AddStretchSpacer();
-    buttons->Add(CreateStdDialogButtonSizer(wxOK | wxCANCEL), wxSizerFlags().CentreVertical());
+    addList(*lists, _("&Newspapers"), rules_.lstNewspapers);
+    addList(*lists, _("Cate&gories"), rules_.lstCategories);
+    addList(*lists, _("&Types"), rules_.lstTypes);
+    outcome_ = new wxStaticText(this, wxID_ANY, "");
     auto* sizer = new wxBoxSizer(wxVERTICAL);
-    auto* hint = new wxStaticText(this, wxID_ANY, "Tick what you want to see. Nothing ticked shows everything.");
-    sizer->Add(hint, wxSizerFlags().Border());
-    sizer->Add(lists, wxSizerFlags(1).Expand());
-    sizer->Add(buttons, wxSizerFlags().Expand().Border());
-    SetSizerAndFit(sizer);
-    CentreOnParent();
+    sizer->Add(lists, wxSizerFlags(1).Expand().Border());
+    sizer->Add(outcome_, wxSizerFlags().Expand().DoubleBorder(wxLEFT | wxRIGHT | wxBOTTOM));
+    sizer->Add(bottomRow(), wxSizerFlags().Expand().DoubleBorder(wxLEFT | wxRIGHT | wxBOTTOM));
+    showTicks();
+    finishDialog(*this, sizer, *lists_.front().Box);
     Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { ok(); }, wxID_OK);
+        wxEVT_BUTTON,
+        [this](wxCommandEvent& /*event*/) {
+            rules_.cmdOk_Click();
+            AcceptAndClose();
+        },
+        wxID_OK);
     Bind(
-        wxEVT_BUTTON, [this](wxCommandEvent& /*event*/) { clear(); }, wxID_CLEAR);
+        wxEVT_BUTTON,
+        [this](wxCommandEvent& /*event*/) {
+            rules_.cmdClear_Click();
+            showTicks();
+        },
+        wxID_CLEAR);
 }
 
-template <class IsChosen>
-wxCheckListBox* FilterDialog::listBox(wxSizer& sizer, const wxString& label, const std::vector<std::string>& names,
-                                      IsChosen isChosen) {
+void FilterDialog::addList(wxSizer& sizer, const wxString& label, FilterChoice& choice) {
     auto* column = new wxBoxSizer(wxVERTICAL);
     column->Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().Border(wxBOTTOM));
-    auto* list = new wxCheckListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(220, 240)));
-    setAccessibleName(*list, wxControl::RemoveMnemonics(label));
-    for (const std::string& name : names)
-        list->Check(static_cast<unsigned int>(list->Append(shownLine(name))), isChosen(name));
-    column->Add(list, wxSizerFlags(1).Expand());
+    auto* box = new wxCheckListBox(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(236, 260)));
+    setAccessibleName(*box, wxControl::RemoveMnemonics(label));
+    for (std::size_t entry = 0; entry < choice.size(); ++entry)
+        box->Append(shownLine(choice.text(entry, WxTranslations())));
+    column->Add(box, wxSizerFlags(1).Expand());
     sizer.Add(column, wxSizerFlags(1).Expand().Border());
-    return list;
+    lists_.push_back({&choice, box});
+    box->Bind(wxEVT_CHECKLISTBOX, [this, &choice, box](wxCommandEvent& event) {
+        const auto entry = static_cast<unsigned int>(event.GetInt());
+        choice.tick(entry, box->IsChecked(entry));
+        showTicks();
+    });
 }
 
-void FilterDialog::ok() {
-    rules_.cmdOk_Click({checkedOf(*categories_, rules_.lstCategories()), checkedOf(*types_, rules_.lstTypes())});
-    AcceptAndClose();
+wxSizer* FilterDialog::bottomRow() {
+    auto* row = new wxBoxSizer(wxHORIZONTAL);
+    row->Add(new wxButton(this, wxID_CLEAR, _("C&lear all")), wxSizerFlags().CentreVertical());
+    row->AddStretchSpacer();
+    row->Add(CreateStdDialogButtonSizer(wxOK | wxCANCEL), wxSizerFlags().CentreVertical());
+    return row;
 }
 
-void FilterDialog::clear() {
-    uncheck(*categories_);
-    uncheck(*types_);
+void FilterDialog::showTicks() {
+    for (const auto& [choice, box] : lists_)
+        for (unsigned int entry = 0; entry < box->GetCount(); ++entry)
+            if (box->IsChecked(entry) != choice->isTicked(entry)) box->Check(entry, choice->isTicked(entry));
+    const auto all = static_cast<unsigned int>(rules_.all());
+    outcome_->SetLabelText(wxString::Format(wxPLURAL("Lists %zu of %u clipping.", "Lists %zu of %u clippings.", all),
+                                            rules_.passing(), all));
 }
 
 }  // namespace vell

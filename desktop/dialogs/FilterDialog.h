@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include <wx/dialog.h>
@@ -10,24 +9,28 @@
 
 class wxCheckListBox;
 class wxSizer;
+class wxStaticText;
 
 namespace vell {
 
-// The choice of the categories and types that are listed.
+// The choice of the newspapers, categories and types that are listed.
 class FilterDialog : public wxDialog {
   public:
     FilterDialog(wxWindow* parent, frmFilter rules);
 
   private:
-    template <class IsChosen>
-    [[nodiscard]] wxCheckListBox* listBox(wxSizer& sizer, const wxString& label, const std::vector<std::string>& names,
-                                          IsChosen isChosen);
-    void ok();
-    void clear();
+    void addList(wxSizer& sizer, const wxString& label, FilterChoice& choice);
+    [[nodiscard]] wxSizer* bottomRow();
+    void showTicks();
+
+    struct List {
+        FilterChoice* Choice;
+        wxCheckListBox* Box;
+    };
 
     frmFilter rules_;
-    wxCheckListBox* categories_ = nullptr;
-    wxCheckListBox* types_ = nullptr;
+    std::vector<List> lists_;
+    wxStaticText* outcome_ = nullptr;
 };
 
 }  // namespace vell

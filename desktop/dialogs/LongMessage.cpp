@@ -4,6 +4,7 @@
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
 
+#include "desktop/dialogs/finishDialog.h"
 #include "desktop/native/accessibleName.h"
 
 namespace vell {
@@ -16,8 +17,7 @@ LongMessage::LongMessage(const wxString& text, const wxString& caption)
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(shown, wxSizerFlags(1).Expand().Border());
     sizer->Add(CreateStdDialogButtonSizer(wxOK), wxSizerFlags().Expand().Border());
-    SetSizerAndFit(sizer);
-    CentreOnParent();
+    finishDialog(*this, sizer, *shown);
 }
 
 bool LongMessage::isNeededFor(const wxString& text) {

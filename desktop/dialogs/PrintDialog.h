@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include <wx/dialog.h>
 
 #include "ui/dialogs/frmPrint.h"
@@ -14,9 +16,11 @@ namespace vell {
 // Prints whole categories: those that are left on one side, those that are chosen on the other.
 class PrintDialog : public wxDialog {
   public:
-    PrintDialog(wxWindow* parent, frmPrint rules);
+    // `splitChosen` is told what the user likes of the two ways to take categories.
+    PrintDialog(wxWindow* parent, frmPrint rules, std::function<void(bool split)> splitChosen);
 
   private:
+    void addSplitBox(wxSizer& sizer);
     [[nodiscard]] wxListBox* listBox(wxSizer& sizer, const wxString& label);
     [[nodiscard]] wxSizer* moveButtons();
     [[nodiscard]] wxSizer* bottomRow();
@@ -26,8 +30,10 @@ class PrintDialog : public wxDialog {
     void print();
 
     frmPrint rules_;
+    std::function<void(bool split)> splitChosen_;
     wxListBox* lstAllCategories_ = nullptr;
     wxListBox* lstPrintCategories_ = nullptr;
+    wxStaticText* outcome_ = nullptr;
     wxStaticText* status_ = nullptr;
 };
 

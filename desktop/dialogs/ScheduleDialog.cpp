@@ -7,15 +7,19 @@
 #include <wx/button.h>
 #include <wx/dataview.h>
 #include <wx/sizer.h>
+#include <wx/textctrl.h>
 #include <wx/textdlg.h>
+#include <wx/translation.h>
 
+#include "desktop/dialogs/buttonTexts.h"
+#include "desktop/dialogs/finishDialog.h"
 #include "desktop/native/accessibleName.h"
 #include "desktop/screenText.h"
 
 namespace vell {
 
 ScheduleDialog::ScheduleDialog(wxWindow* parent, frmSchedule rules)
-    : wxDialog(parent, wxID_ANY, "Schedule", wxDefaultPosition, wxDefaultSize,
+    : wxDialog(parent, wxID_ANY, _("Schedule"), wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       rules_(std::move(rules)) {
     rules_.Form_Load();
@@ -26,8 +30,7 @@ ScheduleDialog::ScheduleDialog(wxWindow* parent, frmSchedule rules)
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(content, wxSizerFlags(1).Expand().Border());
     sizer->Add(CreateStdDialogButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Expand().Border());
-    SetSizerAndFit(sizer);
-    CentreOnParent();
+    finishDialog(*this, sizer, *grdSchedule_);
     Bind(
         wxEVT_BUTTON,
         [this](wxCommandEvent& /*event*/) {
@@ -41,10 +44,11 @@ ScheduleDialog::ScheduleDialog(wxWindow* parent, frmSchedule rules)
 
 void ScheduleDialog::addGrid() {
     grdSchedule_ = new wxDataViewListCtrl(this, wxID_ANY, wxDefaultPosition, FromDIP(wxSize(460, 260)), wxDV_SINGLE);
-    setAccessibleName(*grdSchedule_, "Schedule");
+    setAccessibleName(*grdSchedule_, _("Schedule"));
     for (const std::string_view day : scheduleDays)
-        grdSchedule_->AppendToggleColumn(shownLine(day), wxDATAVIEW_CELL_ACTIVATABLE, FromDIP(46), wxALIGN_CENTRE, 0);
-    grdSchedule_->AppendTextColumn("Time", wxDATAVIEW_CELL_INERT, FromDIP(90), wxALIGN_LEFT, 0);
+        grdSchedule_->AppendToggleColumn(wxGetTranslation(shownLine(day)), wxDATAVIEW_CELL_ACTIVATABLE, FromDIP(46),
+                                         wxALIGN_CENTRE, 0);
+    grdSchedule_->AppendTextColumn(_("Time"), wxDATAVIEW_CELL_INERT, FromDIP(90), wxALIGN_LEFT, 0);
     grdSchedule_->Bind(wxEVT_DATAVIEW_ITEM_VALUE_CHANGED, &ScheduleDialog::onToggle, this);
     grdSchedule_->Bind(wxEVT_LEFT_UP, &ScheduleDialog::onClick, this);
 }
@@ -55,23 +59,22 @@ wxSizer* ScheduleDialog::buttons() {
         auto* button = new wxButton(this, wxID_ANY, label);
         column->Add(button, wxSizerFlags().Expand().Border(wxBOTTOM));
         button->Bind(wxEVT_BUTTON, [this, action](wxCommandEvent& /*event*/) { CallAfter(action); });
+        return button;
     };
-    add("&Add...", [this] {
+    add(_("&Add..."), [this] {
         const std::size_t before = rules_.rows().size();
         rules_.cmdAddSchedule_Click(*this);
         show(rules_.rows().size() > before ? static_cast<int>(before) : grdSchedule_->GetSelectedRow());
     });
-    add("&Edit...", [this] { edit(); });
-    add("&Delete", [this] {
-        const int row = grdSchedule_->GetSelectedRow();
-        if (row == wxNOT_FOUND) return;
-        rules_.cmdDelSchedule_Click(static_cast<std::size_t>(row));
-        show(row);
-    });
+    ofRows_ = {add(_("&Edit..."), [this] { edit(); }), add(_("&Delete"), [this] {
+                   const int row = grdSchedule_->GetSelectedRow();
+                   rules_.cmdDelSchedule_Click(chosen());
+                   show(row);
+               })};
     return column;
 }
 
-// The next row takes the place of one that was deleted.
+// The next row takes the place of one that was deleted. wxNOT_FOUND selects none.
 void ScheduleDialog::show(int selected) {
     grdSchedule_->DeleteAllItems();
     for (const ScheduleEntry& entry : rules_.rows()) {
@@ -81,14 +84,21 @@ void ScheduleDialog::show(int selected) {
         cells.push_back(shownLine(entry.Time));
         grdSchedule_->AppendItem(cells);
     }
+    for (wxButton* button : ofRows_)
+        button->Enable(!rules_.rows().empty());
     const int last = grdSchedule_->GetItemCount() - 1;
-    if (last >= 0) grdSchedule_->SelectRow(static_cast<unsigned int>(std::clamp(selected, 0, last)));
+    if (last >= 0 && selected != wxNOT_FOUND)
+        grdSchedule_->SelectRow(static_cast<unsigned int>(std::clamp(selected, 0, last)));
+}
+
+std::optional<std::size_t> ScheduleDialog::chosen() const {
+    const int row = grdSchedule_->GetSelectedRow();
+    return row == wxNOT_FOUND ? std::nullopt : std::optional(static_cast<std::size_t>(row));
 }
 
 void ScheduleDialog::edit() {
     const int row = grdSchedule_->GetSelectedRow();
-    if (row == wxNOT_FOUND) return;
-    rules_.cmdEdit_Click(*this, static_cast<std::size_t>(row));
+    rules_.cmdEdit_Click(*this, chosen());
     show(row);
 }
 
@@ -107,9 +117,13 @@ void ScheduleDialog::onClick(wxMouseEvent& event) {
     if (item.IsOk() && column && column->GetModelColumn() == frmSchedule::timeColumn) CallAfter([this] { edit(); });
 }
 
-std::string ScheduleDialog::InputBox(std::string_view prompt, std::string_view title, std::string_view offered) {
+std::optional<std::string> ScheduleDialog::InputBox(std::string_view prompt, std::string_view title,
+                                                    std::string_view offered) {
     wxTextEntryDialog box(this, shownText(prompt), shownLine(title), shownLine(offered));
-    return box.ShowModal() == wxID_OK ? typedText(box.GetValue()) : std::string();
+    nameButtons(box);
+    for (wxWindow* child : box.GetChildren())
+        if (wxDynamicCast(child, wxTextCtrl)) setAccessibleName(*child, shownLine(title));
+    return box.ShowModal() == wxID_OK ? std::optional(typedText(box.GetValue())) : std::nullopt;
 }
 
 void ScheduleDialog::Beep() {

@@ -2,8 +2,10 @@
 #include "desktop/dialogs/WxMessageBoxes.h"
 
 #include <wx/msgdlg.h>
+#include <wx/translation.h>
 
 #include "desktop/dialogs/LongMessage.h"
+#include "desktop/dialogs/buttonTexts.h"
 #include "desktop/screenText.h"
 
 namespace vell {
@@ -22,6 +24,9 @@ long styleOf(Buttons buttons, BoxIcon icon) {
             break;
         case Buttons::YesNo:
             style |= wxYES_NO;
+            break;
+        case Buttons::NoYes:
+            style |= wxYES_NO | wxNO_DEFAULT;
             break;
         case Buttons::AbortRetryIgnore:
             style |= wxYES_NO | wxCANCEL;
@@ -51,6 +56,7 @@ Answer answerOf(Buttons buttons, int result) {
         case Buttons::RetryCancel:
             return result == wxID_OK ? Answer::Retry : Answer::Cancel;
         case Buttons::YesNo:
+        case Buttons::NoYes:
             return result == wxID_YES ? Answer::Yes : Answer::No;
         case Buttons::AbortRetryIgnore:
             if (result == wxID_YES) return Answer::Abort;
@@ -62,13 +68,20 @@ Answer answerOf(Buttons buttons, int result) {
 }  // namespace
 
 Answer WxMessageBoxes::Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon icon) {
+    return ShowWithDetail(text, "", caption, buttons, icon);
+}
+
+Answer WxMessageBoxes::ShowWithDetail(std::string_view text, std::string_view detail, std::string_view caption,
+                                      Buttons buttons, BoxIcon icon) {
     if (buttons == Buttons::Ok && LongMessage::isNeededFor(shownText(text))) {
         LongMessage(shownText(text), shownLine(caption)).ShowModal();
         return Answer::Ok;
     }
     wxMessageDialog box(nullptr, shownText(text), shownLine(caption), styleOf(buttons, icon));
-    if (buttons == Buttons::RetryCancel) box.SetOKCancelLabels("&Retry", "&Cancel");
-    if (buttons == Buttons::AbortRetryIgnore) box.SetYesNoCancelLabels("&Abort", "&Retry", "&Ignore");
+    nameButtons(box);
+    if (!detail.empty()) box.SetExtendedMessage(shownText(detail));
+    if (buttons == Buttons::RetryCancel) box.SetOKCancelLabels(_("&Retry"), _("&Cancel"));
+    if (buttons == Buttons::AbortRetryIgnore) box.SetYesNoCancelLabels(_("&Abort"), _("&Retry"), _("&Ignore"));
     return answerOf(buttons, box.ShowModal());
 }
 

@@ -9,6 +9,8 @@ namespace vell {
 class WxMessageBoxes : public MessageBoxes {
   public:
     Answer Show(std::string_view text, std::string_view caption, Buttons buttons, BoxIcon icon) override;
+    Answer ShowWithDetail(std::string_view text, std::string_view detail, std::string_view caption, Buttons buttons,
+                          BoxIcon icon) override;
 };
 
 }  // namespace vell

@@ -5,52 +5,50 @@
 #include <stdexcept>
 #include <utility>
 
+#include <wx/dataobj.h>
 #include <wx/dataview.h>
 #include <wx/sizer.h>
+#include <wx/translation.h>
 
 #include "desktop/list/ClippingsModel.h"
+#include "desktop/list/EmptyPane.h"
+#include "desktop/list/clipboard.h"
 #include "desktop/native/accessibleName.h"
-#include "desktop/native/columnTricks.h"
-#include "desktop/pictures.h"
+#include "desktop/native/typedLetter.h"
 #include "desktop/screenText.h"
-#include "desktop/twips.h"
 
 namespace vell {
-
-namespace {
-
-// DIP
-constexpr int narrowestTitle = 150;
-constexpr int cellMargins = 12;
-
-}  // namespace
 
 ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events)
     : wxPanel(parent),
       events_(std::move(events)),
       model_(new ClippingsModel),
-      list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_SINGLE | wxDV_ROW_LINES)),
+      list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_MULTIPLE | wxDV_ROW_LINES)),
+      empty_(new EmptyPane(this, *list_)),
+      columns_(*list_, *model_,
+               {[this](GridColumn column) { CallAfter([this, column] { headerClicked(column); }); },
+                [this] { CallAfter([this] { events_.ColumnsWanted(); }); }}),
       typeAhead_(clock) {
     list_->AssociateModel(model_);
-    setAccessibleName(*list_, "Clippings");
-    addColumns();
+    setAccessibleName(*list_, _("Clippings"));
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(list_, wxSizerFlags(1).Expand());
+    sizer->Add(empty_, wxSizerFlags(1).Expand());
     SetSizer(sizer);
 
     list_->Bind(wxEVT_DATAVIEW_ITEM_ACTIVATED, [this](wxDataViewEvent& event) {
-        if (event.GetItem().IsOk()) events_.DoubleClicked(model_->order().rowAt(model_->GetRow(event.GetItem())));
+        if (event.GetItem().IsOk()) events_.DoubleClicked(model_->GetRow(event.GetItem()));
     });
-    list_->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU, [this](wxDataViewEvent& /*event*/) { events_.MenuWanted(); });
-    list_->Bind(wxEVT_DATAVIEW_COLUMN_HEADER_CLICK, [this](wxDataViewEvent& event) {
-        if (event.GetDataViewColumn()) sortBy(static_cast<GridColumn>(event.GetDataViewColumn()->GetModelColumn()));
-    });
+    list_->Bind(wxEVT_DATAVIEW_ITEM_CONTEXT_MENU,
+                [this](wxDataViewEvent& /*event*/) { wantMenu(wxGetMousePosition()); });
+    list_->Bind(wxEVT_DATAVIEW_SELECTION_CHANGED, [this](wxDataViewEvent& /*event*/) { events_.Selected(); });
+    list_->EnableDragSource(wxDF_FILENAME);
+    list_->Bind(wxEVT_DATAVIEW_ITEM_BEGIN_DRAG, &ClippingsList::onDraw, this);
     list_->Bind(wxEVT_KEY_DOWN, &ClippingsList::onKey, this);
-    list_->Bind(wxEVT_CHAR, &ClippingsList::onCharacter, this);
     list_->Bind(wxEVT_MOTION, &ClippingsList::onMotion, this);
     list_->Bind(wxEVT_SIZE, [this](wxSizeEvent& event) {
         event.Skip();
-        CallAfter(&ClippingsList::fitColumns);  // GTK forgets what is asked for while it lays out
+        CallAfter([this] { columns_.fit(); });  // GTK forgets what is asked for while it lays out
     });
 }
 
@@ -58,38 +56,30 @@ ClippingsList::~ClippingsList() {
     model_->DecRef();
 }
 
-void ClippingsList::addColumns() {
-    for (const GridColumnLayout& layout : gridColumns) {
-        if (layout.Width == 0) continue;
-        const auto index = static_cast<unsigned int>(layout.Column);
-        const int width = pixelsFromTwips(*this, layout.Width);
-        givenWidths_[layout.Column] = width;
-        if (layout.Column == GridColumn::Marks) {
-            auto* marks = new wxDataViewIconTextRenderer;
-            marks->DisableEllipsize();
-            list_->AppendColumn(new wxDataViewColumn("", marks, index, width, wxALIGN_LEFT, 0));
-            continue;
-        }
-        auto* text = new wxDataViewTextRenderer;
-        text->EnableEllipsize(wxELLIPSIZE_END);
-        const int flags = layout.Column == GridColumn::Title ? 0 : wxDATAVIEW_COL_RESIZABLE;  // it takes the rest
-        auto* column = new wxDataViewColumn(shownLine(layout.Header), text, index, width, wxALIGN_LEFT, flags);
-        list_->AppendColumn(column);
-        whenResized(*column, [this] { CallAfter(&ClippingsList::fitColumns); });
-    }
-    showPictureOnly(columnOf(GridColumn::Marks), rowPictureSize);
-}
-
 void ClippingsList::show(const std::vector<ClippingRow>& rows) {
+    const auto pathOf = [this](std::size_t row) { return model_->at(row).path(); };
     const auto current = currentRow();
-    const std::string path = current ? model_->at(*current).path() : std::string();
-    if (!model_->setRows(rows) || !list_->GetSelection().IsOk()) restoreSelection(path);
-    wantedWidths_ = {wantedWidth(GridColumn::Newspaper), wantedWidth(GridColumn::Type)};
-    fitColumns();
+    const std::string currentPath = current ? pathOf(*current) : std::string();
+    std::set<std::string> selected;
+    for (const std::size_t row : selectedRows())
+        selected.insert(pathOf(row));
+    if (!rows.empty()) empty_->hide();  // first: GTK takes rows only in a list that is seen
+    if (!model_->setRows(rows) || !list_->HasSelection()) restoreSelection(currentPath, selected);
+    columns_.showArrow(order_);  // which GTK takes away with the rows
+    columns_.measure();
+    events_.Selected();
 }
 
-void ClippingsList::restoreSelection(const std::string& path) {
-    if (model_->size() > 0) selectRow(model_->rowOf(path).value_or(model_->order().rowAt(0)));
+void ClippingsList::restoreSelection(const std::string& current, const std::set<std::string>& selected) {
+    if (model_->size() == 0) return;
+    selectRow(model_->rowOf(current).value_or(0));
+    if (selected.size() < 2) return;
+    for (std::size_t row = 0; row < model_->size(); ++row)
+        if (selected.contains(model_->at(row).path())) list_->Select(itemOf(row));
+}
+
+wxDataViewItem ClippingsList::itemOf(std::size_t row) const {
+    return model_->GetItem(static_cast<unsigned int>(row));
 }
 
 void ClippingsList::showMarks(std::size_t row, const ClippingRow& marked) {
@@ -97,92 +87,108 @@ void ClippingsList::showMarks(std::size_t row, const ClippingRow& marked) {
 }
 
 std::optional<std::size_t> ClippingsList::currentRow() const {
-    const wxDataViewItem item = list_->GetSelection();
-    if (item.IsOk()) return model_->order().rowAt(model_->GetRow(item));
+    const wxDataViewItem item = list_->GetCurrentItem();
+    if (item.IsOk()) return model_->GetRow(item);
     if (model_->size() == 0) return std::nullopt;
-    return model_->order().rowAt(0);
+    return 0;
+}
+
+std::vector<std::size_t> ClippingsList::selectedRows() const {
+    wxDataViewItemArray items;
+    list_->GetSelections(items);
+    std::vector<std::size_t> rows;
+    rows.reserve(items.size());
+    for (const wxDataViewItem& item : items)
+        rows.push_back(model_->GetRow(item));
+    std::ranges::sort(rows);
+    return rows;
+}
+
+bool ClippingsList::hasSelection() const {
+    return list_->HasSelection();
 }
 
 void ClippingsList::selectRow(std::size_t row) {
-    const wxDataViewItem item = model_->GetItem(static_cast<unsigned int>(model_->order().placeOf(row)));
+    const wxDataViewItem item = itemOf(row);
+    list_->UnselectAll();
     list_->SetCurrentItem(item);
     list_->Select(item);
     list_->EnsureVisible(item);
+    events_.Selected();
 }
 
-void ClippingsList::sortBy(GridColumn column) {
-    const auto current = currentRow();
-    model_->sortBy(column);
-    showSortArrow();
-    if (current) selectRow(*current);
+void ClippingsList::selectAll() {
+    list_->SelectAll();
 }
 
-void ClippingsList::showSortArrow() {
-    const auto sorted = model_->order().column();
-    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i) {
-        wxDataViewColumn* column = list_->GetColumn(i);
-        if (sorted == static_cast<GridColumn>(column->GetModelColumn()))
-            column->SetSortOrder(model_->order().isAscending());
-        else if (column->IsSortKey())
-            column->UnsetAsSortKey();
-    }
+void ClippingsList::showOrder(const RowOrder& order) {
+    order_ = order;
+    columns_.showArrow(order_);
+}
+
+void ClippingsList::showHint(const EmptyHint& hint) {
+    empty_->show(hint);
+}
+
+void ClippingsList::hideHint() {
+    empty_->hide();
 }
 
 void ClippingsList::focusList() {
-    list_->SetFocus();
-}
-
-void ClippingsList::setColumnWidth(GridColumn column, int width) {
-    columnOf(column).SetWidth(width);
-}
-
-std::optional<int> ClippingsList::chosenWidth(GridColumn column) const {
-    const int width = givenWidth(columnOf(column));
-    return width == givenWidths_.at(column) ? std::nullopt : std::optional(width);
-}
-
-void ClippingsList::fitColumns() {
-    const auto tableWidth = [this](GridColumn column) { return pixelsFromTwips(*this, gridColumnWidth(column)); };
-    const auto newspaper = chosenWidth(GridColumn::Newspaper);
-    const auto type = chosenWidth(GridColumn::Type);
-    const int all = roomForColumns(*list_);
-    const int room = std::min(all / 2, all - tableWidth(GridColumn::Marks) - tableWidth(GridColumn::Title));
-    const auto widths = fittedWidths(
-        {newspaper.value_or(tableWidth(GridColumn::Newspaper)), type.value_or(tableWidth(GridColumn::Type))},
-        {newspaper.value_or(wantedWidths_.Newspaper), type.value_or(wantedWidths_.Type)}, room);
-    giveWidth(GridColumn::Newspaper, widths.Newspaper);
-    giveWidth(GridColumn::Type, widths.Type);
-    const int rest = all - tableWidth(GridColumn::Marks) - widths.Newspaper - widths.Type;
-    giveWidth(GridColumn::Title, std::max(rest, FromDIP(narrowestTitle)));
-}
-
-int ClippingsList::wantedWidth(GridColumn column) const {
-    constexpr std::size_t mostMeasured = 200;
-    int widest = 0;
-    for (const std::string& text : model_->texts(column, mostMeasured))
-        widest = std::max(widest, list_->GetTextExtent(shownLine(text)).GetWidth());
-    return widest + FromDIP(cellMargins);
-}
-
-void ClippingsList::giveWidth(GridColumn column, int width) {
-    if (chosenWidth(column) || width == givenWidths_.at(column)) return;
-    columnOf(column).SetWidth(width);
-    givenWidths_[column] = width;
-}
-
-wxDataViewColumn& ClippingsList::columnOf(GridColumn column) const {
-    for (unsigned int i = 0; i < list_->GetColumnCount(); ++i)
-        if (static_cast<GridColumn>(list_->GetColumn(i)->GetModelColumn()) == column) return *list_->GetColumn(i);
-    throw std::out_of_range("a column that is not shown");
+    empty_->focus();
 }
 
 void ClippingsList::onKey(wxKeyEvent& event) {
-    const auto row = currentRow();
-    const bool isEnter = event.GetKeyCode() == WXK_RETURN || event.GetKeyCode() == WXK_NUMPAD_ENTER;
-    if (isEnter && !event.HasAnyModifiers() && row)
-        events_.Entered(*row);
-    else
+    const int key = event.GetKeyCode();
+    const bool isEnter = key == WXK_RETURN || key == WXK_NUMPAD_ENTER;
+    const bool isBlank = key == WXK_SPACE && !event.HasAnyModifiers();
+    const bool isMenu = key == WXK_WINDOWS_MENU || key == WXK_MENU;
+    if (isEnter && !event.HasAnyModifiers())
+        events_.Entered();
+    else if (isMenu || (key == WXK_F10 && event.GetModifiers() == wxMOD_SHIFT))
+        wantMenu(belowCurrentRow());
+    else if (isBlank && !typeAhead_.isUnderWay() && events_.BlankPressed())
+        return;
+    else if (!type(event))
         event.Skip();
+}
+
+// A letter of any layout, by which the list is searched. The toolkit's own event for letters knows Latin ones only.
+bool ClippingsList::type(const wxKeyEvent& event) {
+    const wxUniChar letter = typedLetter(event);
+    const std::string typed = letter < WXK_SPACE || event.HasModifiers() ? std::string() : typedText(wxString(letter));
+    if (typed.empty()) return false;
+    const GridColumn column = order_.Column.value_or(GridColumn::Title);
+    const GridColumn searched = column == GridColumn::Marks ? GridColumn::Title : column;
+    const auto row = typeAhead_.type(typed.front(), model_->size(), currentRow(),
+                                     [&](std::size_t at) { return cellText(model_->at(at), searched); });
+    if (row) selectRow(*row);
+    return true;
+}
+
+// The header has taken the keyboard, for which it has no use.
+void ClippingsList::headerClicked(GridColumn column) {
+    list_->SetFocus();
+    events_.SortWanted(column);
+}
+
+void ClippingsList::wantMenu(const wxPoint& place) {
+    list_->UnsetToolTip();  // it would come up over the menu
+    events_.MenuWanted(place);
+}
+
+wxPoint ClippingsList::belowCurrentRow() const {
+    const wxRect row = list_->GetItemRect(list_->GetCurrentItem());
+    return list_->ClientToScreen(row.IsEmpty() ? wxPoint() : wxPoint(row.GetLeft(), row.GetBottom()));
+}
+
+// A row is drawn out of the window: with all that are selected when it is one of them.
+void ClippingsList::onDraw(wxDataViewEvent& event) {
+    if (!event.GetItem().IsOk()) return;
+    const std::size_t row = model_->GetRow(event.GetItem());
+    std::vector<std::size_t> rows = selectedRows();
+    if (std::ranges::find(rows, row) == rows.end()) rows = {row};
+    event.SetDataObject(filesToDraw(events_.FilesWanted(rows)).release());  // the control's now
 }
 
 // Columns cut long titles: the tip shows all of the row under the mouse. The event's own place would not do: on GTK it
@@ -194,28 +200,12 @@ void ClippingsList::onMotion(wxMouseEvent& event) {
     list_->HitTest(list_->ScreenToClient(wxGetMousePosition()), item, column);
     wxString tip;
     if (item.IsOk()) {
-        const CFtpFile& clipping = *model_->at(model_->order().rowAt(model_->GetRow(item))).File;
+        const CFtpFile& clipping = *model_->at(model_->GetRow(item)).File;
         for (const std::string& text :
              {clipping.Description, clipping.NewspaperName, clipping.ArticleType, clipping.Category})
             if (!text.empty()) tip += (tip.empty() ? "" : "\n") + shownLine(text);
     }
     if (list_->GetToolTipText() != tip) list_->SetToolTip(tip);
-}
-
-void ClippingsList::onCharacter(wxKeyEvent& event) {
-    const wxChar letter = event.GetUnicodeKey();
-    const std::string typed = letter < WXK_SPACE || event.HasModifiers() ? std::string() : typedText(wxString(letter));
-    if (typed.empty()) {
-        event.Skip();
-        return;
-    }
-    const auto current = currentRow();
-    const GridColumn column = model_->order().column().value_or(GridColumn::Title);
-    const GridColumn searched = column == GridColumn::Marks ? GridColumn::Title : column;
-    const auto place = typeAhead_.type(typed.front(), model_->size(),
-                                       current ? std::optional(model_->order().placeOf(*current)) : std::nullopt,
-                                       [&](std::size_t at) { return model_->textAt(at, searched); });
-    if (place) selectRow(model_->order().rowAt(*place));
 }
 
 }  // namespace vell

@@ -3,70 +3,85 @@
 
 #include <cstddef>
 #include <functional>
-#include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
 #include <wx/panel.h>
 
+#include "desktop/list/ListColumns.h"
 #include "ui/BrowserView.h"
 #include "ui/list/GridColumns.h"
+#include "ui/list/RowOrder.h"
 #include "ui/list/TypeAhead.h"
 
-class wxDataViewColumn;
 class wxDataViewCtrl;
 class wxDataViewEvent;
+class wxDataViewItem;
 class wxKeyEvent;
 class wxMouseEvent;
 
 namespace vell {
 
 class ClippingsModel;
+class EmptyPane;
+struct EmptyHint;
 
-// The list of the chosen day's clippings. Rows are meant by their number in the browser's list throughout, whatever
-// the list is sorted by.
+// The list of the chosen day's clippings. Rows are meant by their number in the browser's list throughout.
 class ClippingsList : public wxPanel {
   public:
     struct Events {
         std::function<void(std::size_t row)> DoubleClicked;
-        std::function<void(std::size_t row)> Entered;
-        std::function<void()> MenuWanted;
+        std::function<void()> Entered;
+        std::function<void(const wxPoint& place)> MenuWanted;  // on the screen
+        std::function<void(GridColumn column)> SortWanted;
+        // The paths of their files, the system's own, UTF-8.
+        std::function<std::vector<std::string>(const std::vector<std::size_t>& rows)> FilesWanted;
+        std::function<void()> ColumnsWanted;  // a menu to choose them
+        std::function<void()> Selected;       // another row may be the current one, or that row is another clipping
+        std::function<bool()> BlankPressed;   // true when the key has done something
     };
     ClippingsList(wxWindow* parent, const Clock& clock, Events events);
     ~ClippingsList() override;
 
+    // What was selected stays selected as far as it is still there.
     void show(const std::vector<ClippingRow>& rows);
     void showMarks(std::size_t row, const ClippingRow& marked);
-    // In pixels. Columns that the user has not drawn fit their texts as far as the titles leave them room.
-    void setColumnWidth(GridColumn column, int width);
-    // As the user has drawn it.
-    [[nodiscard]] std::optional<int> chosenWidth(GridColumn column) const;
+    void showOrder(const RowOrder& order);
+    // In the place of the list, until it has rows or the hint is hidden.
+    void showHint(const EmptyHint& hint);
+    void hideHint();
+    [[nodiscard]] ListColumns& columns() { return columns_; }
 
-    // The row that commands for one clipping mean; nothing when the list is empty.
+    // The row that commands for one clipping mean: where the keyboard is; nothing when the list is empty.
     [[nodiscard]] std::optional<std::size_t> currentRow() const;
+    // The rows that commands for several mean, from the top down.
+    [[nodiscard]] std::vector<std::size_t> selectedRows() const;
+    [[nodiscard]] bool hasSelection() const;
+    // That row alone.
     void selectRow(std::size_t row);
-    void sortBy(GridColumn column);
+    void selectAll();
     void focusList();
 
   private:
-    void addColumns();
     void onKey(wxKeyEvent& event);
-    void onCharacter(wxKeyEvent& event);
+    void headerClicked(GridColumn column);
+    void wantMenu(const wxPoint& place);
+    [[nodiscard]] wxPoint belowCurrentRow() const;
+    [[nodiscard]] bool type(const wxKeyEvent& event);
     void onMotion(wxMouseEvent& event);
-    void restoreSelection(const std::string& path);
-    void showSortArrow();
-    void fitColumns();
-    [[nodiscard]] int wantedWidth(GridColumn column) const;
-    void giveWidth(GridColumn column, int width);
-    [[nodiscard]] wxDataViewColumn& columnOf(GridColumn column) const;
+    void onDraw(wxDataViewEvent& event);
+    void restoreSelection(const std::string& current, const std::set<std::string>& selected);
+    [[nodiscard]] wxDataViewItem itemOf(std::size_t row) const;
 
     Events events_;
     ClippingsModel* model_;  // the control and this list share it
     wxDataViewCtrl* list_;
+    EmptyPane* empty_;
+    ListColumns columns_;
     TypeAhead typeAhead_;
-    TextColumnWidths wantedWidths_;          // by the rows that are shown; measuring takes its time
-    std::map<GridColumn, int> givenWidths_;  // by this list; a column that has another one was drawn by the user
+    RowOrder order_;
 };
 
 }  // namespace vell

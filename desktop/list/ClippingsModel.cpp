@@ -2,11 +2,14 @@
 #include "desktop/list/ClippingsModel.h"
 
 #include <algorithm>
+#include <utility>
 
+#include <wx/translation.h>
 #include <wx/variant.h>
 
 #include "desktop/pictures.h"
 #include "desktop/screenText.h"
+#include "ui/list/RowOrder.h"
 
 namespace vell {
 
@@ -26,14 +29,14 @@ std::vector<std::string> pathsOf(const std::vector<ClippingRow>& rows) {
 bool looksSame(const ClippingRow& a, const ClippingRow& b) {
     const bool sameTexts = std::ranges::all_of(
         gridColumns, [&](const auto& layout) { return cellText(a, layout.Column) == cellText(b, layout.Column); });
-    return sameTexts && a.Opened == b.Opened && a.Printed == b.Printed;
+    return sameTexts && a.Opened == b.Opened && a.Printed == b.Printed && a.New == b.New;
 }
 
 // The marks as a screen reader says them. The blanks in front push the words out of sight behind the picture, which
 // fills the column.
 wxString spokenMarks(const ClippingRow& row) {
     if (!row.Opened && !row.Printed) return {};
-    const wxString words = row.Opened && row.Printed ? "Opened, printed" : row.Opened ? "Opened" : "Printed";
+    const wxString words = row.Opened && row.Printed ? _("Opened, printed") : row.Opened ? _("Opened") : _("Printed");
     return wxString(12, ' ') + words;
 }
 
@@ -43,10 +46,8 @@ ClippingsModel::ClippingsModel()
     : imgOpenPrinter_{rowPicture(Picture::Opened), rowPicture(Picture::Printed), rowPicture(Picture::Both)} {}
 
 bool ClippingsModel::setRows(const std::vector<ClippingRow>& rows) {
-    const std::vector<ClippingRow> before = shownRows();
-    rows_ = rows;
-    order_.rebuild(rows_);
-    const auto inserted = insertedPlaces(pathsOf(before), pathsOf(shownRows()));
+    const std::vector<ClippingRow> before = std::exchange(rows_, rows);
+    const auto inserted = insertedPlaces(pathsOf(before), pathsOf(rows_));
     if (!inserted || inserted->size() > mostInsertedOneByOne) {
         Reset(static_cast<unsigned int>(rows_.size()));
         return false;
@@ -62,7 +63,7 @@ void ClippingsModel::tellChanges(const std::vector<ClippingRow>& before, const s
         if (next != inserted.end() && *next == place) {
             RowInserted(static_cast<unsigned int>(place));
             ++next;
-        } else if (!looksSame(*old++, rows_[order_.rowAt(place)])) {
+        } else if (!looksSame(*old++, rows_[place])) {
             RowChanged(static_cast<unsigned int>(place));
         }
     }
@@ -70,16 +71,7 @@ void ClippingsModel::tellChanges(const std::vector<ClippingRow>& before, const s
 
 void ClippingsModel::setMarks(std::size_t row, const ClippingRow& marked) {
     rows_.at(row) = marked;
-    RowChanged(static_cast<unsigned int>(order_.placeOf(row)));
-}
-
-void ClippingsModel::sortBy(GridColumn column) {
-    order_.sortBy(column, rows_);
-    Reset(static_cast<unsigned int>(rows_.size()));
-}
-
-std::string ClippingsModel::textAt(std::size_t place, GridColumn column) const {
-    return cellText(rows_.at(order_.rowAt(place)), column);
+    RowChanged(static_cast<unsigned int>(row));
 }
 
 std::set<std::string> ClippingsModel::texts(GridColumn column, std::size_t most) const {
@@ -95,6 +87,10 @@ std::optional<std::size_t> ClippingsModel::rowOf(const std::string& path) const 
     return static_cast<std::size_t>(found - rows_.begin());
 }
 
+bool ClippingsModel::hasBold() const {
+    return std::ranges::any_of(rows_, &ClippingRow::New);
+}
+
 unsigned int ClippingsModel::GetColumnCount() const {
     return gridColumns.size();
 }
@@ -103,8 +99,8 @@ wxString ClippingsModel::GetColumnType(unsigned int column) const {
     return static_cast<GridColumn>(column) == GridColumn::Marks ? "wxDataViewIconText" : "string";
 }
 
-void ClippingsModel::GetValueByRow(wxVariant& value, unsigned int place, unsigned int column) const {
-    const ClippingRow& row = rows_.at(order_.rowAt(place));
+void ClippingsModel::GetValueByRow(wxVariant& value, unsigned int number, unsigned int column) const {
+    const ClippingRow& row = rows_.at(number);
     const auto asked = static_cast<GridColumn>(column);
     if (asked != GridColumn::Marks) {
         value = shownLine(cellText(row, asked));
@@ -116,16 +112,14 @@ void ClippingsModel::GetValueByRow(wxVariant& value, unsigned int place, unsigne
     value << marks;
 }
 
-bool ClippingsModel::SetValueByRow(const wxVariant& /*value*/, unsigned int /*place*/, unsigned int /*column*/) {
+bool ClippingsModel::SetValueByRow(const wxVariant& /*value*/, unsigned int /*row*/, unsigned int /*column*/) {
     return false;
 }
 
-std::vector<ClippingRow> ClippingsModel::shownRows() const {
-    std::vector<ClippingRow> shown;
-    shown.reserve(rows_.size());
-    for (std::size_t place = 0; place < order_.size(); ++place)
-        shown.push_back(rows_[order_.rowAt(place)]);
-    return shown;
+bool ClippingsModel::GetAttrByRow(unsigned int row, unsigned int /*column*/, wxDataViewItemAttr& looks) const {
+    if (!rows_.at(row).New) return false;
+    looks.SetBold(true);
+    return true;
 }
 
 }  // namespace vell

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 class wxDataViewColumn;
 class wxDataViewCtrl;
@@ -12,6 +13,14 @@ namespace vell {
 // Tells whenever the column gets another width, from the user or the program. Not to be answered with widths at once:
 // the list is being laid out.
 void whenResized(wxDataViewColumn& column, std::function<void()> tell);
+
+// Tells when the column's header is clicked, but not when it is drawn to another place.
+void whenHeaderClicked(wxDataViewColumn& column, std::function<void()> tell);
+// The same for the right button.
+void whenHeaderRightClicked(wxDataViewColumn& column, std::function<void()> tell);
+
+// Puts these columns into this order, from the left; all others stand behind them.
+void putInOrder(wxDataViewCtrl& list, const std::vector<wxDataViewColumn*>& columns);
 
 // What a list has for its columns, in pixels.
 [[nodiscard]] int roomForColumns(const wxDataViewCtrl& list);

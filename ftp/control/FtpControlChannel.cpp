@@ -158,6 +158,9 @@ void FtpControlChannel::DataArrival(std::size_t /*bytes*/) {
             reader_.feed(lastServerResponse_);
             collectReplies();
         }
+        // A server may hold back the next piece until it knows that this one came, some for 40 ms. What we say next
+        // tells it, too, but we say nothing before a reply's end.
+        if (inMidReply_ || !reader_.pending().empty()) socket_->AcknowledgeNow();
     });
 }
 
@@ -171,6 +174,7 @@ void FtpControlChannel::collectReplies() {
 void FtpControlChannel::receive(FtpReply reply) {
     const std::string message = reply.Text + "\r\n";
     const int code = reply.Code;
+    inMidReply_ = isPreliminary(code);
     const bool isRest = std::exchange(restBelongsToTaken_, false);
     if (isRest || !unanswered_ || reply.Text.empty())
         ++dropped_;

@@ -87,6 +87,7 @@ class FtpControlChannel : private TcpSocketEvents {
     std::int32_t nextStep_ = 0;  // of those of connecting, to be told
     FtpReplyReader reader_;
     std::deque<FtpReply> replies_;
+    bool inMidReply_ = false;          // what came last announces another reply
     bool restBelongsToTaken_ = false;  // the reply being read was judged already
     FtpReply last_;
     std::string lastServerResponse_;

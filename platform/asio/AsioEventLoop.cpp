@@ -17,6 +17,9 @@ using std::chrono::milliseconds;
 
 namespace {
 
+// Short against what an eye sees, long against what a look at the events costs.
+constexpr milliseconds betweenLooks{5};
+
 void tellStandardError(const RunTimeError& error) {
     std::cerr << "Error " << error.Number << " in an event handler: " << error.Description << '\n';
 }
@@ -41,9 +44,12 @@ AsioEventLoop::~AsioEventLoop() = default;
 // The sockets are asked in the wait alone, and not before and after it as well: while bytes come in, each question that
 // finds nothing would cost as much as a block.
 void AsioEventLoop::WaitForEvents(int length) {
-    if (pump_) guarded(pump_);
+    const milliseconds untilPump = pump_ ? untilDue(pumpedAt_) : milliseconds{0};
+    if (untilPump == milliseconds{0}) pumpNow();
+    lookedAt_ = clock_.Steady();
     bool happened = fireTimers();
     milliseconds wait{happened ? 0 : std::max(length, 0)};
+    if (untilPump > milliseconds{0}) wait = std::min(wait, untilPump);
     if (const auto next = untilNextTimer()) wait = std::min(wait, *next);
     happened = runFor(clock_.realLength(wait)) || happened;
     if (!happened) clock_.passed(wait);
@@ -89,28 +95,45 @@ std::optional<milliseconds> AsioEventLoop::untilNextTimer() const {
 }
 
 void AsioEventLoop::DoEvents() {
-    if (pump_) guarded(pump_);
+    pumpNow();
+    lookedAt_ = clock_.Steady();
     runQueue();
     fireTimers();
 }
 
-// True when something happened. The sockets are asked once at the end of the first round; what they tell happens in the
-// second. More rounds would never end under a peer that sends as fast as it is read.
+void AsioEventLoop::DoEventsNowAndThen() {
+    if (untilDue(lookedAt_) == milliseconds{0}) DoEvents();
+}
+
+milliseconds AsioEventLoop::untilDue(const Moment& taken) const {
+    if (!taken) return milliseconds{0};
+    return std::max(betweenLooks - (clock_.Steady() - *taken), milliseconds{0});
+}
+
+void AsioEventLoop::pumpNow() {
+    if (!pump_) return;
+    pumpedAt_ = clock_.Steady();
+    guarded(pump_);
+}
+
+// True when something happened. Most of the time nothing is pending, and the sockets are asked once. Else they are
+// asked at the end of the first round, and what they tell happens in the second. More rounds would never end under a
+// peer that sends as fast as it is read.
 bool AsioEventLoop::runQueue() {
-    const bool happened = runRound();
-    return runRound() || happened;
+    bool happened = true;  // also when the handler throws
+    guarded([&] { happened = context_->poll_one() != 0; });
+    if (!happened) return false;
+    runRound();
+    runRound();
+    return true;
 }
 
 // Runs what stands in the context's queue now, and nothing that is added meanwhile.
-bool AsioEventLoop::runRound() {
+void AsioEventLoop::runRound() {
     bool atEnd = false;
-    bool happened = false;
     asio::post(*context_, [&atEnd] { atEnd = true; });
-    while (!atEnd) {
+    while (!atEnd)
         guarded([this] { context_->poll_one(); });
-        happened = happened || !atEnd;
-    }
-    return happened;
 }
 
 bool AsioEventLoop::fireTimers() {

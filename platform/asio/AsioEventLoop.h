@@ -27,12 +27,13 @@ class AsioEventLoop : public EventLoop {
     AsioEventLoop& operator=(const AsioEventLoop&) = delete;
 
     void DoEvents() override;
+    void DoEventsNowAndThen() override;
     void WaitForEvents(int milliseconds) override;
     void Sleep(int milliseconds) override;
     [[nodiscard]] TimerId SetTimer(int periodMilliseconds, std::function<void()> tick) override;
     void KillTimer(TimerId timer) override;
 
-    // Handles a window system's pending messages; called by every DoEvents and WaitForEvents.
+    // Handles a window system's pending messages; called by every DoEvents, and by WaitForEvents now and then.
     void setPump(std::function<void()> pump);
     // For a window system that owns the outer loop: it calls DoEvents when untilNextTimer has gone by, and is told
     // whenever that has become another time.
@@ -45,10 +46,14 @@ class AsioEventLoop : public EventLoop {
 
   private:
     struct Anchor;
+    using Moment = std::optional<SteadyTime>;
 
+    // Until a look that was taken then is to be taken again; 0 when it is.
+    [[nodiscard]] std::chrono::milliseconds untilDue(const Moment& taken) const;
+    void pumpNow();
     bool runFor(std::chrono::milliseconds length);
     bool runQueue();
-    bool runRound();
+    void runRound();
     bool fireTimers();
     template <class Body>
     void guarded(Body&& body);
@@ -59,6 +64,8 @@ class AsioEventLoop : public EventLoop {
     std::unique_ptr<Anchor> anchor_;
     TimerQueue timers_;
     std::function<void()> pump_;
+    Moment pumpedAt_;
+    Moment lookedAt_;  // at the events
     std::function<void()> onTimersChanged_;
 };
 

@@ -84,6 +84,10 @@ bool AsioTcpSocket::TakeBlock(ByteBlock& block) {
     return stream_ && stream_->takeBlock(block);
 }
 
+void AsioTcpSocket::AcknowledgeNow() {
+    if (stream_) stream_->acknowledgeNow();
+}
+
 std::size_t AsioTcpSocket::BytesReceived() const {
     return stream_ ? stream_->unread() : 0;
 }
@@ -123,6 +127,9 @@ void AsioTcpSocket::onProgress(SocketState reached) {
 
 void AsioTcpSocket::onConnected(tcp::socket socket) {
     connector_.reset();
+    std::error_code problem;
+    local_ = unlessGone(socket.local_endpoint(problem), problem);
+    remote_ = unlessGone(socket.remote_endpoint(problem), problem);
     adopt(std::move(socket));
     events_.Connected();
 }
@@ -131,8 +138,12 @@ bool AsioTcpSocket::letsIn(const asio::ip::address& peer) const {
     return !expected_ || plain(peer) == *expected_;
 }
 
-void AsioTcpSocket::onPeer(tcp::socket peer) {
+void AsioTcpSocket::onPeer(tcp::socket peer, const tcp::endpoint& from) {
     listener_.reset();
+    // Who listens at one address has it already.
+    std::error_code problem;
+    if (local_->address().is_unspecified()) local_ = unlessGone(peer.local_endpoint(problem), problem);
+    remote_ = from;
     pending_ = std::move(peer);
     state_ = SocketState::ConnectionPending;
     events_.ConnectionRequest();
@@ -161,9 +172,6 @@ void AsioTcpSocket::mustBe(SocketState state, std::int32_t otherwise) const {
 }
 
 void AsioTcpSocket::adopt(tcp::socket socket) {
-    std::error_code problem;
-    local_ = unlessGone(socket.local_endpoint(problem), problem);
-    remote_ = unlessGone(socket.remote_endpoint(problem), problem);
     stream_ = std::make_shared<SocketStream>(std::move(socket), *this, blocks_);
     state_ = SocketState::Connected;
     stream_->start();

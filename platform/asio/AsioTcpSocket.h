@@ -36,6 +36,7 @@ class AsioTcpSocket final : public TcpSocket,
     void SendData(std::string_view bytes) override;
     [[nodiscard]] std::string GetData(std::size_t most) override;
     [[nodiscard]] bool TakeBlock(ByteBlock& block) override;
+    void AcknowledgeNow() override;
     [[nodiscard]] std::size_t BytesReceived() const override;
     [[nodiscard]] std::size_t BytesToSend() const override;
     void Close() override;
@@ -47,13 +48,14 @@ class AsioTcpSocket final : public TcpSocket,
     void onProgress(SocketState reached) override;
     void onConnected(asio::ip::tcp::socket socket) override;
     [[nodiscard]] bool letsIn(const asio::ip::address& peer) const override;
-    void onPeer(asio::ip::tcp::socket peer) override;
+    void onPeer(asio::ip::tcp::socket peer, const asio::ip::tcp::endpoint& from) override;
     void onArrived(std::size_t unread) override;
     void onSent(std::size_t bytes) override;
     void onPeerClosed() override;
     void onFailed(const RunTimeError& error) override;
 
     void mustBe(SocketState state, std::int32_t otherwise) const;
+    // The ends of the connection are known.
     void adopt(asio::ip::tcp::socket socket);
 
     AsioEventLoop& loop_;

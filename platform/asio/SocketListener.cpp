@@ -31,7 +31,7 @@ void SocketListener::stop() {
 }
 
 void SocketListener::next() {
-    acceptor_.async_accept([self = shared_from_this()](const std::error_code& problem, tcp::socket peer) {
+    acceptor_.async_accept(from_, [self = shared_from_this()](const std::error_code& problem, tcp::socket peer) {
         if (!self->stopped_) self->onCame(problem, std::move(peer));
     });
 }
@@ -42,16 +42,13 @@ void SocketListener::onCame(const std::error_code& problem, tcp::socket peer) {
         owner_.onFailed(socketError(problem));
         return;
     }
-    std::error_code gone = problem;
-    tcp::endpoint from;
-    if (!gone) from = peer.remote_endpoint(gone);
-    if (gone || !owner_.letsIn(from.address())) {
+    if (problem || !owner_.letsIn(from_.address())) {
         next();
         return;
     }
     stop();
     keepFromChildren(peer.native_handle());
-    owner_.onPeer(std::move(peer));
+    owner_.onPeer(std::move(peer), from_);
 }
 
 }  // namespace vell

@@ -20,7 +20,7 @@ class SocketListener : public std::enable_shared_from_this<SocketListener> {
         virtual ~Owner() = default;
         [[nodiscard]] virtual bool letsIn(const asio::ip::address& peer) const = 0;
         // Each of these two ends the listener's work.
-        virtual void onPeer(asio::ip::tcp::socket peer) = 0;
+        virtual void onPeer(asio::ip::tcp::socket peer, const asio::ip::tcp::endpoint& from) = 0;
         virtual void onFailed(const RunTimeError& error) = 0;
     };
 
@@ -37,6 +37,7 @@ class SocketListener : public std::enable_shared_from_this<SocketListener> {
 
     Owner& owner_;
     asio::ip::tcp::acceptor acceptor_;
+    asio::ip::tcp::endpoint from_;  // of who is being let in
     bool stopped_ = false;
 };
 

@@ -15,8 +15,6 @@ using asio::ip::tcp;
 
 namespace {
 
-// So few bytes are one side of a dialogue: the other side may not say its next word before it knows that this one came.
-constexpr std::size_t ofADialogue = 1024;
 // An owner that yields in its handlers is told of new events inside them. Under a fast peer each would go one deeper
 // than the last, until the stack ends; so from this depth on nothing new is begun.
 constexpr int deepest = 16;
@@ -47,10 +45,6 @@ SocketStream::~SocketStream() {
 }
 
 void SocketStream::start() {
-    // A connection that is gone already refuses options; reading tells why.
-    std::error_code ignored;
-    socket_.set_option(tcp::no_delay(true), ignored);
-    socket_.set_option(tcp::socket::keep_alive(true), ignored);
     read();
 }
 
@@ -63,8 +57,21 @@ void SocketStream::stop() {
 
 void SocketStream::send(std::string_view bytes) {
     if (writeProblem_) return;  // the owner will be told as soon as all that came before is read
+    if (!std::exchange(speaks_, true)) beginToSpeak();
     waiting_ += bytes;
     write();
+}
+
+// Who only listens, to one file, needs neither of these.
+void SocketStream::beginToSpeak() {
+    // A connection that is gone already refuses options; reading tells why.
+    std::error_code ignored;
+    socket_.set_option(tcp::no_delay(true), ignored);
+    socket_.set_option(tcp::socket::keep_alive(true), ignored);
+}
+
+void SocketStream::acknowledgeNow() {
+    if (!stopped_) acknowledgeAtOnce(socket_.native_handle());
 }
 
 std::string SocketStream::take(std::size_t most) {
@@ -120,7 +127,6 @@ void SocketStream::onRead(const std::error_code& problem, std::size_t bytes) {
         onReadEnd(problem);
         return;
     }
-    if (bytes < ofADialogue) acknowledgeAtOnce(socket_.native_handle());
     incoming_.filled(bytes);
     moveUp();
     read();

@@ -36,6 +36,7 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
     void stop();
 
     void send(std::string_view bytes);
+    void acknowledgeNow();
     [[nodiscard]] std::string take(std::size_t most);
     [[nodiscard]] bool takeBlock(ByteBlock& block);
     [[nodiscard]] std::size_t unread() const { return arrived_.size() - taken_ + incoming_.size(); }
@@ -44,6 +45,7 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
   private:
     class Telling;
 
+    void beginToSpeak();
     void moveUp();
     void goOn();
     void read();
@@ -59,7 +61,8 @@ class SocketStream : public std::enable_shared_from_this<SocketStream> {
     Owner& owner_;
     std::shared_ptr<BlockPool> blocks_;
     bool stopped_ = false;
-    int depth_ = 0;  // of the owner's handlers that are running, each but the first inside a yield of another
+    bool speaks_ = false;  // has sent something
+    int depth_ = 0;        // of the owner's handlers that are running, each but the first inside a yield of another
 
     // What has arrived and not been taken, and the block that the system fills meanwhile; once that is full, too,
     // nothing is received until the first has been taken, and the peer feels it by TCP's own flow control.

@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "platform/Translations.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/posix/files/PosixFiles.h"
@@ -33,6 +34,7 @@ struct SystemPlatform::Parts {
     PosixProcess Program;
     PosixShell DesktopShell;
     CupsPrinters Printer;
+    Translations Words;
 };
 
 SystemPlatform::SystemPlatform(std::optional<std::string> folder)
@@ -42,8 +44,8 @@ SystemPlatform::~SystemPlatform() = default;
 
 Platform SystemPlatform::with(MessageBoxes& boxes) {
     Parts& p = *parts_;
-    return {p.Time,       p.Loop, p.Disk, p.Ini,     p.Internet,     p.Net,
-            p.Connection, p.Ras,  boxes,  p.Program, p.DesktopShell, p.Printer};
+    return {p.Time, p.Loop, p.Disk,    p.Ini,          p.Internet, p.Net,  p.Connection,
+            p.Ras,  boxes,  p.Program, p.DesktopShell, p.Printer,  p.Words};
 }
 
 AsioEventLoop& SystemPlatform::loop() {

@@ -61,6 +61,12 @@ TEST_P(DiskFaultsTest, loseAndMixNothingAreToldAndMadeGoodByTheNextRun) {
             EXPECT_THAT(inDay(name), AnyOf(old(name), fresh(name))) << name;
         EXPECT_EQ(folder.get("vell.ini"), settings);
         if (!files.hasFailed()) break;
+        for (const DaySummary& day : program.downloads().summary().Days) {
+            for (const FailedFile& file : day.FailedFiles)
+                EXPECT_EQ(file.Why, Failure{Cause::DiskFull}) << file.Name << logged();
+            EXPECT_THAT(day.BrokenOff.value_or(Failure{Cause::DiskFull}).Why,
+                        AnyOf(Cause::DiskFull, Cause::FolderUnwritable, Cause::NoFolder));
+        }
         EXPECT_THAT(logged() + std::string(program.settingsComplaint()),
                     AnyOf(HasSubstr("Disk full"), HasSubstr("Not enough free space"), HasSubstr("cannot be read")));
         files.failAt(0);

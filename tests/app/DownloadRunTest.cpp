@@ -87,12 +87,17 @@ FORCEd download ENDED
     EXPECT_EQ(inDay("ALLFILES.DIR"), "N120040307.PDF||PAPER||TITLE 1||CAT||TYPE||1||-||1500||300||300\r\n\r\n");
     EXPECT_THAT(boxes.Shown, testing::ElementsAre(list));
     EXPECT_EQ(program.downloads().outcome().FilesFailed, 1);
+    const DaySummary& day = program.downloads().summary().Days.at(0);
+    EXPECT_THAT(day.New, testing::IsEmpty());
+    EXPECT_EQ(day.FailedFiles.at(0).Name, "N120040307.TXT");
+    EXPECT_EQ(day.FailedFiles.at(0).Why.Why, Cause::NotThere);
 }
 
 TEST_F(DownloadRunTest, marksWholeClippingsAndPrintsEachNewPdfOnce) {
     configure("PrintOnDownload=1\r\n", folder.text() + "/clips");
     EXPECT_TRUE(runToday());
     EXPECT_EQ(marked(), 3U);
+    EXPECT_EQ(program.downloads().summary().newClippings(), 3U);
     EXPECT_EQ(folder.get("ADVERTISMENT.JPG") + inDay("ALERT.MSG"), "jpegstrike\r\n");
     EXPECT_FALSE(folder.has("clips/07032004/ADVERTISMENT.JPG"));
     EXPECT_EQ(view.Advertisement, folder.text() + "\\ADVERTISMENT.JPG");
@@ -109,6 +114,7 @@ TEST_F(DownloadRunTest, marksWholeClippingsAndPrintsEachNewPdfOnce) {
     shell.Result = 2;
     program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(Split(shell.Opened, "\n").size(), 5U);
+    EXPECT_THAT(program.downloads().summary().Days.at(0).New, testing::ElementsAre("N220040307.PDF"));
     EXPECT_NE(view.Statuses.find("\nFAILED Printing N220040307.PDF\n"), std::string::npos);
     files.Trouble = "ALLFILES";  // the list cannot be stored
     program.downloads().mnuForceDownload_Click();
@@ -212,27 +218,30 @@ TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
                       noList = "Error while getting list of files to download", nothing = "No files to download found.";
     const std::string clips = folder.text() + "/clips",
                       emptied = nothing + "\n        Deleted " + clips + "\\07032004\\ALLFILES.DIR";
-    const std::tuple<std::string, HttpPeer::Answer, std::string, std::string, std::size_t> table[] = {
-        {"", {}, noFolder, noFolderLog, 0},
-        {"/dev/null/x", {}, noFolder, noFolderLog, 0},
-        {clips, HttpPeer::status("500 No"), noList, noList, 1},
-        {clips, HttpPeer::ok("ERROR 1001"), noList, noList, 1},
-        {clips, HttpPeer::ok("error 1002"), nothing, emptied, 2},
-        {clips, HttpPeer::ok(""), nothing, nothing, 2}};
-    for (const auto& [localDir, answer, status, line, requests] : table) {
+    const std::tuple<std::string, HttpPeer::Answer, std::string, std::string, std::size_t, std::optional<Failure>>
+        table[] = {{"", {}, noFolder, noFolderLog, 0, {{Cause::NoFolder}}},
+                   {"/dev/null/x", {}, noFolder, noFolderLog, 0, {{Cause::FolderMissing, "/dev/null/x"}}},
+                   {"/dev/null", {}, noFolder, noFolderLog, 0, {{Cause::FolderUnwritable, "/dev/null"}}},
+                   {clips, {""}, noList, noList, 1, {{Cause::ConnectionLost, "service.example"}}},
+                   {clips, HttpPeer::status("500 No"), noList, noList, 1, {{Cause::ServiceStatus, "500 No"}}},
+                   {clips, HttpPeer::ok("ERROR 1001"), noList, noList, 1, {{Cause::LoginRefused}}},
+                   {clips, HttpPeer::ok("error 1002"), nothing, emptied, 2, {}},
+                   {clips, HttpPeer::ok(""), nothing, nothing, 2, {}}};
+    for (const auto& [localDir, answer, status, line, requests, why] : table) {
         configure("", localDir);
         service.Answers[ServicePeer::listScript] = answer;
         folder.put("clips/07032004/ALLFILES.DIR", "old");
         const std::size_t before = service.requests().size();
         EXPECT_EQ(runToday(), status == nothing);
         EXPECT_EQ(view.Status, status);
+        EXPECT_EQ(program.downloads().summary().Days.at(0).BrokenOff, why);
+        EXPECT_EQ(view.State, why ? MainView::ForcedRun::Failed : MainView::ForcedRun::EndedWell);
         EXPECT_TRUE(logHas("\n" + line + "\nFORCEd download ENDED\n")) << logged();
         std::filesystem::remove(folder.path() / "vell.log");
         EXPECT_EQ(service.requests().size() - before, requests) << status;
         EXPECT_EQ(folder.has("clips/07032004/ALLFILES.DIR"), line != emptied);
     }
     EXPECT_FALSE(folder.has("ADVERTISMENT.JPG"));
-    EXPECT_FALSE(view.Running);
 }
 
 TEST_F(DownloadRunTest, whatAPersonLooksAtIsNoBusinessOfTheRun) {
@@ -261,6 +270,7 @@ TEST_F(DownloadRunTest, walksThroughARangeOfDays) {
     program.downloads().mnuForceDownload_Click();
     EXPECT_THAT((std::vector{view.Days, view.Range}),
                 testing::ElementsAre("*01/03/2004 29/02/2004 28/02/2004 ", "01/03/2004-01/03/2004"));
+    EXPECT_EQ(view.Status, "0 clippings in 0 days; none on 28/02/2004, 29/02/2004, 01/03/2004");
     program.downloads().chooseRange({2004, 3, 2}, {2004, 3, 5});
     onStatus("No files to download found.", [&] { program.downloads().cmdStopDownload_Click(); });
     program.downloads().mnuForceDownload_Click();
@@ -268,7 +278,7 @@ TEST_F(DownloadRunTest, walksThroughARangeOfDays) {
     program.downloads().chooseRange({2004, 3, 5}, {2004, 3, 4});
     program.downloads().mnuForceDownload_Click();
     EXPECT_EQ(view.Message, "To date can not be less that From date. Please correct it.");
-    EXPECT_TRUE(view.Running);
+    EXPECT_EQ(view.State, MainView::ForcedRun::Running);
     EXPECT_EQ(service.requests().size(), 2U * 4U);
 }
 

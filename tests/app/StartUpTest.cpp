@@ -44,17 +44,24 @@ TEST_F(StartUpTest, refusesASecondInstanceAndTouchesNothing) {
     anotherRuns = true;
     const std::string before = ini();
     EXPECT_FALSE(load());
-    view.Place = WindowPlace{1, 1, 1, 1, 1, 1};
+    view.Place = WindowPlace{1, 1, 1, 1};
     program.Form_Unload();
-    EXPECT_THAT(boxes.Shown, ElementsAre("Program is already running"));
+    EXPECT_THAT(boxes.Shown, ElementsAre("Program is already running", "raised"));
+    EXPECT_FALSE(program.Form_Load(frmMain::Start::Alone));
+    EXPECT_EQ(boxes.Shown.back(), "Program is already running") << "a terminal raises no window";
     EXPECT_EQ(ini(), before);
     EXPECT_FALSE(folder.has("vell.log"));
     EXPECT_TRUE(program.Form_Load(frmMain::Start::Beside));
 }
 
-TEST_F(StartUpTest, warnsOfAMissingSettingsFileAndGoesOn) {
+TEST_F(StartUpTest, warnsOfAMissingSettingsFileWhereNoWindowLeadsToSetup) {
+    EXPECT_TRUE(load());
+    EXPECT_FALSE(program.isFirstStart());
     std::filesystem::remove(folder.path() / "vell.ini");
     EXPECT_TRUE(load());
+    EXPECT_TRUE(program.isFirstStart());
+    EXPECT_THAT(boxes.Shown, ElementsAre());
+    EXPECT_TRUE(program.Form_Load(frmMain::Start::Alone));
     EXPECT_THAT(boxes.Shown,
                 ElementsAre("Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE parameters must "
                             "be set again."));
@@ -84,12 +91,11 @@ TEST_F(StartUpTest, tellsOnceThatTheRunningVersionWasInstalled) {
 
 TEST_F(StartUpTest, placesTheWindowWithinItsBounds) {
     const std::vector<std::pair<std::string, WindowPlace>> cases{
-        {"", {1000, 1500, 15600, 10350, 0, 0}},
-        {"[Position]\r\nposTop=-70\r\nposLeft=-51\r\nposWidth=-1\r\nposHeight=-1\r\n", {0, 0, 15600, 10350, 0, 0}},
-        {"[Position]\r\nposTop=-50\r\nposLeft=7\r\nposWidth=0\r\nposHeight=300\r\n[Columns]\r\nNewspaper=0\r\nType=9",
-         {-50, 7, 0, 300, 0, 9}},
+        {"", {1000, 1500, 15600, 10350}},
+        {"[Position]\r\nposTop=-70\r\nposLeft=-51\r\nposWidth=-1\r\nposHeight=-1\r\n", {0, 0, 15600, 10350}},
+        {"[Position]\r\nposTop=-50\r\nposLeft=7\r\nposWidth=0\r\nposHeight=300\r\n", {-50, 7, 0, 300}},
         {"[Position]\r\nposTop=x\r\nposLeft=99999999999\r\nposWidth=1e300\r\nposHeight=-1e300\r\n",
-         {0, 1000000, 1000000, 10350, 0, 0}}};
+         {0, 1000000, 1000000, 10350}}};
     for (const auto& [lines, place] : cases) {
         putIni(lines);
         EXPECT_TRUE(load());
@@ -98,7 +104,7 @@ TEST_F(StartUpTest, placesTheWindowWithinItsBounds) {
 }
 
 TEST_F(StartUpTest, keepsThePlaceUnlessThereIsNoneWorthKeeping) {
-    const WindowPlace place{-50, 20, 3000, 4000, 700, 800};
+    const WindowPlace place{-50, 20, 3000, 4000};
     ASSERT_TRUE(load());
     view.Place = place;
     program.Form_Unload();
@@ -107,10 +113,10 @@ TEST_F(StartUpTest, keepsThePlaceUnlessThereIsNoneWorthKeeping) {
     view.Place.reset();
     program.Form_Unload();
     EXPECT_THAT(ini(), HasSubstr("posTop=-50"));
-    view.Place = WindowPlace{-51, 30, -1, 5, 0, 0};
+    view.Place = WindowPlace{-51, 30, -1, 5};
     program.Form_Unload();
     ASSERT_TRUE(load());
-    EXPECT_EQ(view.Place, (WindowPlace{-50, 30, 3000, 5, 700, 800}));
+    EXPECT_EQ(view.Place, (WindowPlace{-50, 30, 3000, 5}));
 }
 
 TEST_F(StartUpTest, leavesADialUpConnectionOnlyWithTheUsersWordAndTellsWhenItStays) {
@@ -123,7 +129,7 @@ TEST_F(StartUpTest, leavesADialUpConnectionOnlyWithTheUsersWordAndTellsWhenItSta
         boxes.Shown.clear();
         boxes.Answers = {Answer::Yes};
         ASSERT_TRUE(program.Form_Load(start));
-        view.Place = WindowPlace{1, 2, 3, 4, 0, 0};
+        view.Place = WindowPlace{1, 2, 3, 4};
         program.Form_Unload();
         EXPECT_THAT(ini(), HasSubstr("posTop=1"));
         EXPECT_EQ(boxes.Shown, asks ? (std::vector<std::string>{question, failed}) : std::vector<std::string>{});

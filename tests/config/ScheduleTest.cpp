@@ -14,9 +14,11 @@ using Lines = std::vector<std::string>;
 
 class ScheduleTest : public testing::Test, protected SettingsRig, protected ScheduleView {
   protected:
-    std::string InputBox(std::string_view prompt, std::string_view title, std::string_view offered) override {
+    // Gives the answer, if there is one, and up the next time.
+    std::optional<std::string> InputBox(std::string_view prompt, std::string_view title,
+                                        std::string_view offered) override {
         boxes.Shown.push_back(std::string(title) + ": " + std::string(prompt) + "|" + std::string(offered));
-        return answer;
+        return std::exchange(answer, std::nullopt);
     }
     void Beep() override { boxes.Shown.emplace_back("beep"); }
 
@@ -27,8 +29,8 @@ class ScheduleTest : public testing::Test, protected SettingsRig, protected Sche
     }
 
     ScriptedBoxes boxes;
-    frmSchedule dialog{setup, ini, boxes, log};
-    std::string answer;
+    frmSchedule dialog{setup, ini, boxes, log, english};
+    std::optional<std::string> answer;
 };
 
 TEST_F(ScheduleTest, readsDaysInAnyCaseAndTheLastOtherPieceAsTheTime) {
@@ -60,9 +62,9 @@ TEST_F(ScheduleTest, takesFiveCharactersOfATimeOfDay) {
 }
 
 TEST_F(ScheduleTest, takesTypedEntriesInAnyOrderWithOneTime) {
-    EXPECT_EQ(storedTextOf(scheduleEntryTyped(" 07:30  fri mon ")), "Mon Fri 07:30");
+    EXPECT_EQ(storedTextOf(scheduleEntryTyped(" 7:30  fri mon ")), "Mon Fri 07:30");
     EXPECT_EQ(storedTextOf(scheduleEntryTyped("24:30")), "Mon Tue Wed Thu Fri Sat Sun 24:30");
-    EXPECT_EQ(mistakeInTyped("wed 07:30"), "");
+    EXPECT_EQ(mistakeInTyped("wed 7:30"), "");
     for (const char* wrong : {"", "Mon", "07:30 08:30"})
         EXPECT_EQ(mistakeInTyped(wrong), "An entry has one time, such as \"Mon Wed 07:30\".");
     EXPECT_EQ(mistakeInTyped("Mo 07:30"), "'Mo' is neither a day (Mon Tue Wed Thu Fri Sat Sun) nor a time (HH:MM).");
@@ -70,8 +72,11 @@ TEST_F(ScheduleTest, takesTypedEntriesInAnyOrderWithOneTime) {
 
 TEST_F(ScheduleTest, addsOnlyAValidTimeOnEveryDay) {
     const std::string prompt = "Schedule Time: Enter a valid time in the format HH:MM ie. 15:30|";
-    const std::pair<const char*, Lines> cases[] = {
-        {"  ", {prompt, "beep"}}, {"7:05", {prompt, "Invalid time entered", "beep"}}, {" 07:05 ", {prompt}}};
+    const std::tuple<std::optional<std::string>, Lines> cases[] = {
+        {std::nullopt, {prompt}},
+        {"  ", {prompt, "beep"}},
+        {" 07.05", {prompt, "Invalid time entered", "beep", prompt + "07.05"}},
+        {" 7:05 ", {prompt}}};
     for (const auto& [given, expected] : cases) {
         answer = given;
         dialog.cmdAddSchedule_Click(*this);
@@ -82,7 +87,7 @@ TEST_F(ScheduleTest, addsOnlyAValidTimeOnEveryDay) {
 }
 
 TEST_F(ScheduleTest, editsTogglesAndDeletesRows) {
-    dialog.cmdEdit_Click(*this, 0);
+    dialog.cmdEdit_Click(*this, std::nullopt);
     dialog.cmdDelSchedule_Click(0);
     EXPECT_EQ(told(), Lines{});
     loadSchedule("Schedule1=Mon 07:05\nSchedule2=Tue 08:00\n");
@@ -90,7 +95,12 @@ TEST_F(ScheduleTest, editsTogglesAndDeletesRows) {
     dialog.grdSchedule_Click(*this, 0, 6);
     answer = "25:00";
     dialog.grdSchedule_Click(*this, 0, frmSchedule::timeColumn);
-    EXPECT_EQ(told(), (Lines{"Schedule Time: Enter a valid time|07:05", "Invalid time entered"}));
+    const std::string prompt = "Schedule Time: Enter a valid time|";
+    EXPECT_EQ(told(), (Lines{prompt + "07:05", "Invalid time entered", prompt + "25:00"}));
+    dialog.cmdEdit_Click(*this, std::nullopt);
+    dialog.cmdDelSchedule_Click(std::nullopt);
+    const std::string choose = "Choose an entry of the schedule first.";
+    EXPECT_EQ(told(), (Lines{choose, choose}));
     answer = "10:00 ";
     dialog.cmdEdit_Click(*this, 0);
     EXPECT_EQ(storedTextOf(dialog.rows()[0]), "Sun 10:00");
@@ -124,7 +134,7 @@ TEST_F(ScheduleTest, writesTheRowsAnewFromOne) {
 
 TEST_F(ScheduleTest, keepsWhatAnotherProgramHasChangedMeanwhile) {
     loadSchedule("Schedule1=Mon 07:05\nSchedule2=Tue 08:00\nSchedule3=Fri 09:00\n");
-    frmSchedule other{setup, ini, boxes, log};
+    frmSchedule other{setup, ini, boxes, log, english};
     other.Form_Load();
     other.add(scheduleEntryOf("Sun 10:00"));
     other.cmdDelSchedule_Click(1);

@@ -48,7 +48,7 @@ class SettingsTest : public testing::Test, protected SettingsRig {
         return Encrypt(clear, key, log);
     }
 
-    frmSetup dialog{setup, loader, ini, log, files, folder.text()};
+    frmSetup dialog{{setup, loader, ini, log, files, english, folder.text()}};
 };
 
 TEST_F(SettingsTest, eachKeyFillsItsOwnFieldAndLeavesTheOthersAtTheirDefaults) {
@@ -162,6 +162,37 @@ TEST_F(SettingsTest, theDialogRefusesEachEntryInItsTurnAndSavesNothingUntilAllAr
     EXPECT_EQ(setup.TimeOut, 50);  // the loader's cut
 }
 
+TEST_F(SettingsTest, aBoxThatWasLeftSaysWhatIsWrongWithItUntilItIsRight) {
+    const struct {
+        SettingField field;
+        const char *typed, *then, *note;
+    } cases[] = {
+        {&Settings::Host, " ", " ", "Still missing"},
+        {&Settings::Uid, "a\u2713", "a?", "Only Latin and Greek"},
+        {&Settings::proxyUsername, "a\tb", "a\tb", "Has control characters"},
+        {&Settings::RetryDelay, "77x", "77", "At most 49"},
+        {&Settings::RetryOnFailure, "x", "0", "At least 1"},
+        {&Settings::LocalDir, "clips/", "clips", "Not a full path"},
+        {&Settings::proxyPwd, "\u03B1", "\xE1", ""},
+    };
+    dialog.Form_Load();
+    for (const auto& [field, typed, then, note] : cases) {
+        dialog.typed(field, typed);
+        EXPECT_EQ(dialog.note(field), "") << typed;
+        dialog.left(field);
+        EXPECT_THAT((std::vector{dialog.entry(field), dialog.note(field)}), ElementsAre(then, note)) << typed;
+    }
+    dialog.typed(&Settings::Host, "h");
+    EXPECT_EQ(dialog.note(&Settings::Host), "");
+    const auto foreign = dialog.cmdOk_Click().value_or(SetupProblem{});
+    EXPECT_EQ(foreign.Message, "Error! There is a character that is neither Latin nor Greek");
+    dialog.typed(&Settings::TimeOut, "0");
+    dialog.left(&Settings::TimeOut);
+    EXPECT_EQ(dialog.note(&Settings::TimeOut), "") << "it is disabled";
+    dialog.setEntry(&Settings::Protocol, "FTP");
+    EXPECT_EQ(dialog.note(&Settings::TimeOut), "At least 1");
+}
+
 TEST_F(SettingsTest, proposesWorkingSettingsWhereThereAreNoneAndAsksForTheRestAlone) {
     dialog.Form_Load();
     std::string shown;
@@ -187,7 +218,7 @@ TEST_F(SettingsTest, anUnwritableFileOrFolderIsToldAndTheEntriesStay) {
     files.Trouble = "vell.ini";
     EXPECT_EQ(dialog.cmdOk_Click().value_or(SetupProblem{}).Message, "Error! The settings file could not be written");
     EXPECT_THAT((std::vector{dialog.entry(&Settings::Host), setup.Host}), ElementsAre("new", "old"));
-    frmSetup homeless(setup, loader, ini, log, files, folder.text() + "/gone");
+    frmSetup homeless({setup, loader, ini, log, files, english, folder.text() + "/gone"});
     homeless.Form_Load();
     EXPECT_EQ(homeless.cmdOk_Click().value_or(SetupProblem{}).Message, "Error! Download path could not be made");
 }
@@ -204,7 +235,7 @@ TEST_F(SettingsTest, theDialogSavesEveryKeyInItsOrderAndGivesItBack) {
                   scrambled("proxy") + "\r\nPwd=" + scrambled("sec ret") +
                   "\r\n[Download]\r\nLocalDir=/clips\r\nDialup=Modem\r\nPrintOnDownload=1\r\nCloseConnection=0\r\n"
                   "AutoUpdateCheck=0\r\nAutoUpdateServer=1\r\nAutoUpdateNotify=1\r\n");
-    frmSetup again(setup, loader, ini, log, files, "");
+    frmSetup again({setup, loader, ini, log, files, english, ""});
     again.Form_Load();
     for (const SettingRow& row : setupRows())
         EXPECT_EQ(again.entry(row.Field), row.Key == "Passive" ? "0" : dialog.entry(row.Field)) << row.Key;

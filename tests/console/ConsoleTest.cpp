@@ -22,7 +22,7 @@ class ConsoleTest : public testing::Test, protected StoreRig {
     }
     // The exit code of the setup command, its output, "!", and its error output.
     std::string change(const std::string& key, const std::optional<std::string>& value) {
-        SetupCommand command(frmSetup(setup, loader, ini, log, files, ""), terminal, screen, console);
+        SetupCommand command(frmSetup({setup, loader, ini, log, files, english, ""}), terminal, screen, console);
         CommandLine line;
         if (!key.empty()) line.Key = key;
         line.Value = value;
@@ -93,10 +93,10 @@ TEST_F(ConsoleTest, fitsClippingsIntoTheWidthAndLetsNoneOfThemSteerTheTerminal) 
     file.FilePath = "/c\\";
     file.ArticleType = "T";
     file.Category = std::string("\x1b[2J\x07\0\t\r\n\x7F\x81z", 12);
-    std::vector<ClippingRow> rows{{std::make_shared<CFtpFile>(file), false, true}};
+    std::vector<ClippingRow> rows{{.File = std::make_shared<CFtpFile>(file), .Printed = true}};
     file.NewspaperName = "\xCA\xC1";
     file.Description = "A title of some length";
-    rows.push_back({std::make_shared<CFtpFile>(file), true, true});
+    rows.push_back({.File = std::make_shared<CFtpFile>(file), .Number = 1, .Opened = true, .Printed = true});
     std::string table;
     for (const std::string& line : clippingsTable(rows, 51))
         table += line + "\n";
@@ -170,7 +170,7 @@ TEST_F(ConsoleTest, takesPasswordsUnseenAndRepairsDamagedOnes) {
     terminal.Typed = {"piped"};
     EXPECT_THAT(change("Pwd", "-"), StartsWith("0 Pwd = (set)\n!"));
     EXPECT_EQ(setup.Pwd, "piped");
-    SetupCommand command(frmSetup(setup, loader, ini, log, files, ""), terminal, screen, console);
+    SetupCommand command(frmSetup({setup, loader, ini, log, files, english, ""}), terminal, screen, console);
     command.askForLogin();
     EXPECT_EQ(terminal.taken(), "!Change them with 'vell-console setup Uid NAME' and 'vell-console setup Pwd -'.\n");
     terminal.Person = true;

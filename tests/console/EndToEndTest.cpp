@@ -65,12 +65,29 @@ TEST_F(EndToEndTest, fetchesADayListsItAndFetchesItAgain) {
     EXPECT_FALSE(folder_.has("vell.log"));
 }
 
+TEST_F(EndToEndTest, aLargeFileTakesNoMoreMemoryThanASmallOne) {
+    constexpr std::size_t megabyte = 1U << 20;
+    service_.Answers[ServicePeer::pathOf("N120040307.PDF")] = {
+        "HTTP/1.1 200 OK\r\nContent-Length: " + std::to_string(64 * megabyte) + "\r\n\r\n", true};
+    ChildProcess program = start(download_);
+    const auto peakAfter = [&](std::size_t megabytes) {
+        const std::string piece(megabyte, 'x');
+        while (service_.sentBytes() < megabytes * megabyte && program.isRunning())
+            service_.say(piece);
+        return program.peakKilobytes();
+    };
+    const long early = peakAfter(8);
+    EXPECT_GT(early, 0);
+    EXPECT_LT(peakAfter(60), early + 16 * 1024);
+}
+
 TEST_F(EndToEndTest, endsWithACodeThatTellsHowItWent) {
     const std::string begin = "Getting list of files to download...\n";
     EXPECT_EQ(run({"download", "--date", "31/11/2004"})[0], '2');
     EXPECT_EQ(run({"download", "--from", "06/03/2004", "--to", "07/03/2004"})[0], '0');
     service_.Answers[ServicePeer::pathOf("N220040307.TXT")] = HttpPeer::status("404 Not Found");
-    EXPECT_EQ(run(download_)[0], '1');
+    EXPECT_THAT(run(download_), testing::EndsWith("!1 file failed. The service does not have it.\n"
+                                                  "N220040307.TXT: The service does not have it.\n"));
     service_.Answers[ServicePeer::listScript] = HttpPeer::ok("error 1002");
     EXPECT_EQ(run(download_), "0 " + begin + "Getting list of files to download: Done\nNo files to download found.\n!");
     service_.Answers[ServicePeer::listScript] = HttpPeer::status("500 No");
@@ -86,7 +103,7 @@ TEST_F(EndToEndTest, endsWithACodeThatTellsHowItWent) {
     EXPECT_TRUE(run({"setup", "Pwd", "-"}, "secret\n").starts_with("0 Pwd = (set)\n!"));
 }
 
-TEST_F(EndToEndTest, printsOpensAndDeletesWhatIsNamedAndAsksBeforeMore) {
+TEST_F(EndToEndTest, printsOpensShowsAndDeletesWhatIsNamedAndAsksBeforeMore) {
     const std::string path = std::getenv("PATH");
     for (const auto& [name, value] : std::map<std::string, std::string>{{"PATH", folder_.text() + ":" + path},
                                                                         {"XDG_DATA_HOME", folder_.text()},
@@ -98,6 +115,7 @@ TEST_F(EndToEndTest, printsOpensAndDeletesWhatIsNamedAndAsksBeforeMore) {
     folder_.put("mimeapps.list", "[Default Applications]\napplication/pdf=v.desktop\n");
     for (const char* name : {"A.PDF", "B.PDF", "C.PDF"})
         folder_.put(std::string("clips/07032004/") + name, "%PDF-1.4\n");
+    folder_.put("clips/07032004/A.TXT", "N\r\n\xED\xDD\xE1 2004\r\n");
     folder_.put("clips/07032004/ALLFILES.DIR",
                 "A.PDF||N||one||\xCD\xDD\xE1||\r\nB.PDF||N||two||\xCD\xDD\xE1||\r\nC.PDF||N||three||Sport||\r\n\r\n");
     const std::string none = "There is no ", unasked =
@@ -112,6 +130,10 @@ TEST_F(EndToEndTest, printsOpensAndDeletesWhatIsNamedAndAsksBeforeMore) {
                   "clipping 'X' on 07/03/2004. 'vell-console list --tsv --date 07/03/2004' shows what there is.\n",
               "PP-"},
              {"open,c", "0 !", "PPO"},
+             {"list,--tsv,--find,ΝΕΑ 2004,--unread,--category,νέα",
+              "0 P\tN\tone\t\tΝέα\tA.PDF\t" + folder_.text() + "/clips\\07032004\\A.PDF\n!", "PPO"},
+             {"list,--tsv,--category,Sport,--unread", "0 !", "PPO"},
+             {"show,a,b", "1 N\nνέα 2004\n!B.PDF: This clipping has no text. Open it to see its page.\n", "PPO"},
              {"print,--category,νέα,Νέα,X,--yes",
               "1 Printing 1/2 A.PDF\nPrinting 2/2 B.PDF\n!" + none +
                   "category 'X' on 07/03/2004. 'vell-console list --date 07/03/2004' shows what there is.\n",

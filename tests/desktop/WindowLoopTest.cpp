@@ -4,31 +4,19 @@
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/dialog.h>
-#include <wx/init.h>
 #include <wx/timer.h>
 
 #include "desktop/WindowLoop.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/posix/program/SystemClock.h"
+#include "tests/desktop/ToolkitTest.h"
 
 namespace vell::test {
 namespace {
 
 // The two event loops on a real display.
-class WindowLoopTest : public testing::Test {
+class WindowLoopTest : public ToolkitTest {
   protected:
-    static void SetUpTestSuite() {
-        static int count = 1;
-        static char name[] = "vell_tests_desktop";
-        static char* arguments[] = {name, nullptr};
-        wxApp::SetInstance(new wxApp);
-        ASSERT_TRUE(wxEntryStart(count, arguments));
-        wxTheApp->SetExitOnFrameDelete(false);
-        wxSetAssertHandler([](const wxString& file, int line, const wxString&, const wxString& condition,
-                              const wxString&) { ADD_FAILURE() << file << ":" << line << ": " << condition; });
-    }
-    static void TearDownTestSuite() { wxEntryCleanup(); }
-
     // Runs the toolkit's main loop, which calls `body` from a handler of its own, until the body ends it.
     template <class Body>
     void inMainLoop(Body body) {

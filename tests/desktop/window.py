@@ -98,11 +98,11 @@ class Window:
         """The id of the window or dialog in front, once there is one."""
         return wait(self.window_ids)[-1]
 
-    def click(self, node, times=1):
+    def click(self, node, times=1, button=1):
         """On its middle."""
         place = node.get_component_iface().get_extents(Atspi.CoordType.SCREEN)
         at = [str(place.x + place.width // 2), str(place.y + place.height // 2)]
-        subprocess.run(["xdotool", "mousemove", *at, "click", "--repeat", str(times), "--delay", "60", "1"], check=True)
+        subprocess.run(["xdotool", "mousemove", *at, "click", "--repeat", str(times), "--delay", "60", str(button)], check=True)
 
     def shoot(self, path):
         subprocess.run(["import", "-window", "root", str(path)], check=True)

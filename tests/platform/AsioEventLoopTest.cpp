@@ -50,6 +50,23 @@ TEST_F(AsioEventLoopTest, aHandlerThatPostsItselfDoesNotHoldDoEvents) {
     EXPECT_LE(runs, 4);
 }
 
+TEST_F(AsioEventLoopTest, whoAsksAllTheTimeIsHeardEveryFiveMilliseconds) {
+    int pumped = 0, happened = 0;
+    loop_.setPump([&] { ++pumped; });
+    for (int i = 0; i < 20; ++i) {
+        post([&] { ++happened; });
+        loop_.DoEventsNowAndThen();
+        clock_.advance(milliseconds{1});
+    }
+    EXPECT_EQ(pumped, 4);
+    EXPECT_GE(happened, 16);
+    loop_.WaitForEvents(1000);
+    loop_.WaitForEvents(1000);  // which must not keep the window system waiting for so long
+    EXPECT_EQ(pumped, 5);
+    loop_.DoEvents();
+    EXPECT_EQ(pumped, 6);
+}
+
 TEST_F(AsioEventLoopTest, anEscapingErrorIsToldAndTheLoopGoesOn) {
     testing::internal::CaptureStderr();
     bool later = false;

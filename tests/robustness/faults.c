@@ -105,6 +105,10 @@ int openat(int folder, const char* name, int flags, ...) {
     ON_PATH(openat, path, folder, name, flags, mode);
 }
 int rename(const char* from, const char* to) { ON_PATH(rename, to, from, to); }
+int renameat2(int old, const char* from, int folder, const char* to, unsigned flags) {
+    AT_PLACE(folder, to);
+    ON_PATH(renameat2, path, old, from, folder, to, flags);
+}
 int unlink(const char* name) { ON_PATH(unlink, name, name); }
 int remove(const char* name) { ON_PATH(remove, name, name); }
 int rmdir(const char* name) { ON_PATH(rmdir, name, name); }

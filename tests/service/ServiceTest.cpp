@@ -7,6 +7,7 @@
 
 #include "platform/posix/internet/CurlInternet.h"
 #include "service/DownloadList.h"
+#include "service/Failure.h"
 #include "service/RunFeedback.h"
 #include "service/modHTTP.h"
 #include "tests/support/FaultyFiles.h"
@@ -29,6 +30,7 @@ class ServiceTest : public testing::Test, protected StoreRig, protected RunFeedb
     [[nodiscard]] std::string statusText() const override { return status; }
     void displayInfoMessageBox(std::string_view text) override { message = text; }
     void HTTPDownloadProgress(std::int32_t bytes) override { progress += std::to_string(bytes) + " "; }
+    void failed(const Failure& why) override { failure = why; }
     void openSetup() override { onSetup(); }
 
     bool post() { return http.OpenUrl("POST", setup.Host, "/x.asp", "a=1&b=\xE1", body, headers); }
@@ -56,6 +58,7 @@ class ServiceTest : public testing::Test, protected StoreRig, protected RunFeedb
     DownloadState downloads;
     DownloadList list{{http, store, files, boxes, *this, log, setup, day, downloads, "2.1.37"}};
     std::string status = "before", message, progress, body = "old", headers = "old";
+    Failure failure;
     std::int32_t received = -1;
     std::function<void()> onSetup;
 };
@@ -85,21 +88,39 @@ TEST_F(ServiceTest, tracesEveryStepOfAnExchange) {
     const std::string longHeaders = "HTTP/1.0 200 OK\r\nX: " + std::string(2000, 'x') + "\r\n";
     const struct {
         std::string headers, body, message, failure, result;
+        Failure why{};
     } table[] = {
         {"HTTP/1.0 200 OK\r\nA: b\r\n", "one\r\ntwo", "", "", yes},
-        {"HTTP/1.1 200 OK\r\n", "", "", "", yes},
-        {longHeaders, std::string(60000, '\xC1'), "", "", yes},
-        {"HTTP/1.0 500 No\r\n", "x", "Quillon Service not available. Please try again later.", "", no},
-        {"HTTP/1.0 404 No\r\n", "x", "Quillon Service not accessible.\r\n\r\nHTTP/1.0 404 No\r\n", "", no},
-        {"HTTP/1.0 200 OK\r\nContent-Length: 9\r\n", "x", "", "        The answer was cut short. Error 12030\n", no},
+        {"HTTP/1.1 200 OK\r\n", "", "", "", yes, {}},
+        {longHeaders, std::string(60000, '\xC1'), "", "", yes, {}},
+        {"HTTP/1.0 500 No\r\n",
+         "x",
+         "Quillon Service not available. Please try again later.",
+         "",
+         no,
+         {Cause::ServiceStatus, "500 No"}},
+        {"HTTP/1.0 404 No\r\n",
+         "x",
+         "Quillon Service not accessible.\r\n\r\nHTTP/1.0 404 No\r\n",
+         "",
+         no,
+         {Cause::ServiceStatus, "404 No"}},
+        {"HTTP/1.0 200 OK\r\nContent-Length: 9\r\n",
+         "x",
+         "",
+         "        The answer was cut short. Error 12030\n",
+         no,
+         {Cause::ConnectionLost, setup.Host}},
     };
     for (const auto& row : table) {
         service.Answers["/x.asp"] = {row.headers + "\r\n" + row.body};
         message.clear();
+        failure = {};
         EXPECT_EQ(post(), row.result == yes);
         EXPECT_EQ(body, row.body);
         EXPECT_EQ(headers, row.headers.substr(0, 1024));
         EXPECT_EQ(message, row.message);
+        EXPECT_EQ(failure, row.why);
         const std::string told = "        Body:" + body + "\n        Headers:" + headers;
         EXPECT_EQ(logged(), begin + "InternetReadFile function loop\n" + Replace(told, "\r\n", "\n") + "\n" +
                                 row.failure + row.result + row.result);

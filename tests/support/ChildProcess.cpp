@@ -2,6 +2,7 @@
 #include "tests/support/ChildProcess.h"
 
 #include <csignal>
+#include <fstream>
 #include <stdexcept>
 #include <thread>
 
@@ -47,6 +48,13 @@ void ChildProcess::send(int signal) const {
 bool ChildProcess::isRunning() {
     if (pid_ > 0 && waitpid(pid_, &status_, WNOHANG) == pid_) pid_ = 0;
     return pid_ > 0;
+}
+
+long ChildProcess::peakKilobytes() const {
+    std::ifstream status("/proc/" + std::to_string(pid_) + "/status");
+    for (std::string word; status >> word;)
+        if (long peak = 0; word == "VmHWM:" && status >> peak) return peak;
+    return 0;
 }
 
 std::string ChildProcess::firstLine() {

@@ -27,6 +27,8 @@ class ChildProcess {
 
     void send(int signal) const;
     [[nodiscard]] bool isRunning();
+    // The most memory that it has had so far.
+    [[nodiscard]] long peakKilobytes() const;
     // Waits for the first line of its output; what there is of it when it ends before.
     [[nodiscard]] std::string firstLine();
     // Waits for its end.

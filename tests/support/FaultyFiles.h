@@ -39,6 +39,10 @@ class FaultyFiles : public PosixFiles {
         disk_->count(Needs::Nothing);
         return PosixFiles::ReadFile(path);
     }
+    std::string ReadPart(std::string_view path, std::int64_t offset, std::size_t most) const override {
+        disk_->count(Needs::Nothing);
+        return PosixFiles::ReadPart(path, offset, most);
+    }
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
         disk_->count(Needs::Room);
         PosixFiles::WriteWhole(path, bytes, durability);

@@ -5,6 +5,7 @@
 
 #include "app/frmMain.h"
 #include "platform/Process.h"
+#include "platform/Translations.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
 #include "platform/posix/internet/CurlInternet.h"
@@ -43,6 +44,8 @@ struct ProgramRig : Process {
     [[nodiscard]] std::string ProgramFolder() const override { return folder.text(); }
     [[nodiscard]] std::string DocumentsFolder() const override { return folder.text(); }
     [[nodiscard]] bool IsPreviousInstance() override { return anotherRuns; }
+    void RaisePrevious() override { boxes.Shown.emplace_back("raised"); }
+    void OnRaise(std::function<void()> /*raise*/) override {}
 
     [[nodiscard]] std::string logged() const {
         return folder.has("vell.log") ? SettingsRig::plain(folder.get("vell.log")) : "";
@@ -67,11 +70,13 @@ struct ProgramRig : Process {
     ScriptedBoxes boxes;
     RecordingShell shell;
     RecordingPrinters printers;
+    Translations english;
     RecordingView view;
     bool anotherRuns = false;
-    frmMain program{{clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell, printers},
-                    view,
-                    "2.1.37"};
+    frmMain program{
+        {clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell, printers, english},
+        view,
+        "2.1.37"};
 };
 
 }  // namespace vell::test

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/MainView.h"
+#include "ui/list/EmptyHint.h"
 
 namespace vell::test {
 
@@ -24,9 +25,14 @@ class RecordingView : public MainView {
             Rows += row.File->FileName + "," + row.File->Description + (row.Opened ? ",O" : ",") +
                     (row.Printed ? "P;" : ";");
     }
+    void showEmptyHint(const EmptyHint& hint) override { Hint = hint.Title + "|" + hint.Text; }
     void showMarks(std::size_t row) override { Marked.push_back(row); }
     void showFilter(std::string_view text) override { Filter = text; }
-    void showCount(std::string_view text) override { Count = text; }
+    void showCounts(const CountTexts& texts) override {
+        Count = texts.Listed;
+        for (const std::string& more : {texts.Unread, texts.New})
+            if (!more.empty()) Count += ", " + more;
+    }
     void showAlert(std::string_view text) override { Alert = text; }
     void showAdvertisement(const std::string& path) override { Advertisement = path; }
     void showBusy(bool busy) override { Busy += busy ? 1 : -1; }
@@ -38,7 +44,12 @@ class RecordingView : public MainView {
     void showProgress(int currentFile, int wholeRun) override {
         Progress += std::to_string(currentFile) + "/" + std::to_string(wholeRun) + " ";
     }
-    void showForcedRun(bool running) override { Running = running; }
+    void showLastRun(std::string_view text) override { LastRun = text; }
+    void showNextRun(std::string_view text) override { NextRun = text; }
+    [[nodiscard]] bool isLookedAt() const override { return IsLookedAt; }
+    void showNotice(const RunNotice& notice) override { Notice += notice.Title + "|" + notice.Body + "|"; }
+    void showForcedRun(ForcedRun state) override { State = state; }
+    void showRunMessage(const std::optional<Message>& message) override { RunMessage = message; }
     void showDateRange(const Date& from, const Date& to) override { Range = from.dayName() + "-" + to.dayName(); }
     void displayInfoMessageBox(std::string_view text) override { Message = text; }
     void openSetup() override {}
@@ -48,11 +59,13 @@ class RecordingView : public MainView {
 
     std::string Days, Rows, Count, Alert, Advertisement, Progress, Range, Message;
     std::string Status, Statuses;  // the last one, and all, each on a line
-    std::string Filter;
+    std::string Filter, Hint, LastRun, NextRun, Notice;
+    bool IsLookedAt = true;
     std::vector<std::size_t> Marked;
     std::optional<WindowPlace> Place;
     int Busy = 0;
-    bool Running = false;
+    ForcedRun State = ForcedRun::Stopped;
+    std::optional<vell::Message> RunMessage;
     bool Follows = true;
     std::function<void(const std::string&)> OnStatus;
 };

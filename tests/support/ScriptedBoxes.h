@@ -18,7 +18,8 @@ class ScriptedBoxes : public MessageBoxes {
         LastButtons = buttons;
         if (buttons == Buttons::Ok) return Answer::Ok;
         if (OnQuestion) OnQuestion();
-        if (Answers.empty()) return buttons == Buttons::YesNo ? Answer::No : Answer::Cancel;
+        if (Answers.empty())
+            return buttons == Buttons::YesNo || buttons == Buttons::NoYes ? Answer::No : Answer::Cancel;
         const Answer answer = Answers.front();
         Answers.pop_front();
         return answer;

@@ -45,6 +45,8 @@ class ServicePeer {
     std::map<std::string, HttpPeer::Answer> Answers;         // by path
     std::function<void(HttpPeer::Answer&)> BeforeAnswering;  // in the peer's thread
     [[nodiscard]] std::vector<std::string> requests() const { return peer_.requests(); }
+    void say(std::string_view bytes) { peer_.say(bytes); }
+    [[nodiscard]] std::size_t sentBytes() const { return peer_.sentBytes(); }
     [[nodiscard]] bool wasAskedLastFor(const std::string& name) const {
         return requests().back().find(pathOf(name) + " ") != std::string::npos;
     }

@@ -7,6 +7,7 @@
 #include "config/SettingsLoader.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
+#include "platform/Translations.h"
 #include "platform/posix/files/ini/PosixIniFile.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
@@ -43,6 +44,7 @@ struct SettingsRig {
     EventLog log{clock, files};
     modIni ini{iniFile, log};
     Settings setup;
+    Translations english;
     SettingsLoader loader{setup, ini, log, log};
     std::size_t seenOfLog = 0;
 };

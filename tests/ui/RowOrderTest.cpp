@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/DrivenClock.h"
+#include "ui/BrowserView.h"
 #include "ui/PictureSize.h"
 #include "ui/list/RowOrder.h"
 #include "ui/list/TypeAhead.h"
@@ -13,38 +14,25 @@ namespace {
 
 using Names = std::vector<std::string>;
 
-std::vector<ClippingRow> rowsOf(const Names& titles) {
+TEST(RowOrderTest, sortsWithoutRegardToCaseAndAccentsAndComesBackToTheOrderOfTheStore) {
+    // Beta, alpha with an accent, gamma, plain capital alpha: Greek letters of the code page. Beta once more.
+    const Names titles{"\xC2", "\xDC\xE2", "\xE3", "\xC1\xC1", "\xE2"};
     std::vector<ClippingRow> rows;
     for (const std::string& title : titles) {
-        rows.push_back({std::make_shared<CFtpFile>()});
+        rows.push_back({std::make_shared<CFtpFile>(), rows.size()});
         rows.back().File->Description = title;
     }
-    return rows;
-}
-
-TEST(RowOrderTest, sortsWithoutRegardToCaseAndAccentsAndComesBackToTheOrderOfTheRows) {
-    // Beta, alpha with an accent, gamma, plain capital alpha: Greek letters of the code page.
-    const auto rows = rowsOf({"\xC2", "\xDC\xE2", "\xE3", "\xC1\xC1"});
-    const auto shown = [&](const RowOrder& order) {
-        std::string places;
-        for (std::size_t place = 0; place < order.size(); ++place) {
-            places += static_cast<char>('0' + order.rowAt(place));
-            EXPECT_EQ(order.placeOf(order.rowAt(place)), place);
-        }
-        return places;
-    };
     RowOrder order;
-    order.rebuild(rows);
-    EXPECT_EQ(shown(order), "0123");
-    order.sortBy(GridColumn::Title, rows);
-    EXPECT_EQ(shown(order), "3102");
-    order.sortBy(GridColumn::Title, rows);
-    EXPECT_EQ(shown(order), "2013");
-    order.rebuild(rowsOf({"A", "B"}));
-    EXPECT_EQ(shown(order), "10") << "others are sorted the same way";
-    order.sortBy(GridColumn::Title, rows);
-    EXPECT_EQ(shown(order), "0123");
-    EXPECT_FALSE(order.column());
+    for (const char* expected : {"31042", "20413", "01234", "31042"}) {
+        order.choose(GridColumn::Title);
+        order.sort(rows);
+        std::string shown;
+        for (const ClippingRow& row : rows)
+            shown += static_cast<char>('0' + row.Number);
+        EXPECT_EQ(shown, expected) << order.Ascending << order.Column.has_value();
+    }
+    order.choose(GridColumn::Type);
+    EXPECT_EQ(order, (RowOrder{GridColumn::Type, true}));
 }
 
 TEST(RowOrderTest, findsWhatCameInBetweenOrSaysThatTheListIsAnother) {
@@ -97,19 +85,20 @@ TEST(PictureSizeTest, readsTheHeadsOfPicturesAndDistrustsTheRest) {
 
 TEST(GridColumnsTest, giveTheTextsWhatTheTitlesLeave) {
     struct Case {
-        TextColumnWidths Least, Wanted;
+        std::vector<ColumnWish> Wishes;
         int Room;
-        TextColumnWidths Given;
+        std::vector<int> Given;
     };
-    const std::vector<Case> cases{{{100, 50}, {180, 90}, 500, {180, 90}},
-                                  {{100, 50}, {20, 30}, 500, {100, 50}},
-                                  {{100, 50}, {180, 90}, 210, {140, 70}},
-                                  {{100, 50}, {180, 90}, 150, {100, 50}},
-                                  {{100, 50}, {180, 90}, -10, {100, 50}},
-                                  {{100, 50}, {100, 90}, 151, {100, 51}},
-                                  {{100, 50}, {2'000'000, 90}, 3'000'000, {2'000'000, 90}}};
+    const std::vector<Case> cases{{{{100, 180}, {50, 90}}, 500, {180, 90}},
+                                  {{{100, 20}, {50, 30}}, 500, {100, 50}},
+                                  {{{100, 180}, {50, 90}}, 210, {140, 70}},
+                                  {{{100, 180}, {50, 90}}, 150, {100, 50}},
+                                  {{{100, 180}, {50, 90}}, -10, {100, 50}},
+                                  {{{100, 100}, {50, 90}}, 151, {100, 51}},
+                                  {{{100, 180}, {50, 90}, {10, 10}, {10, 90}}, 271, {140, 70, 10, 51}},
+                                  {{{100, 2'000'000}, {50, 90}}, 3'000'000, {2'000'000, 90}}};
     for (const Case& each : cases)
-        EXPECT_EQ(fittedWidths(each.Least, each.Wanted, each.Room), each.Given) << each.Room;
+        EXPECT_EQ(fittedWidths(each.Wishes, each.Room), each.Given) << each.Room;
 }
 
 }  // namespace

@@ -19,12 +19,19 @@ frmAutoView::~frmAutoView() {
 
 void frmAutoView::start(std::size_t row) {
     if (isOpening_) return;
-    slides_.clear();
-    for (const ClippingRow& one : browser_.rows())
-        slides_.push_back({one.path(), one.File->Description});
-    next_ = row;
+    const std::string seen = current_ ? slides_[*current_].Path : std::string();
+    takeList();
+    if (row >= slides_.size()) return;
     setTimer();
-    openNext();
+    show(slides_[row].Path == seen ? (row + 1) % slides_.size() : row);
+}
+
+// The list may become another one while the show goes on.
+void frmAutoView::takeList() {
+    current_.reset();
+    slides_.clear();
+    for (const ClippingRow& row : browser_.rows())
+        slides_.push_back({row.path(), row.File->Description, row.File->NewspaperName});
 }
 
 void frmAutoView::stop() {
@@ -34,39 +41,48 @@ void frmAutoView::stop() {
     tellChange();
 }
 
+void frmAutoView::showPrevious() {
+    if (isOpening_ || !hasPrevious()) return;
+    if (isRunning()) setTimer();
+    show(*current_ - 1);
+}
+
+void frmAutoView::showNext() {
+    // Opening lets events happen, and a message that it failed waits for the user: ticks that come meanwhile are lost.
+    if (isOpening_ || !hasNext()) return;
+    if (isRunning()) setTimer();
+    show(*current_ + 1);
+}
+
 int frmAutoView::delay() const {
-    const int wanted = delay_ == 0 ? settings_.AutoPlayDelay : delay_;
-    return std::clamp(wanted, shortestDelay, longestDelay);
+    const bool isChosen = chosenDelay_ && chosenDelay_->Setting == settings_.AutoPlayDelay;
+    return std::clamp<int>(isChosen ? chosenDelay_->Seconds : settings_.AutoPlayDelay, shortestDelay, longestDelay);
 }
 
 void frmAutoView::setDelay(int seconds) {
     if (seconds == delay()) return;
-    delay_ = seconds;
-    if (isRunning()) setTimer();
+    chosenDelay_ = {seconds, settings_.AutoPlayDelay};
+    followSettings();
 }
 
-std::string frmAutoView::position() const {
-    if (next_ == 0 || next_ > slides_.size()) return {};
-    return std::to_string(next_) + "/" + std::to_string(slides_.size()) + " " + slides_[next_ - 1].Title;
+void frmAutoView::followSettings() {
+    if (isRunning() && timerDelay_ != delay()) setTimer();
+    tellChange();
 }
 
 void frmAutoView::setTimer() {
     constexpr int millisecondsPerSecond = 1000;
     if (isRunning()) loop_.KillTimer(timer_);
-    timer_ = loop_.SetTimer(delay() * millisecondsPerSecond, [this] { openNext(); });
+    timerDelay_ = delay();
+    timer_ = loop_.SetTimer(timerDelay_ * millisecondsPerSecond, [this] { showNext(); });
 }
 
-void frmAutoView::openNext() {
-    // Opening lets events happen, and a message that it failed waits for the user: ticks that come meanwhile are lost.
-    if (isOpening_) return;
-    if (next_ >= slides_.size()) {
-        stop();
-        return;
-    }
+void frmAutoView::show(std::size_t slide) {
     const ScopedFlag opening(isOpening_);
-    const std::string path = slides_[next_++].Path;
+    current_ = slide;
+    const std::string path = slides_[slide].Path;
     tellChange();
-    if (opening_.open(path) == ClippingOpening::Outcome::Failed || next_ >= slides_.size()) stop();
+    if (opening_.open(path) == ClippingOpening::Outcome::Failed || !hasNext()) stop();
 }
 
 void frmAutoView::tellChange() const {

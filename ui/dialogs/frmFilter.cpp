@@ -4,44 +4,48 @@
 #include <algorithm>
 
 #include "ui/ClippingsBrowser.h"
-#include "ui/list/RowOrder.h"
 
 namespace vell {
 
 namespace {
 
-void addNew(std::vector<std::string>& names, const std::vector<std::string>& more) {
-    for (const std::string& name : more)
-        if (!isAmong(names, name)) names.push_back(name);
-}
-
-void sortForReading(std::vector<std::string>& names) {
-    std::ranges::stable_sort(names, {}, lookUpKey);
+// The names that each of the day's clippings has in a field.
+std::vector<FilterChoice::Names> namesOf(const ClippingsBrowser& browser,
+                                         FilterChoice::Names (*namesIn)(const CFtpFile&)) {
+    std::vector<FilterChoice::Names> names;
+    for (const auto& file : browser.dayFiles())
+        names.push_back(namesIn(*file));
+    return names;
 }
 
 }  // namespace
 
-frmFilter::frmFilter(ClippingsBrowser& browser) : browser_(browser) {
-    for (const auto& file : browser.dayFiles()) {
-        addNew(categories_, listedIn(file->Category));
-        addNew(types_, listedIn(file->ArticleType));
-    }
-    addNew(categories_, browser.filter().Categories);
-    addNew(types_, browser.filter().Types);
-    sortForReading(categories_);
-    sortForReading(types_);
+frmFilter::frmFilter(ClippingsBrowser& browser)
+    : lstNewspapers(namesOf(browser, newspapersOf), browser.filter().Newspapers),
+      lstCategories(namesOf(browser, categoriesOf), browser.filter().Categories),
+      lstTypes(namesOf(browser, typesOf), browser.filter().Types),
+      browser_(browser) {}
+
+ClippingFilter frmFilter::chosen() const {
+    return {lstCategories.chosen(), lstTypes.chosen(), lstNewspapers.chosen()};
 }
 
-bool frmFilter::isCategoryChosen(const std::string& name) const {
-    return isAmong(browser_.filter().Categories, name);
+std::size_t frmFilter::passing() const {
+    return static_cast<std::size_t>(std::ranges::count_if(
+        browser_.dayFiles(), [filter = chosen()](const auto& file) { return filter.passes(*file); }));
 }
 
-bool frmFilter::isTypeChosen(const std::string& name) const {
-    return isAmong(browser_.filter().Types, name);
+std::size_t frmFilter::all() const {
+    return static_cast<std::size_t>(browser_.dayFiles().Count());
 }
 
-void frmFilter::cmdOk_Click(const ClippingFilter& chosen) {
-    browser_.setFilter(chosen);
+void frmFilter::cmdOk_Click() {
+    browser_.setFilter(chosen());
+}
+
+void frmFilter::cmdClear_Click() {
+    for (FilterChoice* list : {&lstNewspapers, &lstCategories, &lstTypes})
+        list->tickAny();
 }
 
 }  // namespace vell

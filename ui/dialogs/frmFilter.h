@@ -1,32 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
-#include <vector>
+#include <cstddef>
 
+#include "ui/dialogs/FilterChoice.h"
 #include "ui/list/ClippingFilter.h"
 
 namespace vell {
 
 class ClippingsBrowser;
 
-// What the filter dialog offers: the categories and types of the chosen day, and those that are chosen already.
+// What the filter dialog offers: the newspapers, categories and types of the chosen day, and those that are chosen
+// already. Nothing is filtered before OK.
 class frmFilter {
   public:
     explicit frmFilter(ClippingsBrowser& browser);
 
-    [[nodiscard]] const std::vector<std::string>& lstCategories() const { return categories_; }
-    [[nodiscard]] const std::vector<std::string>& lstTypes() const { return types_; }
-    [[nodiscard]] bool isCategoryChosen(const std::string& name) const;
-    [[nodiscard]] bool isTypeChosen(const std::string& name) const;
+    FilterChoice lstNewspapers;
+    FilterChoice lstCategories;
+    FilterChoice lstTypes;
+
+    // How many clippings would be listed, of how many.
+    [[nodiscard]] std::size_t passing() const;
+    [[nodiscard]] std::size_t all() const;
 
     // Lists the clippings that pass.
-    void cmdOk_Click(const ClippingFilter& chosen);
+    void cmdOk_Click();
+    // Everything passes again.
+    void cmdClear_Click();
 
   private:
+    [[nodiscard]] ClippingFilter chosen() const;
+
     ClippingsBrowser& browser_;
-    std::vector<std::string> categories_;
-    std::vector<std::string> types_;
 };
 
 }  // namespace vell

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 #include <utility>
 
 #include "base/ScopedFlag.h"
@@ -11,8 +12,10 @@
 #include "platform/EventLoop.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Printers.h"
+#include "platform/Translations.h"
 #include "store/Articles.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/list/RowOrder.h"
 
 namespace vell {
 
@@ -41,8 +44,50 @@ std::string textOf(const PrinterSettings& printer) {
 }  // namespace
 
 frmPrint::frmPrint(const PrintParts& parts, PrintBatch& batch, Names categories)
-    : p_(parts), batch_(batch), all_(std::move(categories)) {
+    : p_(parts), batch_(batch), whole_(std::move(categories)) {
+    offer(whole_);
+}
+
+void frmPrint::splitCategories(bool split) {
+    split_ = split;
+    Names names = whole_;
+    if (split) {
+        names.clear();
+        for (const ClippingRow& row : p_.Browser.rows())
+            for (std::string& name : categoriesOf(*row.File))
+                if (!isAmong(names, name)) names.push_back(std::move(name));
+    }
+    offer(std::move(names));
+}
+
+void frmPrint::offer(Names categories) {
+    chosen_.clear();
+    all_ = std::move(categories);
     std::erase_if(all_, [](const std::string& category) { return Trim(category).empty(); });
+    std::ranges::stable_sort(all_, {}, lookUpKey);
+    counts_.clear();
+    for (const ClippingRow& row : p_.Browser.rows()) {
+        std::set<std::string> its;
+        for (const std::string& name : categoriesIn(*row.File))
+            its.insert(Upper(name));
+        for (const std::string& name : its)
+            ++counts_[name];
+    }
+}
+
+Names frmPrint::categoriesIn(const CFtpFile& clipping) const {
+    return split_ ? categoriesOf(clipping) : Names{clipping.Category};
+}
+
+std::string frmPrint::text(const std::string& category) const {
+    const auto found = counts_.find(Upper(category));
+    return category + " (" + std::to_string(found == counts_.end() ? 0 : found->second) + ")";
+}
+
+std::string frmPrint::outcome() const {
+    const std::size_t count = documents().size();
+    return Replace(p_.Words.translate("Prints %d clipping.", "Prints %d clippings.", count), "%d",
+                   std::to_string(count));
 }
 
 void frmPrint::cmdAdd_Click(std::size_t entry) {
@@ -84,8 +129,9 @@ void frmPrint::cmdPrinterSettings_Click() {
 
 Names frmPrint::documents() const {
     Names paths;
+    const auto isChosen = [this](const std::string& category) { return isAmong(chosen_, category); };
     for (const ClippingRow& row : p_.Browser.rows())
-        if (isAmong(chosen_, row.File->Category)) paths.push_back(row.path());
+        if (std::ranges::any_of(categoriesIn(*row.File), isChosen)) paths.push_back(row.path());
     return paths;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -11,16 +12,27 @@
 namespace vell {
 
 class EventLoop;
+struct CFtpFile;
 struct Settings;
 
 // What the dialog that prints whole categories decides. What it prints is not marked.
 class frmPrint {
   public:
-    // The categories of the list that can be chosen.
+    // `categories`: those of the list, each as it stands in the index.
     frmPrint(const PrintParts& parts, PrintBatch& batch, std::vector<std::string> categories);
+
+    // A clipping of "Politics,Economy" counts for each of the two, as it does for the filter, instead of for that text
+    // as a whole. None is chosen then.
+    void splitCategories(bool split);
+    [[nodiscard]] bool isSplit() const { return split_; }
 
     [[nodiscard]] const std::vector<std::string>& lstAllCategories() const { return all_; }
     [[nodiscard]] const std::vector<std::string>& lstPrintCategories() const { return chosen_; }
+
+    // The category, and how many clippings are printed for it.
+    [[nodiscard]] std::string text(const std::string& category) const;
+    // What would be printed now, in words.
+    [[nodiscard]] std::string outcome() const;
 
     // Entries are counted from 0.
     void cmdAdd_Click(std::size_t entry);
@@ -35,11 +47,16 @@ class frmPrint {
     void cmdPrinterSettings_Click();
 
   private:
+    [[nodiscard]] std::vector<std::string> categoriesIn(const CFtpFile& clipping) const;
+    void offer(std::vector<std::string> categories);
     [[nodiscard]] std::vector<std::string> documents() const;
     [[nodiscard]] bool print(const std::vector<std::string>& documents, const StatusText& status);
 
     PrintParts p_;
     PrintBatch& batch_;
+    std::vector<std::string> whole_;
+    bool split_ = false;
+    std::map<std::string, std::size_t> counts_;  // clippings by categories in capitals
     std::vector<std::string> all_;
     std::vector<std::string> chosen_;
 };

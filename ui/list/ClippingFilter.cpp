@@ -5,41 +5,62 @@
 
 #include "base/text.h"
 #include "ftp/listing/CFtpFile.h"
+#include "platform/Translations.h"
 
 namespace vell {
 
 namespace {
 
-bool passesList(const std::vector<std::string>& chosen, std::string_view field) {
-    if (chosen.empty()) return true;
-    const auto listed = listedIn(field);
-    return std::ranges::any_of(listed, [&](const auto& name) { return isAmong(chosen, name); });
+using Names = std::vector<std::string>;
+
+Names listedIn(std::string_view field) {
+    Names names;
+    for (const std::string_view part : Split(field, ","))
+        if (const std::string_view name = Trim(part); !name.empty()) names.emplace_back(name);
+    return names;
 }
 
-std::string joined(const std::vector<std::string>& names) {
-    std::string text;
-    for (const std::string& name : names)
-        text += (text.empty() ? "" : ", ") + name;
-    return text;
+// `namesIn` is asked only when something is chosen.
+bool passesOne(const Names& chosen, const CFtpFile& clipping, Names (*namesIn)(const CFtpFile&)) {
+    if (chosen.empty()) return true;
+    const Names names = namesIn(clipping);
+    if (names.empty()) return isAmong(chosen, "");
+    return std::ranges::any_of(names, [&](const auto& name) { return isAmong(chosen, name); });
+}
+
+void add(std::string& text, const Names& chosen, const std::string& ofNone) {
+    if (chosen.empty()) return;
+    if (!text.empty()) text += " / ";
+    for (const std::string& name : chosen)
+        text.append(&name == &chosen.front() ? "" : ", ").append(name.empty() ? ofNone : name);
 }
 
 }  // namespace
 
 bool ClippingFilter::passes(const CFtpFile& clipping) const {
-    return passesList(Categories, clipping.Category) && passesList(Types, clipping.ArticleType);
+    return passesOne(Categories, clipping, categoriesOf) && passesOne(Types, clipping, typesOf) &&
+           passesOne(Newspapers, clipping, newspapersOf);
 }
 
-std::string ClippingFilter::text() const {
-    const std::string categories = joined(Categories);
-    const std::string types = joined(Types);
-    return categories.empty() || types.empty() ? categories + types : categories + " / " + types;
+std::string ClippingFilter::text(const Translations& words) const {
+    std::string text;
+    add(text, Newspapers, words.translate("no newspaper"));
+    add(text, Categories, words.translate("no category"));
+    add(text, Types, words.translate("no type"));
+    return text;
 }
 
-std::vector<std::string> listedIn(std::string_view field) {
-    std::vector<std::string> names;
-    for (const std::string_view part : Split(field, ","))
-        if (const std::string_view name = Trim(part); !name.empty()) names.emplace_back(name);
-    return names;
+Names categoriesOf(const CFtpFile& clipping) {
+    return listedIn(clipping.Category);
+}
+
+Names typesOf(const CFtpFile& clipping) {
+    return listedIn(clipping.ArticleType);
+}
+
+Names newspapersOf(const CFtpFile& clipping) {
+    const std::string_view name = Trim(clipping.NewspaperName);
+    return name.empty() ? Names() : Names{std::string(name)};
 }
 
 bool isAmong(const std::vector<std::string>& names, std::string_view name) {

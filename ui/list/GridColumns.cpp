@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "ui/BrowserView.h"
+#include "ui/dayOf.h"
 
 namespace vell {
 
@@ -24,17 +25,33 @@ std::string cellText(const ClippingRow& row, GridColumn column) {
             return row.File->FileName;
         case GridColumn::Path:
             return row.path();
+        case GridColumn::Day: {
+            const auto day = dayOf(*row.File);
+            return day ? day->dayName() : std::string();
+        }
+        case GridColumn::Page:
+            return row.Page;
     }
     return {};
 }
 
-TextColumnWidths fittedWidths(const TextColumnWidths& least, const TextColumnWidths& wanted, int room) {
-    const int newspaperLacks = std::max(0, wanted.Newspaper - least.Newspaper);
-    const int typeLacks = std::max(0, wanted.Type - least.Type);
-    const int spare = std::clamp(room - least.Newspaper - least.Type, 0, newspaperLacks + typeLacks);
-    if (spare == 0) return least;
-    const int toNewspaper = static_cast<int>(std::int64_t{spare} * newspaperLacks / (newspaperLacks + typeLacks));
-    return {least.Newspaper + toNewspaper, least.Type + spare - toNewspaper};
+std::vector<int> fittedWidths(std::span<const ColumnWish> wishes, int room) {
+    std::int64_t lacking = 0;
+    int spare = room;
+    for (const ColumnWish& wish : wishes) {
+        lacking += std::max(0, wish.Wanted - wish.Least);
+        spare -= wish.Least;
+    }
+    std::vector<int> widths;
+    for (const ColumnWish& wish : wishes) {
+        const int lacks = std::max(0, wish.Wanted - wish.Least);
+        const int more =
+            spare <= 0 || lacking == 0 ? 0 : static_cast<int>(std::min<std::int64_t>(spare, lacking) * lacks / lacking);
+        widths.push_back(wish.Least + more);
+        lacking -= lacks;
+        spare -= more;
+    }
+    return widths;
 }
 
 }  // namespace vell

@@ -3,45 +3,52 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "platform/Translations.h"
 
 namespace vell {
 
 // The columns of the list of clippings. The hidden ones are data for the commands.
-enum class GridColumn : std::size_t { Marks, Newspaper, Title, Type, Category, File, Path };
+enum class GridColumn : std::size_t { Marks, Newspaper, Title, Type, Category, File, Path, Day, Page };
 
 struct GridColumnLayout {
     GridColumn Column;
     std::string_view Header;
-    int Width;  // in twips; 0 hides the column
+    int Width;         // in twips; 0 hides the column unless somebody wants to see it
+    int LeastWidth{};  // of a hidden one that is wanted; 0 for one that nobody is offered
 };
 
-inline constexpr std::array<GridColumnLayout, 7> gridColumns{{
+inline constexpr std::array<GridColumnLayout, 9> gridColumns{{
     {GridColumn::Marks, "", 600},
-    {GridColumn::Newspaper, "Newspaper", 1500},
-    {GridColumn::Title, "Title", 4200},
-    {GridColumn::Type, "Type", 800},
-    {GridColumn::Category, "Category", 0},
-    {GridColumn::File, "File", 0},
+    {GridColumn::Newspaper, translatable("Newspaper"), 1500},
+    {GridColumn::Title, translatable("Title"), 4200},
+    {GridColumn::Type, translatable("Type"), 800},
+    {GridColumn::Category, translatable("Category"), 0, 1200},
+    {GridColumn::File, translatable("File"), 0, 1200},
     {GridColumn::Path, "Path", 0},
+    {GridColumn::Day, "Day", 0},  // seen in front while clippings of several days are listed
+    {GridColumn::Page, translatable("Page"), 0, 600},
 }};
 
+// In twips.
 [[nodiscard]] constexpr int gridColumnWidth(GridColumn column) {
-    return gridColumns[static_cast<std::size_t>(column)].Width;
+    const GridColumnLayout& layout = gridColumns[static_cast<std::size_t>(column)];
+    return layout.Width > 0 ? layout.Width : layout.LeastWidth;
 }
 
-// Of the two columns that cut their texts first, in any one unit.
-struct TextColumnWidths {
-    int Newspaper = 0;
-    int Type = 0;
-
-    bool operator==(const TextColumnWidths&) const = default;
+// What a column of texts gets, in any one unit.
+struct ColumnWish {
+    int Least = 0;
+    int Wanted = 0;
 };
 
-// Each gets what its texts want, and at least its least width, from a room for both; where that does not do, what is
+// Each gets what its texts want, and at least its least width, from a room for all; where that does not do, what is
 // left beyond the least widths is shared in proportion to what is missing.
-[[nodiscard]] TextColumnWidths fittedWidths(const TextColumnWidths& least, const TextColumnWidths& wanted, int room);
+[[nodiscard]] std::vector<int> fittedWidths(std::span<const ColumnWish> wishes, int room);
 
 struct ClippingRow;
 

@@ -7,35 +7,26 @@
 #include <string_view>
 #include <vector>
 
-#include "ui/BrowserView.h"
 #include "ui/list/GridColumns.h"
 
 namespace vell {
 
+struct ClippingRow;
+
 // Text as people look it up: without regard to case and to Greek accents. Equal keys mean equal words.
 [[nodiscard]] std::string lookUpKey(std::string_view text);
 
-// In which order the rows are shown. Sorting changes the places on the screen only: every command means a row by its
-// number in the list as the browser holds it, and so do `rowAt` and `placeOf`.
-class RowOrder {
-  public:
+// By what the list of clippings is sorted; by nothing it stands as the store gives it.
+struct RowOrder {
+    std::optional<GridColumn> Column;
+    bool Ascending = true;
+
     // By another column: ascending. By the same one again: descending, then as they come.
-    void sortBy(GridColumn column, const std::vector<ClippingRow>& rows);
-    // The rows are others now; the sorting stays.
-    void rebuild(const std::vector<ClippingRow>& rows);
+    void choose(GridColumn column);
+    // Rows that are equal in the column stay as the store gives them.
+    void sort(std::vector<ClippingRow>& rows) const;
 
-    [[nodiscard]] std::optional<GridColumn> column() const { return column_; }
-    [[nodiscard]] bool isAscending() const { return ascending_; }
-
-    [[nodiscard]] std::size_t size() const { return rowAt_.size(); }
-    [[nodiscard]] std::size_t rowAt(std::size_t place) const { return rowAt_.at(place); }
-    [[nodiscard]] std::size_t placeOf(std::size_t row) const { return placeOf_.at(row); }
-
-  private:
-    std::optional<GridColumn> column_;
-    bool ascending_ = true;
-    std::vector<std::size_t> rowAt_;
-    std::vector<std::size_t> placeOf_;
+    bool operator==(const RowOrder&) const = default;
 };
 
 // The places in `after`, ascending, of what came in between; nothing when something of `before` is gone or stands in

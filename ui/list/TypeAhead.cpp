@@ -11,10 +11,14 @@ namespace {
 constexpr std::chrono::milliseconds longestPause{1000};
 }
 
+bool TypeAhead::isUnderWay() const {
+    return !typed_.empty() && clock_.Steady() - last_ <= longestPause;
+}
+
 std::optional<std::size_t> TypeAhead::type(char letter, std::size_t count, std::optional<std::size_t> current,
                                            const TextAt& textAt) {
     const SteadyTime now = clock_.Steady();
-    if (now - last_ > longestPause) typed_.clear();
+    if (!isUnderWay()) typed_.clear();
     last_ = now;
     typed_ += lookUpKey(std::string_view(&letter, 1));
     const bool oneLetter = std::all_of(typed_.begin(), typed_.end(), [this](char c) { return c == typed_.front(); });

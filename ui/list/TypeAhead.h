@@ -21,6 +21,9 @@ class TypeAhead {
     [[nodiscard]] std::optional<std::size_t> type(char letter, std::size_t count, std::optional<std::size_t> current,
                                                   const TextAt& textAt);
 
+    // Another letter would go on with the beginning that is being typed.
+    [[nodiscard]] bool isUnderWay() const;
+
   private:
     const Clock& clock_;
     std::string typed_;

@@ -9,4 +9,8 @@ void setAccessibleName(wxWindow& window, const wxString& name) {
     window.SetName(name);
 }
 
+void setAccessibleDescription(wxWindow& window, const wxString& description) {
+    window.SetHelpText(description);
+}
+
 }  // namespace vell

@@ -16,6 +16,16 @@ void resized(GObject* /*column*/, GParamSpec* /*width*/, gpointer tell) {
     (*static_cast<Tell*>(tell))();
 }
 
+void clicked(GtkTreeViewColumn* /*header*/, gpointer tell) {
+    (*static_cast<Tell*>(tell))();
+}
+
+gboolean pressed(GtkWidget* /*header*/, GdkEventButton* event, gpointer tell) {
+    if (event->type != GDK_BUTTON_PRESS || event->button != GDK_BUTTON_SECONDARY) return FALSE;
+    (*static_cast<Tell*>(tell))();
+    return TRUE;
+}
+
 void forget(gpointer tell, GClosure* /*closure*/) {
     delete static_cast<Tell*>(tell);
 }
@@ -25,6 +35,28 @@ void forget(gpointer tell, GClosure* /*closure*/) {
 void whenResized(wxDataViewColumn& column, std::function<void()> tell) {
     g_signal_connect_data(column.GetGtkHandle(), "notify::width", G_CALLBACK(resized), new Tell(std::move(tell)),
                           forget, GConnectFlags(0));
+}
+
+void whenHeaderClicked(wxDataViewColumn& column, std::function<void()> tell) {
+    GtkTreeViewColumn* header = GTK_TREE_VIEW_COLUMN(column.GetGtkHandle());
+    gtk_tree_view_column_set_clickable(header, TRUE);
+    g_signal_connect_data(header, "clicked", G_CALLBACK(clicked), new Tell(std::move(tell)), forget, GConnectFlags(0));
+}
+
+void whenHeaderRightClicked(wxDataViewColumn& column, std::function<void()> tell) {
+    GtkWidget* header = gtk_tree_view_column_get_button(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()));
+    g_signal_connect_data(header, "button-press-event", G_CALLBACK(pressed), new Tell(std::move(tell)), forget,
+                          GConnectFlags(0));
+}
+
+void putInOrder(wxDataViewCtrl& list, const std::vector<wxDataViewColumn*>& columns) {
+    auto* view = GTK_TREE_VIEW(gtk_bin_get_child(GTK_BIN(list.GetHandle())));
+    GtkTreeViewColumn* before = nullptr;
+    for (const wxDataViewColumn* column : columns) {
+        auto* handle = GTK_TREE_VIEW_COLUMN(column->GetGtkHandle());
+        gtk_tree_view_move_column_after(view, handle, before);
+        before = handle;
+    }
 }
 
 // wxWidgets counts the border in.

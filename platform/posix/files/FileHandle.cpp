@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/files/FileHandle.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -80,6 +81,25 @@ std::string FileHandle::readAll(const FilePlace& place) {
             }
         }
     }
+}
+
+std::string FileHandle::readAt(std::int64_t offset, std::size_t most, const FilePlace& place) const {
+    struct stat status {};
+    if (fstat(descriptor_, &status) != 0) raiseFileError(place);
+    const std::int64_t left = std::max<std::int64_t>(status.st_size - offset, 0);
+    std::string bytes(std::min(most, static_cast<std::size_t>(left)), '\0');
+    std::size_t length = 0;
+    while (length < bytes.size()) {
+        const auto got = uninterrupted([&] {
+            return ::pread(descriptor_, bytes.data() + length, bytes.size() - length,
+                           offset + static_cast<std::int64_t>(length));
+        });
+        if (got < 0) raiseFileError(place);
+        if (got == 0) break;
+        length += static_cast<std::size_t>(got);
+    }
+    bytes.resize(length);
+    return bytes;
 }
 
 void FileHandle::flushToDisk(const FilePlace& place) {

@@ -33,6 +33,8 @@ class FileHandle {
     void writeAll(std::string_view bytes, const FilePlace& place);
     void writeAllAt(std::int64_t offset, std::string_view bytes, const FilePlace& place);
     [[nodiscard]] std::string readAll(const FilePlace& place);
+    // Fewer than `most` bytes only where the file ends.
+    [[nodiscard]] std::string readAt(std::int64_t offset, std::size_t most, const FilePlace& place) const;
     // Waits until the disk has it.
     void flushToDisk(const FilePlace& place);
     // Raises what a late write failed with, which a network file system tells no sooner; the file stays open.

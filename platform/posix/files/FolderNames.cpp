@@ -3,7 +3,7 @@
 
 #include <cstdlib>
 #include <ctime>
-#include <memory>
+#include <utility>
 
 #include <sys/stat.h>
 
@@ -17,8 +17,8 @@ namespace {
 
 // A folder that changes twice within one tick of the system's clock (up to 10 ms) shows the same time for both.
 constexpr std::int64_t clockTick = 10'000'000;
-// How long after a change of ours the folder is not read again. In that time a name that another process makes in the
-// very tick of our change can be missed.
+// For so long after a folder was read, changes of ours are taken for all that happen to it. What another process makes
+// meanwhile is found under its exact name only.
 constexpr std::int64_t ownPeriod = 1'000'000'000;
 // A long life must not remember every folder it has seen.
 constexpr std::size_t mostFolders = 64;
@@ -46,9 +46,19 @@ bool exists(const std::string& path) {
 
 }  // namespace
 
-bool FolderNames::Folder::isTrusted(std::int64_t modified) const {
-    if (modified != Modified) return false;
-    return std::abs(ScannedAt - Modified) >= clockTick || systemNow() < OwnUntil;
+bool FolderNames::Folder::isOurs(std::int64_t now) const {
+    return IsOurWork && std::abs(now - ReadAt) < ownPeriod;
+}
+
+bool FolderNames::Folder::isUnchanged(std::int64_t modified) const {
+    return modified == Modified && std::abs(ReadAt - Modified) >= clockTick;
+}
+
+const std::string* FolderNames::Folder::find(const std::string& name) const {
+    const auto inCodePage = codePageFromUtf8(name);
+    if (!inCodePage) return nullptr;
+    const auto found = Names.find(Upper(*inCodePage));
+    return found == Names.end() ? nullptr : &found->second;
 }
 
 void FolderNames::Folder::add(const std::string& name) {
@@ -61,51 +71,62 @@ void FolderNames::Folder::add(const std::string& name) {
 }
 
 void FolderNames::Folder::remove(const std::string& name) {
-    if (HasDoubles) Modified = 0;  // the other one is not known any more
+    if (HasDoubles) *this = {};  // the other one is not known any more
     Names.erase(Upper(codePageFromUtf8(name).value_or(name)));
 }
 
 std::string FolderNames::realPath(const std::string& wanted) {
-    if (exists(wanted) || wanted == "/" || wanted == ".") return wanted;
-    const auto folder = realPath(folderOf(wanted));
-    const auto name = nameOf(wanted);
-    return joined(folder, findName(folder, name).value_or(name));
+    if (wanted == "/" || wanted == ".") return wanted;
+    if (const Folder* ours = ourFolder(folderOf(wanted))) {
+        const std::string name = nameOf(wanted);
+        const std::string* known = ours->find(name);
+        if (known == nullptr || *known == name) return wanted;
+    }
+    return exists(wanted) ? wanted : otherCaseOf(wanted);
 }
 
-void FolderNames::adding(const std::string& path, const std::function<void()>& operation) {
-    changing(path, operation, [](Folder& folder, const std::string& name) { folder.add(name); });
+std::string FolderNames::otherCaseOf(const std::string& wanted) {
+    if (wanted == "/" || wanted == ".") return wanted;
+    const std::string asWanted = folderOf(wanted);
+    const std::string folder = ourFolder(asWanted) != nullptr ? asWanted : realPath(asWanted);
+    const std::string name = nameOf(wanted);
+    const Folder* known = namesOf(folder);
+    const std::string* found = known != nullptr ? known->find(name) : nullptr;
+    return joined(folder, found != nullptr ? *found : name);
 }
 
-void FolderNames::removing(const std::string& path, const std::function<void()>& operation) {
-    changing(path, operation, [this, &path](Folder& folder, const std::string& name) {
-        folder.remove(name);
-        folders_.erase(path);
-    });
+void FolderNames::added(const std::string& path) {
+    changed(path, [&](Folder& folder) { folder.add(nameOf(path)); });
 }
 
-void FolderNames::moving(const std::string& from, const std::string& to, const std::function<void()>& operation) {
-    changing(to, operation, [&from](Folder& folder, const std::string& name) {
+void FolderNames::removed(const std::string& path) {
+    changed(path, [&](Folder& folder) { folder.remove(nameOf(path)); });
+    folders_.erase(path);
+}
+
+void FolderNames::moved(const std::string& from, const std::string& to) {
+    changed(to, [&](Folder& folder) {
         folder.remove(nameOf(from));
-        folder.add(name);
+        folder.add(nameOf(to));
     });
 }
 
-std::optional<std::string> FolderNames::findName(const std::string& folder, const std::string& name) {
-    const auto inCodePage = codePageFromUtf8(name);
-    const Folder* known = inCodePage ? namesOf(folder) : nullptr;
-    if (known == nullptr) return std::nullopt;
-    const auto found = known->Names.find(Upper(*inCodePage));
-    return found == known->Names.end() ? std::nullopt : std::optional{found->second};
+const FolderNames::Folder* FolderNames::ourFolder(const std::string& folder) const {
+    const auto known = folders_.find(folder);
+    return known != folders_.end() && known->second.isOurs(systemNow()) ? &known->second : nullptr;
 }
 
 // Null when the folder cannot be read.
-FolderNames::Folder* FolderNames::namesOf(const std::string& folder) {
+const FolderNames::Folder* FolderNames::namesOf(const std::string& folder) {
+    if (const Folder* ours = ourFolder(folder)) return ours;
     const auto now = modified(folder);
     if (!now) return nullptr;
     const auto known = folders_.find(folder);
-    if (known != folders_.end() && known->second.isTrusted(*now)) return &known->second;
+    if (known != folders_.end() && known->second.isUnchanged(*now)) return &known->second;
 
-    Folder names{*now, systemNow(), 0, false, {}};
+    Folder names;
+    names.Modified = *now;
+    names.ReadAt = systemNow();
     const FolderReader reader(opendir(folder.c_str()));
     if (!reader) return nullptr;
     while (const dirent* entry = readdir(reader.get()))
@@ -114,16 +135,12 @@ FolderNames::Folder* FolderNames::namesOf(const std::string& folder) {
     return &(folders_[folder] = std::move(names));
 }
 
-void FolderNames::changing(const std::string& path, const std::function<void()>& operation,
-                           const std::function<void(Folder&, const std::string&)>& note) {
-    const auto folder = folderOf(path);
-    const auto before = modified(folder);
-    operation();
-    const auto known = folders_.find(folder);
-    if (known == folders_.end() || !before || known->second.Modified != *before) return;
-    known->second.Modified = modified(folder).value_or(0);
-    known->second.OwnUntil = systemNow() + ownPeriod;
-    note(known->second, nameOf(path));
+template <class Note>
+void FolderNames::changed(const std::string& path, Note&& note) {
+    const auto known = folders_.find(folderOf(path));
+    if (known == folders_.end()) return;
+    known->second.IsOurWork = true;
+    note(known->second);
 }
 
 }  // namespace vell

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <unordered_map>
@@ -10,37 +9,40 @@
 namespace vell {
 
 // Finds files by names that differ in case from those on disk. Remembers what the folders hold, so that a run that
-// writes thousands of files reads its folder once. Paths are the system's, see paths.h.
+// writes thousands of files neither reads its folder nor asks for it every time. Paths are the system's, see paths.h.
 class FolderNames {
   public:
     // What is meant by `wanted`: itself when it exists, else what differs from it in case only, else itself in the
     // folder that is meant.
     [[nodiscard]] std::string realPath(const std::string& wanted);
+    // The same for a name that is known not to exist as it stands.
+    [[nodiscard]] std::string otherCaseOf(const std::string& wanted);
 
-    // Runs an operation after which `path` exists (does not exist), and remembers the folder as that has left it.
-    // Nothing is remembered when the operation raises.
-    void adding(const std::string& path, const std::function<void()>& operation);
-    void removing(const std::string& path, const std::function<void()>& operation);
-    // The same for one that renames `from` to `to` in the same folder.
-    void moving(const std::string& from, const std::string& to, const std::function<void()>& operation);
+    // Our own changes, told after they were made.
+    void added(const std::string& path);
+    void removed(const std::string& path);
+    void moved(const std::string& from, const std::string& to);  // in the same folder
 
   private:
     struct Folder {
-        std::int64_t Modified = 0;  // nanoseconds of the system's clock, as the other two
-        std::int64_t ScannedAt = 0;
-        std::int64_t OwnUntil = 0;  // up to then our own changes are taken for all that happened
-        bool HasDoubles = false;    // two names that differ in case only
+        std::int64_t Modified = 0;  // nanoseconds of the system's clock, as the other
+        std::int64_t ReadAt = 0;
+        bool IsOurWork = false;   // a change of ours has given it another time than the one it was read with
+        bool HasDoubles = false;  // two names that differ in case only
         std::unordered_map<std::string, std::string> Names;  // by the capitals of the name in code page 1253
 
-        [[nodiscard]] bool isTrusted(std::int64_t modified) const;
+        [[nodiscard]] bool isOurs(std::int64_t now) const;
+        [[nodiscard]] bool isUnchanged(std::int64_t modified) const;
+        [[nodiscard]] const std::string* find(const std::string& name) const;
         void add(const std::string& name);
         void remove(const std::string& name);
     };
 
-    [[nodiscard]] std::optional<std::string> findName(const std::string& folder, const std::string& name);
-    [[nodiscard]] Folder* namesOf(const std::string& folder);
-    void changing(const std::string& path, const std::function<void()>& operation,
-                  const std::function<void(Folder&, const std::string&)>& note);
+    // Null when it cannot be taken as it was read without a look at it.
+    [[nodiscard]] const Folder* ourFolder(const std::string& folder) const;
+    [[nodiscard]] const Folder* namesOf(const std::string& folder);
+    template <class Note>
+    void changed(const std::string& path, Note&& note);
 
     std::unordered_map<std::string, Folder> folders_;
 };

@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <thread>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/statvfs.h>
@@ -68,6 +69,15 @@ FileHandle openToWrite(const FilePlace& place, int flags) {
     return file;
 }
 
+// Nobody need write to a pipe of that name for us to see that it is none of ours.
+FileHandle openToRead(const FilePlace& place) {
+    FileHandle file(place, O_RDONLY | O_NONBLOCK);
+    struct stat found {};
+    if (fstat(file.get(), &found) != 0) raiseFileError(place);
+    if (!S_ISREG(found.st_mode)) throw fileError(EISDIR, place);
+    return file;
+}
+
 // A link stays what it is: the file behind it is written.
 std::string behindLink(const std::string& path) {
     struct stat status {};
@@ -122,38 +132,36 @@ std::vector<Files::Entry> PosixFiles::Enumerate(std::string_view folder, std::st
 
 std::string PosixFiles::ReadFile(std::string_view path) const {
     const auto place = locate(path);
-    // Nobody need write to a pipe of that name for us to see that it is none of ours.
-    FileHandle file(place, O_RDONLY | O_NONBLOCK);
-    struct stat found {};
-    if (fstat(file.get(), &found) != 0) raiseFileError(place);
-    if (!S_ISREG(found.st_mode)) throw fileError(EISDIR, place);
-    return file.readAll(place);
+    return openToRead(place).readAll(place);
+}
+
+std::string PosixFiles::ReadPart(std::string_view path, std::int64_t offset, std::size_t most) const {
+    const auto place = locate(path);
+    return openToRead(place).readAt(offset, most, place);
 }
 
 void PosixFiles::WriteWhole(std::string_view path, std::string_view bytes, Durability durability) {
     auto place = locate(path);
     place.System = behindLink(place.System);
     clearFolderOf(place);
-    names_.adding(place.System, [&] {
-        WholeFile file(place);
-        file.write(bytes, durability);
-        file.takePlace(durability);
-    });
+    WholeFile file(place);
+    file.write(bytes, durability);
+    file.takePlace(durability);
+    names_.added(place.System);
 }
 
 void PosixFiles::Append(std::string_view path, std::string_view bytes) {
     const auto place = locate(path);
-    mayMake(place, [&] {
-        FileHandle file = openToWrite(place, O_APPEND | O_CREAT);
-        file.writeAll(bytes, place);
-        file.close(place);
-    });
+    FileHandle file = openToWrite(place, O_APPEND | O_CREAT);
+    names_.added(place.System);
+    file.writeAll(bytes, place);
+    file.close(place);
 }
 
 std::unique_ptr<PartFile> PosixFiles::OpenPart(std::string_view path) {
     const auto place = locate(path);
-    std::unique_ptr<PartFile> part;
-    mayMake(place, [&] { part = PosixPartFile::open(*this, place); });
+    std::unique_ptr<PartFile> part = PosixPartFile::open(*this, place);
+    names_.added(place.System);
     clearFolderOf(place);  // not before: its lock keeps an old part that is to be gone on with
     return part;
 }
@@ -181,7 +189,8 @@ void PosixFiles::Flush(std::string_view folder) {
 void PosixFiles::MakePrivateFile(std::string_view path) {
     const auto place = locate(path);
     if (PathExists(path)) return;
-    names_.adding(place.System, [&] { FileHandle(place, O_WRONLY | O_CREAT, 0600).close(place); });
+    FileHandle(place, O_WRONLY | O_CREAT, 0600).close(place);
+    names_.added(place.System);
 }
 
 void PosixFiles::DeleteFile(std::string_view path) {
@@ -189,71 +198,86 @@ void PosixFiles::DeleteFile(std::string_view path) {
 }
 
 void PosixFiles::remove(const FilePlace& place) {
-    names_.removing(place.System, [&] {
-        if (unlink(place.System.c_str()) != 0) raiseFileError(place);
-    });
+    if (unlink(place.System.c_str()) != 0) raiseFileError(place);
+    names_.removed(place.System);
 }
 
 void PosixFiles::MakeFolder(std::string_view path) {
     const auto place = locate(path);
-    names_.adding(place.System, [&] {
-        if (mkdir(place.System.c_str(), 0777) == 0) return;
-        // The folder that is missing is the one that it shall lie in.
-        throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
-    });
+    // The folder that is missing is the one that it shall lie in.
+    if (mkdir(place.System.c_str(), 0777) != 0) throw fileError(errno == ENOENT ? ENOTDIR : errno, place);
+    names_.added(place.System);
 }
 
 void PosixFiles::RemoveFolder(std::string_view path) {
     const auto place = locate(path);
     removeUnseenFiles(place.System);
-    names_.removing(place.System, [&] {
-        if (rmdir(place.System.c_str()) == 0) return;
-        throw errno == ENOENT ? fileError(ENOTDIR, place) : fileError(errno, place);
-    });
+    if (rmdir(place.System.c_str()) != 0) throw fileError(errno == ENOENT ? ENOTDIR : errno, place);
+    names_.removed(place.System);
 }
 
 std::optional<std::uint64_t> PosixFiles::FreeBytes(std::string_view path) const {
     if (!isUsablePath(path)) return std::nullopt;
     struct statvfs drive {};
-    std::string system = realPath(path);
-    while (statvfs(system.c_str(), &drive) != 0) {
-        if ((errno != ENOENT && errno != ENOTDIR) || system == "/" || system == ".") return std::nullopt;
-        system = folderOf(system);
-    }
+    const auto isAnswered = [&](const std::string& place) { return statvfs(place.c_str(), &drive) == 0; };
+    std::string system = systemPath(path);
+    if (!isAnswered(system))
+        for (system = SystemPath(path); !isAnswered(system); system = folderOf(system))
+            if ((errno != ENOENT && errno != ENOTDIR) || system == "/" || system == ".") return std::nullopt;
     return std::uint64_t{drive.f_bavail} * drive.f_frsize;
 }
 
-std::string PosixFiles::realPath(std::string_view path) const {
+std::string PosixFiles::SystemPath(std::string_view path) const {
     return names_.realPath(systemPath(path));
 }
 
+bool PosixFiles::IsTaken(const std::string& systemPath) const {
+    struct stat found {};
+    return lstat(systemPath.c_str(), &found) == 0;
+}
+
+void PosixFiles::CopyOut(std::string_view path, const std::string& systemPath) {
+    const auto from = locate(path);
+    const FilePlace to{codePageFromUtf8Lossy(systemPath), behindLink(systemPath)};
+    constexpr std::size_t blockSize = std::size_t{1} << 20;
+    FileHandle source = openToRead(from);
+    WholeFile copy(to);
+    std::int64_t length = 0;
+    for (std::string block; !(block = source.readAt(length, blockSize, from)).empty();) {
+        copy.write(block, Durability::Rename);
+        length += std::ssize(block);
+    }
+    copy.takePlace(Durability::Rename);
+}
+
 void PosixFiles::rename(const FilePlace& from, const FilePlace& to) {
-    names_.moving(from.System, to.System, [&] {
-        if (std::rename(from.System.c_str(), to.System.c_str()) != 0) raiseFileError(to);
-    });
+    if (std::rename(from.System.c_str(), to.System.c_str()) != 0) raiseFileError(to);
+    names_.moved(from.System, to.System);
+}
+
+bool PosixFiles::renameToFree(const FilePlace& from, const FilePlace& to) {
+    if (::renameat2(AT_FDCWD, from.System.c_str(), AT_FDCWD, to.System.c_str(), RENAME_NOREPLACE) != 0) return false;
+    names_.moved(from.System, to.System);
+    return true;
 }
 
 FilePlace PosixFiles::locate(std::string_view path) const {
-    return {std::string(path), realPath(path)};
+    return {std::string(path), SystemPath(path)};
 }
 
 std::optional<struct stat> PosixFiles::status(std::string_view path) const {
     if (!isUsablePath(path)) return std::nullopt;
     struct stat found {};
-    const auto place = locate(path);
-    if (stat(place.System.c_str(), &found) == 0) return found;
-    if (errno != ENOENT && errno != ENOTDIR) raiseFileError(place);
+    FilePlace place{std::string(path), systemPath(path)};
+    const auto isThere = [&] { return stat(place.System.c_str(), &found) == 0; };
+    const auto isAbsent = [] { return errno == ENOENT || errno == ENOTDIR; };
+    if (isThere()) return found;
+    if (!isAbsent()) raiseFileError(place);
+    const std::string asWanted = std::exchange(place.System, names_.otherCaseOf(place.System));
+    if (place.System == asWanted) return std::nullopt;
+    if (isThere()) return found;
+    if (!isAbsent()) raiseFileError(place);
     return std::nullopt;
-}
-
-// Runs an operation that makes the file when it is missing.
-template <class Operation>
-void PosixFiles::mayMake(const FilePlace& place, Operation&& operation) {
-    struct stat found {};
-    if (lstat(place.System.c_str(), &found) == 0)
-        operation();
-    else
-        names_.adding(place.System, operation);
 }
 
 void PosixFiles::clearFolderOf(const FilePlace& place) {

@@ -22,6 +22,7 @@ class PosixFiles : public Files {
     [[nodiscard]] std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern,
                                                Kind kind) const override;
     [[nodiscard]] std::string ReadFile(std::string_view path) const override;
+    [[nodiscard]] std::string ReadPart(std::string_view path, std::int64_t offset, std::size_t most) const override;
     // Keeps the permissions of a file that it replaces.
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override;
     void Append(std::string_view path, std::string_view bytes) override;
@@ -32,21 +33,21 @@ class PosixFiles : public Files {
     void DeleteFile(std::string_view path) override;
     void MakeFolder(std::string_view path) override;
     void RemoveFolder(std::string_view path) override;
+    [[nodiscard]] std::string SystemPath(std::string_view path) const override;
+    [[nodiscard]] bool IsTaken(const std::string& systemPath) const override;
+    void CopyOut(std::string_view path, const std::string& systemPath) override;
     [[nodiscard]] std::optional<std::uint64_t> FreeBytes(std::string_view path) const override;
 
-    // The path in the system's form, of the file that is meant.
-    [[nodiscard]] std::string realPath(std::string_view path) const;
-
     [[nodiscard]] FilePlace locate(std::string_view path) const;
-    // Both raise.
-    void rename(const FilePlace& from, const FilePlace& to);  // in the same folder
-    void remove(const FilePlace& place);
+    // In the same folder; raises.
+    void rename(const FilePlace& from, const FilePlace& to);
+    // The same where nothing has that name yet; false when something may have.
+    [[nodiscard]] bool renameToFree(const FilePlace& from, const FilePlace& to);
+    void remove(const FilePlace& place);  // raises
 
   private:
     // Nothing when there is no such file or folder; raises when the attributes cannot be read.
     [[nodiscard]] std::optional<struct stat> status(std::string_view path) const;
-    template <class Operation>
-    void mayMake(const FilePlace& place, Operation&& operation);
     void clearFolderOf(const FilePlace& place);
 
     mutable FolderNames names_;

@@ -15,17 +15,16 @@ namespace vell {
 
 namespace {
 
-struct stat statusOf(const FileHandle& file, const FilePlace& place) {
-    struct stat status {};
-    if (fstat(file.get(), &status) != 0) raiseFileError(place);
-    return status;
+// Neither behind a link nor, as its status then tells, anything but a file.
+FileHandle openFile(const FilePlace& place, int flags) {
+    return {place, O_RDWR | O_NOFOLLOW | O_NONBLOCK | flags, 0666};
 }
 
-// Neither behind a link nor anything but a file.
-FileHandle openFile(const FilePlace& place, int flags) {
-    FileHandle file(place, O_RDWR | O_NOFOLLOW | O_NONBLOCK | flags, 0666);
-    if (!S_ISREG(statusOf(file, place).st_mode)) throw fileError(EEXIST, place);
-    return file;
+struct stat statusOfFile(const FileHandle& file, const FilePlace& place) {
+    struct stat status {};
+    if (fstat(file.get(), &status) != 0) raiseFileError(place);
+    if (!S_ISREG(status.st_mode)) throw fileError(EEXIST, place);
+    return status;
 }
 
 // Who had the lock before may have moved or removed what was opened meanwhile.
@@ -51,11 +50,11 @@ std::unique_ptr<PosixPartFile> PosixPartFile::open(PosixFiles& files, const File
         while (true) {
             FileHandle file = openFile(place, O_CREAT);
             if (!file.tryLock()) return nullptr;
-            const struct stat opened = statusOf(file, place);
+            const struct stat opened = statusOfFile(file, place);
             if (isShared(opened)) {
                 if (unlink(place.System.c_str()) != 0 && errno != ENOENT) raiseFileError(place);
             } else if (isStillThere(opened, place)) {
-                return std::make_unique<PosixPartFile>(files, std::move(file), place);
+                return std::make_unique<PosixPartFile>(files, std::move(file), place, opened.st_size);
             }
         }
     } catch (const RunTimeError& error) {
@@ -64,8 +63,8 @@ std::unique_ptr<PosixPartFile> PosixPartFile::open(PosixFiles& files, const File
     }
 }
 
-PosixPartFile::PosixPartFile(PosixFiles& files, FileHandle file, FilePlace place)
-    : files_(files), file_(std::move(file)), place_(std::move(place)), length_(statusOf(file_, place_).st_size) {}
+PosixPartFile::PosixPartFile(PosixFiles& files, FileHandle file, FilePlace place, std::int64_t length)
+    : files_(files), file_(std::move(file)), place_(std::move(place)), length_(length) {}
 
 PosixPartFile::~PosixPartFile() {
     try {
@@ -85,15 +84,19 @@ std::string PosixPartFile::Beginning(std::size_t most) const {
 
 void PosixPartFile::StartAt(std::int64_t offset) {
     if (offset < 0 || offset > length_) throw RunTimeError(error_number::InvalidCall, "Invalid procedure call");
-    if (ftruncate(file_.get(), offset) != 0) raiseFileError(place_);
-    length_ = offset;
+    if (offset < length_) cutTo(offset);
+}
+
+void PosixPartFile::cutTo(std::int64_t length) {
+    if (ftruncate(file_.get(), length) != 0) raiseFileError(place_);
+    length_ = length;
 }
 
 void PosixPartFile::Write(std::string_view bytes) {
     try {
         file_.writeAllAt(length_, bytes, place_);
     } catch (const RunTimeError&) {
-        StartAt(length_);  // without the piece that may have come through
+        cutTo(length_);  // without the piece that may have come through
         throw;
     }
     length_ += static_cast<std::int64_t>(bytes.size());
@@ -107,7 +110,7 @@ void PosixPartFile::Adopt(std::string_view path) {
     const FilePlace other = files_.locate(path);
     FileHandle file = openFile(other, 0);
     if (!file.tryLock()) throw fileError(EBUSY, other);
-    const struct stat opened = statusOf(file, other);
+    const struct stat opened = statusOfFile(file, other);
     if (isShared(opened)) throw fileError(EMLINK, other);
     files_.rename(other, place_);
     file_ = std::move(file);
@@ -116,9 +119,11 @@ void PosixPartFile::Adopt(std::string_view path) {
 
 void PosixPartFile::MoveTo(std::string_view path) {
     const FilePlace target = files_.locate(path);
-    if (const auto permissions = permissionsToKeep(target)) setPermissions(file_, *permissions, target);
     file_.reportLateErrors(target);
-    files_.rename(place_, target);
+    if (!files_.renameToFree(place_, target)) {
+        if (const auto permissions = permissionsToKeep(target)) setPermissions(file_, *permissions, target);
+        files_.rename(place_, target);
+    }
     Close();
 }
 

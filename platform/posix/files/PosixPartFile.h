@@ -16,7 +16,7 @@ class PosixPartFile : public PartFile {
     // Null when another writer has the part. `files` must outlive the object.
     [[nodiscard]] static std::unique_ptr<PosixPartFile> open(PosixFiles& files, const FilePlace& place);  // raises
 
-    PosixPartFile(PosixFiles& files, FileHandle file, FilePlace place);
+    PosixPartFile(PosixFiles& files, FileHandle file, FilePlace place, std::int64_t length);
     ~PosixPartFile() override;
     PosixPartFile(const PosixPartFile&) = delete;
     PosixPartFile& operator=(const PosixPartFile&) = delete;
@@ -31,6 +31,8 @@ class PosixPartFile : public PartFile {
     void Discard() override;
 
   private:
+    void cutTo(std::int64_t length);
+
     PosixFiles& files_;
     FileHandle file_;
     FilePlace place_;

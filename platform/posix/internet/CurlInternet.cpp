@@ -51,8 +51,12 @@ struct CurlInternet::Connection : Object {
 
 class CurlInternet::Request : public Object {
   public:
-    explicit Request(CurlInternet& internet) : Transfer(internet.clock_), internet_(internet) {}
-    ~Request() override { internet_.leave(Transfer); }
+    explicit Request(CurlInternet& internet)
+        : Transfer(internet.clock_, std::exchange(internet.spare_, {})), internet_(internet) {}
+    ~Request() override {
+        internet_.leave(Transfer);
+        internet_.spare_ = Transfer.release();
+    }
     Request(const Request&) = delete;
     Request& operator=(const Request&) = delete;
 
@@ -63,13 +67,14 @@ class CurlInternet::Request : public Object {
 };
 
 CurlInternet::CurlInternet(EventLoop& loop, Clock& clock, ProxyChoice proxy)
-    : loop_(loop), clock_(clock), proxy_(std::move(proxy)) {
+    : loop_(loop), clock_(clock), proxy_(std::move(proxy), clock) {
     if (curl_global_init(CURL_GLOBAL_DEFAULT) != CURLE_OK) throw std::bad_alloc();
     multi_.reset(curl_multi_init());
     if (!multi_) throw std::bad_alloc();
 }
 
 CurlInternet::~CurlInternet() {
+    spare_ = {};
     multi_.reset();
     curl_global_cleanup();
 }
@@ -170,7 +175,7 @@ std::unique_ptr<CurlInternet::Request> CurlInternet::newRequest(CurlTransfer::Ki
     request->Transfer.setKind(kind);
     request->Transfer.setAddress(address);
     request->Transfer.setAgent(agent);
-    if (const auto proxy = proxy_(address)) request->Transfer.setProxy(*proxy);
+    if (const auto& proxy = proxy_.of(address)) request->Transfer.setProxy(*proxy);
     return request;
 }
 
@@ -198,7 +203,7 @@ void CurlInternet::leave(CurlTransfer& transfer) {
 void CurlInternet::waitForBytes(CurlTransfer& transfer) {
     perform();
     while (!transfer.hasBytes() && !transfer.hasEnded()) {
-        loop_.DoEvents();
+        loop_.DoEventsNowAndThen();
         // Only what the network does not bring now is silence, and only this is waiting: a handler may have held the
         // loop for minutes.
         const SteadyTime begun = clock_.Steady();

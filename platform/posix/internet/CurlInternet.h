@@ -10,7 +10,7 @@
 
 #include "platform/InternetApi.h"
 #include "platform/posix/internet/CurlTransfer.h"
-#include "platform/posix/network/systemProxy.h"
+#include "platform/posix/internet/ProxyMemory.h"
 
 namespace vell {
 
@@ -65,9 +65,10 @@ class CurlInternet : public InternetApi {
 
     EventLoop& loop_;
     Clock& clock_;
-    ProxyChoice proxy_;
+    ProxyMemory proxy_;
     std::unique_ptr<CURLM, MultiDeleter> multi_;
     std::vector<CurlTransfer*> running_;
+    CurlTransfer::Kit spare_;
     std::int32_t lastError_ = 0;
 };
 

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 #include "base/errors.h"
 #include "base/text.h"
@@ -19,7 +20,7 @@ constexpr std::size_t wholePortion = std::size_t{64} * 300;
 constexpr long mostRedirects = 10;
 constexpr long receiveSize = 256L << 10;
 // A reader that falls behind makes the server wait, not the memory grow.
-constexpr std::size_t mostBuffered = 2U << 20;
+constexpr std::size_t mostBuffered = 512U << 10;
 
 std::int32_t errorOf(CURLcode result) {
     switch (result) {
@@ -60,8 +61,13 @@ std::int32_t errorOf(CURLcode result) {
 
 }  // namespace
 
-CurlTransfer::CurlTransfer(const Clock& clock)
-    : clock_(clock), easy_(curl_easy_init()), lastByte_(clock.Steady()), patience_(longestSilence) {
+CurlTransfer::CurlTransfer(const Clock& clock, Kit kit)
+    : clock_(clock),
+      easy_(std::move(kit.Easy)),
+      buffer_(std::move(kit.Buffer)),
+      lastByte_(clock.Steady()),
+      patience_(longestSilence) {
+    if (!easy_) easy_.reset(curl_easy_init());
     if (!easy_) throw std::bad_alloc();
     set(CURLOPT_PRIVATE, this);
     set(CURLOPT_WRITEFUNCTION, &CurlTransfer::onBody);
@@ -78,6 +84,14 @@ CurlTransfer::CurlTransfer(const Clock& clock)
     set(CURLOPT_SUPPRESS_CONNECT_HEADERS, 1L);
     set(CURLOPT_CONNECTTIMEOUT, static_cast<long>(longestSilence.count()));
     setHeader("Pragma: no-cache");  // what is between us and the server must not answer from memory
+}
+
+CurlTransfer::Kit CurlTransfer::release() {
+    buffer_.clear();
+    // The library forgets not all of what went wrong: after a redirect to where it may not go, the next one fails too.
+    if (result_ != 0) return {nullptr, std::move(buffer_)};
+    curl_easy_reset(easy_.get());
+    return {std::move(easy_), std::move(buffer_)};
 }
 
 template <class Value>

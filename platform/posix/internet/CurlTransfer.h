@@ -17,8 +17,25 @@ namespace vell {
 // One request and its answer. The library fills the buffer from within its callbacks; they never let events happen,
 // since the library must not be entered a second time.
 class CurlTransfer {
+  private:
+    struct EasyDeleter {
+        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
+    };
+    struct ListDeleter {
+        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+    };
+
   public:
-    explicit CurlTransfer(const Clock& clock);
+    // What one request leaves to the next, so that memory does not grow and shrink with every file: the handle, which
+    // has a large buffer, and the storage of the bytes that wait to be read. Empty at first.
+    struct Kit {
+        std::unique_ptr<CURL, EasyDeleter> Easy;
+        ByteQueue Buffer;
+    };
+
+    CurlTransfer(const Clock& clock, Kit kit);
+    // Ends the object's work.
+    [[nodiscard]] Kit release();
     CurlTransfer(const CurlTransfer&) = delete;
     CurlTransfer& operator=(const CurlTransfer&) = delete;
 
@@ -72,13 +89,6 @@ class CurlTransfer {
 
     template <class Value>
     void set(CURLoption option, Value value);
-
-    struct EasyDeleter {
-        void operator()(CURL* easy) const { curl_easy_cleanup(easy); }
-    };
-    struct ListDeleter {
-        void operator()(curl_slist* list) const { curl_slist_free_all(list); }
-    };
 
     const Clock& clock_;
     std::unique_ptr<curl_slist, ListDeleter> headerList_;  // the handle uses it to its end

@@ -2,7 +2,10 @@
 #include "platform/posix/network/BusConnection.h"
 
 #include <limits>
+#include <string_view>
 #include <utility>
+
+#include <unistd.h>
 
 #include "base/text.h"
 #include "platform/EventLoop.h"
@@ -11,9 +14,16 @@ namespace vell {
 
 namespace {
 
-// How often a wait looks: quiet waits are for a local answer within a millisecond or two.
-constexpr int quietStep = 1;
+// How often a wait looks at the clock.
+constexpr std::chrono::milliseconds quietStep{10};
 constexpr int yieldingStep = 10;
+
+// Where no bus runs, its socket is missing: GLib would start two threads to find that out.
+bool hasSocket(std::string_view address) {
+    constexpr std::string_view path = "unix:path=";
+    const bool isPlain = address.starts_with(path) && address.find_first_of(",;%") == std::string_view::npos;
+    return !isPlain || access(std::string(address.substr(path.size())).c_str(), F_OK) == 0;
+}
 
 std::string codePageText(const GError& error) {
     return codePageFromUtf8Lossy(error.message);
@@ -50,7 +60,7 @@ class BusConnection::ContextScope {
     GMainContext* context_;
 };
 
-BusConnection::BusConnection(EventLoop& loop, const Clock& clock)
+BusConnection::BusConnection(EventLoop& loop, Clock& clock)
     : loop_(loop),
       clock_(clock),
       context_(g_main_context_new()),
@@ -67,7 +77,7 @@ BusConnection::~BusConnection() {
 BusConnection::Opened BusConnection::open(const std::string& address) {
     const CharsPtr systemBus{address.empty() ? g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr)
                                              : nullptr};
-    if (address.empty() && !systemBus) return Opened::NoBus;
+    if (address.empty() && (!systemBus || !hasSocket(systemBus.get()))) return Opened::NoBus;
     const auto opened = std::make_shared<ObjectPtr<GDBusConnection>>();
     const auto answer = std::make_shared<Reply>();
     {
@@ -145,10 +155,26 @@ bool BusConnection::wait(Wait how, SteadyTime end, const std::function<bool()>& 
         if (done()) return true;
         if (clock_.Steady() >= end) return false;
         if (how == Wait::Quiet)
-            loop_.Sleep(quietStep);
+            nap();
         else
             loop_.WaitForEvents(yieldingStep);
     }
+}
+
+// Ends as soon as the bus has said something.
+void BusConnection::nap() {
+    const auto length = clock_.realLength(quietStep);
+    bool isOver = false;
+    const SourcePtr alarm(g_timeout_source_new(static_cast<guint>(length.count())));
+    const auto ring = [](gpointer over) -> gboolean {
+        *static_cast<bool*>(over) = true;
+        return G_SOURCE_REMOVE;
+    };
+    g_source_set_callback(alarm.get(), ring, &isOver, nullptr);
+    g_source_attach(alarm.get(), context_.get());
+    g_main_context_iteration(context_.get(), TRUE);
+    g_source_destroy(alarm.get());
+    if (isOver) clock_.passed(quietStep);
 }
 
 void BusConnection::iterate() {

@@ -41,7 +41,7 @@ class BusConnection {
     // How long an answer that should come at once is waited for.
     static constexpr std::chrono::milliseconds quietPatience{2000};
 
-    BusConnection(EventLoop& loop, const Clock& clock);
+    BusConnection(EventLoop& loop, Clock& clock);
     ~BusConnection();
     BusConnection(const BusConnection&) = delete;
     BusConnection& operator=(const BusConnection&) = delete;
@@ -80,9 +80,10 @@ class BusConnection {
     static void onSignal(GDBusConnection* connection, const gchar* sender, const gchar* path, const gchar* interface,
                          const gchar* member, GVariant* arguments, gpointer handler);
     void iterate();
+    void nap();
 
     EventLoop& loop_;
-    const Clock& clock_;
+    Clock& clock_;
     ContextPtr context_;
     ObjectPtr<GCancellable> cancellable_;
     std::shared_ptr<int> unanswered_;  // callbacks that GLib still owes

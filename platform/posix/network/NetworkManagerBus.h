@@ -22,7 +22,7 @@ class NetworkManagerBus {
     static constexpr std::uint32_t LinkActivated = 2;
     static constexpr std::uint32_t LinkDeactivated = 4;
 
-    NetworkManagerBus(EventLoop& loop, const Clock& clock) : bus_(loop, clock) {}
+    NetworkManagerBus(EventLoop& loop, Clock& clock) : bus_(loop, clock) {}
 
     // False when nobody can be talked with; a reason tells why, unless there simply is no bus.
     [[nodiscard]] bool open(const std::string& address, std::string& reason);

@@ -37,7 +37,7 @@ void dropLink(NetworkManagerBus& manager, const std::string& profilePath) {
 
 }  // namespace
 
-NetworkManagerClient::NetworkManagerClient(EventLoop& loop, const Clock& clock, std::string busAddress,
+NetworkManagerClient::NetworkManagerClient(EventLoop& loop, Clock& clock, std::string busAddress,
                                            std::chrono::milliseconds patience)
     : loop_(loop), clock_(clock), busAddress_(std::move(busAddress)), patience_(patience) {}
 

@@ -26,7 +26,7 @@ class NetworkManagerClient {
     static constexpr std::chrono::milliseconds dialPatience{60000};
 
     // An empty bus address means the system's bus. `patience` is how long a change may take.
-    NetworkManagerClient(EventLoop& loop, const Clock& clock, std::string busAddress,
+    NetworkManagerClient(EventLoop& loop, Clock& clock, std::string busAddress,
                          std::chrono::milliseconds patience = dialPatience);
 
     // Nothing when NetworkManager does not run or does not answer.
@@ -51,7 +51,7 @@ class NetworkManagerClient {
     [[nodiscard]] bool bringUp(NetworkManagerBus& manager, LinkWatch& watch, const std::string& profilePath);
 
     EventLoop& loop_;
-    const Clock& clock_;
+    Clock& clock_;
     std::string busAddress_;
     std::chrono::milliseconds patience_;
     std::uint64_t cancels_ = 0;

@@ -18,6 +18,7 @@ struct GlibFree {
 using VariantPtr = std::unique_ptr<GVariant, GlibFree<g_variant_unref>>;
 using ErrorPtr = std::unique_ptr<GError, GlibFree<g_error_free>>;
 using CharsPtr = std::unique_ptr<gchar, GlibFree<g_free>>;
+using SourcePtr = std::unique_ptr<GSource, GlibFree<g_source_unref>>;
 using ContextPtr = std::unique_ptr<GMainContext, GlibFree<g_main_context_unref>>;
 template <class Object>
 using ObjectPtr = std::unique_ptr<Object, GlibFree<g_object_unref>>;

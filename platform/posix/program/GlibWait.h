@@ -24,8 +24,6 @@ class GlibWait {
     [[nodiscard]] GAsyncResult* result();
 
   private:
-    using SourcePtr = std::unique_ptr<GSource, GlibFree<g_source_unref>>;
-
     ContextPtr context_;
     ObjectPtr<GCancellable> cancellable_;
     SourcePtr timer_;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "platform/Process.h"
 #include "platform/posix/files/FileHandle.h"
 #include "platform/posix/program/ProgramPlace.h"
+#include "platform/posix/program/WindowName.h"
 
 namespace vell {
 
@@ -19,10 +21,14 @@ class PosixProcess : public Process {
     [[nodiscard]] std::string DocumentsFolder() const override;
     // By a lock on a file in the program folder, which the system takes off when the process ends, however it ends.
     [[nodiscard]] bool IsPreviousInstance() override;
+    // Both over the message bus of the desktop session.
+    void RaisePrevious() override;
+    void OnRaise(std::function<void()> raise) override;
 
   private:
     std::string folder_;
     FileHandle lock_;
+    std::unique_ptr<WindowName> window_;  // once the lock file has been looked at
 };
 
 }  // namespace vell

@@ -21,9 +21,7 @@ int descriptorOf(Terminal::Stream stream) {
 
 }  // namespace
 
-bool PosixTerminal::isTerminal(Stream stream) const {
-    return isatty(descriptorOf(stream)) == 1;
-}
+PosixTerminal::PosixTerminal() : output_(isatty(STDOUT_FILENO) == 1), error_(isatty(STDERR_FILENO) == 1) {}
 
 bool PosixTerminal::canAsk() const {
     return isatty(STDIN_FILENO) == 1 && isTerminal(Stream::Error);

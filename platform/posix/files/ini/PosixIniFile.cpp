@@ -61,7 +61,8 @@ std::string PosixIniFile::ReadString(std::string_view file, std::string_view sec
 
 void PosixIniFile::ReadAtOnce(std::string_view file, const std::function<void()>& reads) const {
     const IniText now = text(file);
-    const Restored<Held> held(held_, {file, &now});
+    const Held own{file, now, held_};
+    const Restored<const Held*> held(held_, &own);
     reads();
 }
 
@@ -70,7 +71,8 @@ void PosixIniFile::Update(std::string_view file, const std::function<std::vector
     const IniText before = text(file);
     IniText edited = before;
     {
-        const Restored<Held> held(held_, {file, &before});
+        const Held own{file, before, held_};
+        const Restored<const Held*> held(held_, &own);
         for (const IniEdit& edit : edits())
             apply(edit, edited);
     }
@@ -83,13 +85,14 @@ void PosixIniFile::Update(std::string_view file, const std::function<std::vector
 
 const IniText& PosixIniFile::text(std::string_view file) const {
     static const IniText none;
-    if (held_.Text && held_.File == file) return *held_.Text;
+    for (const Held* one = held_; one != nullptr; one = one->Outer)
+        if (one->File == file) return one->Text;
     const auto stamp = files_.Stamp(file);
+    if (!stamp) return none;
     const auto known = known_.find(file);
-    if (stamp && known != known_.end() && known->second.Stamp == *stamp && known->second.IsSettled)
-        return known->second.Text;
+    if (known != known_.end() && known->second.Stamp == *stamp && known->second.IsSettled) return known->second.Text;
     try {
-        return remember(file, stamp.value_or(FileStamp{}), IniText(files_.ReadFile(file)));
+        return remember(file, *stamp, IniText(files_.ReadFile(file)));
     } catch (const RunTimeError& error) {
         if (error.Number == error_number::FileNotFound || error.Number == error_number::PathNotFound) return none;
         throw;

@@ -28,10 +28,11 @@ class PosixIniFile : public IniFile {
     };
 
     // A file that is being updated or read at once: until the end it reads as it was at the beginning, so that no
-    // second reading, which could fail, has a say.
+    // second reading, which could fail, has a say. Several may be held, one inside the work with another.
     struct Held {
         std::string_view File;
-        const IniText* Text = nullptr;
+        const IniText& Text;
+        const Held* Outer;
     };
 
     // The file as it is now; an empty text when there is none. Raises when it cannot be read.
@@ -39,7 +40,7 @@ class PosixIniFile : public IniFile {
     const IniText& remember(std::string_view file, const FileStamp& stamp, IniText text) const;
 
     Files& files_;
-    mutable Held held_;
+    mutable const Held* held_ = nullptr;  // the innermost
     mutable std::map<std::string, Known, std::less<>> known_;
 };
 

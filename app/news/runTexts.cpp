@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#include "app/news/runTexts.h"
+
+#include <algorithm>
+#include <set>
+#include <vector>
+
+#include "app/RunContext.h"
+#include "base/text.h"
+#include "config/ScheduleEntry.h"
+#include "platform/Translations.h"
+
+namespace vell {
+
+namespace {
+
+std::string counted(std::size_t number, std::string_view one, std::string_view many, const Translations& words) {
+    return std::to_string(number) + " " + words.translate(one, many, number);
+}
+
+std::string failedFilesText(std::size_t number, const Translations& words) {
+    return counted(number, "file failed", "files failed", words);
+}
+
+std::string moment(const LocalTime& time, const Translations& words) {
+    const auto weekday = static_cast<std::size_t>(time.Day.weekday()) - 1;
+    return words.translate(scheduleDays.at(weekday)) + " " + time.hourMinute();
+}
+
+bool isBrokenOff(const RunSummary& summary) {
+    return summary.NotBegun || std::ranges::any_of(summary.Days, [](const DaySummary& day) { return !!day.BrokenOff; });
+}
+
+// A clipping of which any of the three files is missing has not come.
+std::size_t arrived(const DaySummary& day) {
+    std::set<std::string_view> missing;
+    for (const FailedFile& file : day.FailedFiles)
+        missing.insert(std::string_view(file.Name).substr(0, file.Name.rfind('.')));
+    return day.BrokenOff ? day.New.size() : day.Listed - std::min(day.Listed, missing.size());
+}
+
+// "; none on 22/11/2026, 29/11/2026"; empty without days.
+std::string daysText(std::string_view what, const std::vector<Date>& days, const Translations& words) {
+    constexpr std::size_t mostDays = 5;
+    std::string text;
+    for (std::size_t i = 0; i < std::min(days.size(), mostDays); ++i)
+        text += (i == 0 ? "; " + words.translate(what) + " " : ", ") + days[i].dayName();
+    return days.size() > mostDays ? text + " ..." : text;
+}
+
+}  // namespace
+
+std::string newClippingsText(std::size_t number, const Translations& words) {
+    return counted(number, "new clipping", "new clippings", words);
+}
+
+std::string lastRunText(const RunContext& run, const Translations& words) {
+    const RunSummary& summary = run.Summary;
+    std::string text = words.translate("Last:") + " " + moment(summary.Ended, words);
+    if (const auto news = summary.newClippings(); news > 0) text += ", " + counted(news, "new", "new", words);
+    if (const auto failed = summary.failedFiles(); failed > 0) text += ", " + failedFilesText(failed, words);
+    if (run.Outcome.Stopped)
+        text += ", " + words.translate("stopped");
+    else if (isBrokenOff(summary) || run.Outcome.Broken)
+        text += ", " + words.translate("failed");
+    else if (summary.newClippings() + summary.failedFiles() == 0)
+        text += ", " + words.translate("nothing new");
+    return text;
+}
+
+std::string nextRunText(const std::optional<LocalTime>& due, const Translations& words) {
+    return due ? words.translate("Next:") + " " + moment(*due, words) : std::string();
+}
+
+std::string rangeText(const RunSummary& summary, const Translations& words) {
+    std::size_t clippings = 0, days = 0;
+    std::vector<Date> empty, failed;
+    for (const DaySummary& day : summary.Days) {
+        clippings += arrived(day);
+        if (day.BrokenOff)
+            failed.push_back(day.Day);
+        else if (day.Listed == 0)
+            empty.push_back(day.Day);
+        else
+            ++days;
+    }
+    std::string text = counted(clippings, "clipping", "clippings", words) + " " + words.translate("in") + " " +
+                       counted(days, "day", "days", words);
+    text += daysText("none on", empty, words) + daysText("failed:", failed, words);
+    if (const auto files = summary.failedFiles(); files > 0) text += "; " + failedFilesText(files, words);
+    return text;
+}
+
+}  // namespace vell

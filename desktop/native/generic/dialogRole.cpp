@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/native/dialogRole.h"
+
+namespace vell {
+
+void giveDialogRole(wxDialog& /*dialog*/) {}
+
+}  // namespace vell

@@ -1,0 +1,202 @@
+// SPDX-License-Identifier: MIT
+#include "ui/find/Finder.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "platform/Translations.h"
+#include "ui/ClippingsBrowser.h"
+#include "ui/find/FindView.h"
+#include "ui/find/FoundClippings.h"
+
+namespace vell {
+
+namespace {
+
+constexpr std::string_view procedure = "Find()";
+constexpr int betweenSteps = 1;  // milliseconds
+// Who types sees one new list for a letter, not several.
+constexpr std::chrono::milliseconds firstList{120};
+constexpr std::chrono::milliseconds betweenLists{500};
+
+std::size_t daysOf(const std::vector<CFtpFiles::Pointer>& clippings) {
+    std::size_t days = 0;
+    const std::string* last = nullptr;
+    for (const auto& clipping : clippings) {
+        if (!last || *last != clipping->FilePath) ++days;
+        last = &clipping->FilePath;
+    }
+    return days;
+}
+
+}  // namespace
+
+Finder::Finder(const Parts& parts)
+    : p_(parts), texts_(parts.Disk, parts.Log, textMemory), listings_(parts.Store, parts.Disk, listingMemory) {
+    p_.Browser.onDayRead([this] { dayWasRead(); });
+}
+
+Finder::~Finder() {
+    stop();
+    p_.Browser.onDayRead(nullptr);
+}
+
+void Finder::setTyped(std::string_view typed) {
+    typed_ = typed;
+    FindQuery query(typed);
+    if (query == query_) return;
+    query_ = std::move(query);
+    search(Shows::AsItGoes);
+}
+
+void Finder::setInTexts(bool inTexts) {
+    inTexts_ = inTexts;
+    search(Shows::AsItGoes);
+}
+
+void Finder::setInAllDays(bool inAllDays) {
+    inAllDays_ = inAllDays;
+    search(Shows::AsItGoes);
+}
+
+void Finder::clear() {
+    inAllDays_ = false;
+    if (view_) view_->showFindChoice("", false);
+    setTyped("");
+}
+
+// Whoever chooses another day wants to see that one. A day that was read again, as in a download, is searched again
+// behind the list that is shown.
+void Finder::dayWasRead() {
+    texts_.filesMayHaveChanged();
+    const bool isOther = std::exchange(day_, p_.Browser.chosenDay()) != p_.Browser.chosenDay();
+    if (isOther && inAllDays_) {
+        inAllDays_ = false;
+        if (view_) view_->showFindChoice(typed_, false);
+        search(Shows::AsItGoes);
+    } else if (isOther) {
+        search(Shows::AsItGoes);
+    } else if (pass_) {
+        readAgain_ = true;
+    } else {
+        search(Shows::AtTheEnd);
+    }
+}
+
+void Finder::search(Shows shows) {
+    stop();
+    if (query_.isEmpty()) {
+        p_.Browser.setFound(nullptr);
+        if (view_) view_->showFindStatus("");
+        return;
+    }
+    shows_ = shows;
+    isOver_ = false;
+    nextList_ = p_.Time.Steady() + firstList;
+    pass_.emplace(query_, inTexts_, texts_);
+    if (inAllDays_)
+        daysLeft_.assign(p_.Browser.days().begin(), p_.Browser.days().end());
+    else
+        pass_->add(p_.Browser.dayFiles());
+    dayCount_ = daysLeft_.size();
+    timer_ = p_.Loop.SetTimer(betweenSteps, [this] { work(); });
+    work();
+}
+
+void Finder::stop() {
+    if (timer_ != 0) p_.Loop.KillTimer(std::exchange(timer_, 0));
+    pass_.reset();
+    daysLeft_.clear();
+    readAgain_ = false;
+}
+
+void Finder::work() {
+    trapStep(p_.Log, procedure, [this] {
+        const SteadyTime now = p_.Time.Steady();
+        if (isOver_) {
+            end();
+        } else if (searchUntil(now + longestStep)) {
+            isOver_ = true;  // a long list takes a step of its own to be shown
+        } else if (now >= nextList_) {
+            if (shows_ == Shows::AsItGoes) list(false);
+            tellStatus();
+            nextList_ = p_.Time.Steady() + betweenLists;
+        }
+    });
+}
+
+bool Finder::searchUntil(SteadyTime deadline) {
+    const auto mayGoOn = [&] { return p_.Time.Steady() < deadline; };
+    while (pass_->step(mayGoOn)) {
+        if (daysLeft_.empty() || isEnough()) return true;
+        if (!mayGoOn()) return false;
+        const Date day = daysLeft_.front();
+        daysLeft_.pop_front();
+        pass_->add(listings_.of(day));
+    }
+    return false;
+}
+
+bool Finder::isEnough() const {
+    return inAllDays_ && pass_->hits().size() >= mostInAllDays;
+}
+
+void Finder::list(bool isComplete) {
+    auto found = std::make_shared<FoundClippings>();
+    found->Clippings = pass_->hits();
+    found->Searched = pass_->all();
+    found->IsComplete = isComplete;
+    if (!inAllDays_) {
+        found->OfDay = p_.Browser.chosenDay();
+        for (const auto& clipping : found->Clippings)
+            found->Names.insert(clipping->FileName);
+    } else if (found->Clippings.size() > mostInAllDays) {
+        found->Clippings.resize(mostInAllDays);
+    }
+    p_.Browser.setFound(std::move(found));
+}
+
+void Finder::end() {
+    list(true);
+    if (view_) view_->showFindStatus(outcome());
+    const bool again = readAgain_;
+    stop();
+    if (again) search(Shows::AtTheEnd);
+}
+
+void Finder::finish() {
+    while (pass_)
+        trapStep(p_.Log, procedure, [this] {
+            if (searchUntil(SteadyTime::max())) end();
+        });
+}
+
+void Finder::tellStatus() {
+    if (view_) view_->showFindStatus(progress());
+}
+
+std::string Finder::progress() const {
+    const std::string of = " " + p_.Words.translate("of") + " ";
+    return p_.Words.translate("Searching") + ": " +
+           (inAllDays_ ? p_.Words.translate("day") + " " + std::to_string(dayCount_ - daysLeft_.size()) + of +
+                             std::to_string(dayCount_)
+                       : std::to_string(pass_->done()) + of + std::to_string(pass_->all()));
+}
+
+std::string Finder::outcome() const {
+    const auto& hits = pass_->hits();
+    const std::size_t count = std::min(hits.size(), mostInAllDays);
+    std::string text;
+    if (inAllDays_ && isEnough())
+        text = p_.Words.translate("The newest are listed") + ": " + std::to_string(count);
+    else if (inAllDays_ && !hits.empty())
+        text = std::to_string(count) + " " + p_.Words.translate("found in") + " " + std::to_string(daysOf(hits)) + " " +
+               p_.Words.translate("day", "days", daysOf(hits));
+    if (texts_.unreadable() > 0)
+        text += (text.empty() ? "" : "; ") + std::to_string(texts_.unreadable()) + " " +
+                p_.Words.translate("text could not be read", "texts could not be read", texts_.unreadable());
+    return text;
+}
+
+}  // namespace vell
