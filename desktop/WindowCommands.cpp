@@ -107,7 +107,7 @@ void WindowCommands::addProgramCommands() {
 }
 
 void WindowCommands::printByCategory() {
-    constexpr std::string_view splitKey = "PrintSplit";
+    static constexpr std::string_view splitKey = "PrintSplit";
     ViewSettings& looks = program_.viewSettings();
     frmPrint rules = program_.reading().Printing.mnuPrintByCategory_Click();
     rules.splitCategories(looks.flag(splitKey, false));

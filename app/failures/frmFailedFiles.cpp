@@ -50,6 +50,7 @@ frmFailedFiles::frmFailedFiles(const FailedFiles& failed, const Files& disk, con
 std::vector<FailedFile> frmFailedFiles::filesOf(const std::vector<std::size_t>& chosen) const {
     if (chosen.empty()) return files_;
     std::vector<FailedFile> files;
+    files.reserve(chosen.size());
     for (const std::size_t row : chosen)
         files.push_back(files_.at(row));
     return files;
