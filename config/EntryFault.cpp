@@ -75,9 +75,9 @@ std::string noteOf(const SettingRow& row, EntryFault fault, const Translations& 
         case EntryFault::Missing:
             return words.translate("Still missing");
         case EntryFault::TooLow:
-            return words.translate("At least") + " " + std::to_string(row.Check.Least);
+            return Replace(words.translate("At least %s"), "%s", std::to_string(row.Check.Least));
         case EntryFault::TooHigh:
-            return words.translate("At most") + " " + std::to_string(row.Check.Most);
+            return Replace(words.translate("At most %s"), "%s", std::to_string(row.Check.Most));
         case EntryFault::NoFullPath:
             return words.translate("Not a full path");
         case EntryFault::ControlCharacter:

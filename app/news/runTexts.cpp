@@ -9,17 +9,14 @@
 #include "base/text.h"
 #include "config/ScheduleEntry.h"
 #include "platform/Translations.h"
+#include "ui/numberedText.h"
 
 namespace vell {
 
 namespace {
 
-std::string counted(std::size_t number, std::string_view one, std::string_view many, const Translations& words) {
-    return std::to_string(number) + " " + words.translate(one, many, number);
-}
-
 std::string failedFilesText(std::size_t number, const Translations& words) {
-    return counted(number, "file failed", "files failed", words);
+    return numberedText(words, "%d file failed", "%d files failed", number);
 }
 
 std::string moment(const LocalTime& time, const Translations& words) {
@@ -40,24 +37,27 @@ std::size_t arrived(const DaySummary& day) {
 }
 
 // "; none on 22/11/2026, 29/11/2026"; empty without days.
-std::string daysText(std::string_view what, const std::vector<Date>& days, const Translations& words) {
+std::string daysText(std::string_view sentence, const std::vector<Date>& days) {
+    if (days.empty()) return {};
     constexpr std::size_t mostDays = 5;
-    std::string text;
+    std::string names;
     for (std::size_t i = 0; i < std::min(days.size(), mostDays); ++i)
-        text += (i == 0 ? "; " + words.translate(what) + " " : ", ") + days[i].dayName();
-    return days.size() > mostDays ? text + " ..." : text;
+        names += (i == 0 ? "" : ", ") + days[i].dayName();
+    if (days.size() > mostDays) names += " ...";
+    return "; " + Replace(sentence, "%s", names);
 }
 
 }  // namespace
 
 std::string newClippingsText(std::size_t number, const Translations& words) {
-    return counted(number, "new clipping", "new clippings", words);
+    return numberedText(words, "%d new clipping", "%d new clippings", number);
 }
 
 std::string lastRunText(const RunContext& run, const Translations& words) {
     const RunSummary& summary = run.Summary;
-    std::string text = words.translate("Last:") + " " + moment(summary.Ended, words);
-    if (const auto news = summary.newClippings(); news > 0) text += ", " + counted(news, "new", "new", words);
+    std::string text = Replace(words.translate("Last: %s"), "%s", moment(summary.Ended, words));
+    if (const auto news = summary.newClippings(); news > 0)
+        text += ", " + numberedText(words, "%d new", "%d new", news);
     if (const auto failed = summary.failedFiles(); failed > 0) text += ", " + failedFilesText(failed, words);
     if (run.Outcome.Stopped)
         text += ", " + words.translate("stopped");
@@ -69,7 +69,7 @@ std::string lastRunText(const RunContext& run, const Translations& words) {
 }
 
 std::string nextRunText(const std::optional<LocalTime>& due, const Translations& words) {
-    return due ? words.translate("Next:") + " " + moment(*due, words) : std::string();
+    return due ? Replace(words.translate("Next: %s"), "%s", moment(*due, words)) : std::string();
 }
 
 std::string rangeText(const RunSummary& summary, const Translations& words) {
@@ -84,9 +84,10 @@ std::string rangeText(const RunSummary& summary, const Translations& words) {
         else
             ++days;
     }
-    std::string text = counted(clippings, "clipping", "clippings", words) + " " + words.translate("in") + " " +
-                       counted(days, "day", "days", words);
-    text += daysText("none on", empty, words) + daysText("failed:", failed, words);
+    std::string text =
+        filledText(words.translate("%1$s in %2$s"), {numberedText(words, "%d clipping", "%d clippings", clippings),
+                                                     numberedText(words, "%d day", "%d days", days)});
+    text += daysText(words.translate("none on %s"), empty) + daysText(words.translate("failed: %s"), failed);
     if (const auto files = summary.failedFiles(); files > 0) text += "; " + failedFilesText(files, words);
     return text;
 }

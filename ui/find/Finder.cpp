@@ -9,6 +9,7 @@
 #include "ui/ClippingsBrowser.h"
 #include "ui/find/FindView.h"
 #include "ui/find/FoundClippings.h"
+#include "ui/numberedText.h"
 
 namespace vell {
 
@@ -177,25 +178,27 @@ void Finder::tellStatus() {
 }
 
 std::string Finder::progress() const {
-    const std::string of = " " + p_.Words.translate("of") + " ";
-    return p_.Words.translate("Searching") + ": " +
-           (inAllDays_ ? p_.Words.translate("day") + " " + std::to_string(dayCount_ - daysLeft_.size()) + of +
-                             std::to_string(dayCount_)
-                       : std::to_string(pass_->done()) + of + std::to_string(pass_->all()));
+    if (inAllDays_)
+        return filledText(p_.Words.translate("Searching: day %1$s of %2$s"),
+                          {std::to_string(dayCount_ - daysLeft_.size()), std::to_string(dayCount_)});
+    return filledText(p_.Words.translate("Searching: %1$s of %2$s"),
+                      {std::to_string(pass_->done()), std::to_string(pass_->all())});
 }
 
 std::string Finder::outcome() const {
     const auto& hits = pass_->hits();
-    const std::size_t count = std::min(hits.size(), mostInAllDays);
+    const std::string count = std::to_string(std::min(hits.size(), mostInAllDays));
     std::string text;
-    if (inAllDays_ && isEnough())
-        text = p_.Words.translate("The newest are listed") + ": " + std::to_string(count);
-    else if (inAllDays_ && !hits.empty())
-        text = std::to_string(count) + " " + p_.Words.translate("found in") + " " + std::to_string(daysOf(hits)) + " " +
-               p_.Words.translate("day", "days", daysOf(hits));
-    if (texts_.unreadable() > 0)
-        text += (text.empty() ? "" : "; ") + std::to_string(texts_.unreadable()) + " " +
-                p_.Words.translate("text could not be read", "texts could not be read", texts_.unreadable());
+    if (inAllDays_ && isEnough()) {
+        text = Replace(p_.Words.translate("The newest are listed: %s"), "%s", count);
+    } else if (inAllDays_ && !hits.empty()) {
+        const std::size_t days = daysOf(hits);
+        text = filledText(p_.Words.translate("%1$s found in %2$s day", "%1$s found in %2$s days", days),
+                          {count, std::to_string(days)});
+    }
+    if (const std::size_t unreadable = texts_.unreadable(); unreadable > 0)
+        text += (text.empty() ? "" : "; ") +
+                numberedText(p_.Words, "%d text could not be read", "%d texts could not be read", unreadable);
     return text;
 }
 

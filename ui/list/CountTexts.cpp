@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "platform/Translations.h"
+#include "ui/numberedText.h"
 
 namespace vell {
 
@@ -12,10 +13,10 @@ CountTexts countTexts(const std::vector<ClippingRow>& rows, std::size_t all, con
     const auto news = static_cast<std::size_t>(std::ranges::count(rows, true, &ClippingRow::New));
     const std::string shown = std::to_string(rows.size());
     CountTexts texts;
-    texts.Listed =
-        rows.size() == all ? shown + " Clippings" : shown + " " + words.translate("of") + " " + std::to_string(all);
-    if (unread > 0) texts.Unread = std::to_string(unread) + " " + words.translate("unread", "unread", unread);
-    if (news > 0) texts.New = std::to_string(news) + " " + words.translate("new", "new", news);
+    texts.Listed = rows.size() == all ? shown + " Clippings"
+                                      : filledText(words.translate("%1$s of %2$s"), {shown, std::to_string(all)});
+    if (unread > 0) texts.Unread = numberedText(words, "%d unread", "%d unread", unread);
+    if (news > 0) texts.New = numberedText(words, "%d new", "%d new", news);
     return texts;
 }
 

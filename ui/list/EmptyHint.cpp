@@ -5,6 +5,7 @@
 
 #include "config/Settings.h"
 #include "platform/Translations.h"
+#include "ui/numberedText.h"
 
 namespace vell {
 
@@ -35,13 +36,13 @@ bool isUntouched(const Settings& settings) {
 
 EmptyHint setupHint(const std::string& names, bool isNew, const Translations& words) {
     return {isNew ? words.translate("Welcome to Vell") : words.translate("Setup is not complete"),
-            words.translate("To fetch clippings, Vell needs to know:") + "\n" + names + ".", EmptyHint::Remedy::Setup};
+            Replace(words.translate("To fetch clippings, Vell needs to know:\n%s."), "%s", names),
+            EmptyHint::Remedy::Setup};
 }
 
 EmptyHint filterHint(std::size_t hidden, const Translations& words) {
     return {words.translate("Nothing passes the filter"),
-            std::to_string(hidden) + " " +
-                words.translate("clipping of this day is hidden.", "clippings of this day are hidden.", hidden),
+            numberedText(words, "%d clipping of this day is hidden.", "%d clippings of this day are hidden.", hidden),
             EmptyHint::Remedy::ShowAll};
 }
 
@@ -57,12 +58,12 @@ EmptyHint emptyHint(const Settings& settings, bool hasDays, const std::optional<
                 words.translate("Fetch those of today now, or choose other days first."), EmptyHint::Remedy::Download};
     if (!chosen) return {words.translate("No day is chosen"), words.translate("Choose one on the left."), {}};
     return {words.translate("No clippings of this day"),
-            words.translate("Nothing has been fetched for") + " " + chosen->dayName() + ".",
+            Replace(words.translate("Nothing has been fetched for %s."), "%s", chosen->dayName()),
             {}};
 }
 
 EmptyHint findHint(bool isOver, const Translations& words) {
-    if (!isOver) return {words.translate("Searching"), words.translate("Nothing found so far."), {}};
+    if (!isOver) return {words.translate("Searching ..."), words.translate("Nothing found so far."), {}};
     return {words.translate("Nothing found"), words.translate("No clipping has all these words."),
             EmptyHint::Remedy::ShowAll};
 }
