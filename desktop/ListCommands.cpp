@@ -12,7 +12,6 @@
 #include "desktop/list/ClippingsList.h"
 #include "desktop/list/clipboard.h"
 #include "desktop/native/whenAccepted.h"
-#include "ui/list/ListLayout.h"
 
 namespace vell {
 
@@ -49,14 +48,28 @@ void ListCommands::addColumns(CommandTable& table) {
         const GridColumn column = optionalColumns.at(i);
         table[command::SeeNewspaper + static_cast<int>(i)] = {
             [this, column] {
-                ListLayout layout = window_.list().columns().layout();
-                toggle(layout, column);
-                window_.list().columns().arrange(layout);
-                keep(kept_, layout);
+                change([column](ListLayout& layout) { toggle(layout, column); });
                 wantPages();
             },
             [] { return true; }, [this, column] { return isSeen(window_.list().columns().layout(), column); }};
     }
+    const auto addMove = [this, &table](int id, GridColumn column, int places) {
+        table[id] = {[this, column, places] {
+                         change([column, places](ListLayout& layout) { moveColumn(layout, column, places); });
+                     },
+                     [this, column, places] { return canMove(window_.list().columns().layout(), column, places); }};
+    };
+    for (std::size_t i = 0; i < movableColumns.size(); ++i) {
+        addMove(command::MoveLeft + static_cast<int>(i), movableColumns.at(i), -1);
+        addMove(command::MoveRight + static_cast<int>(i), movableColumns.at(i), 1);
+    }
+}
+
+void ListCommands::change(const std::function<void(ListLayout& layout)>& how) {
+    ListLayout layout = window_.list().columns().layout();
+    how(layout);
+    window_.list().columns().arrange(layout);
+    keep(kept_, layout);
 }
 
 void ListCommands::showKeptLooks() {

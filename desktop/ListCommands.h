@@ -8,6 +8,7 @@
 
 #include "desktop/CommandTable.h"
 #include "ui/list/GridColumns.h"
+#include "ui/list/ListLayout.h"
 
 namespace vell {
 
@@ -32,6 +33,7 @@ class ListCommands {
   private:
     using Rows = std::vector<std::size_t>;
     void addColumns(CommandTable& table);
+    void change(const std::function<void(ListLayout& layout)>& how);
     void wantPages();
     [[nodiscard]] Command onSelected(void (ListCommands::*action)(const Rows& rows));
 

@@ -174,6 +174,14 @@ std::unique_ptr<wxMenu> menuOf(Menu which) {
     return menu;
 }
 
+// Each column under the name that Sort by has for it.
+std::unique_ptr<wxMenu> columnMoves(int first) {
+    auto menu = std::make_unique<wxMenu>();
+    for (const Item& item : items)
+        if (item.In == Menu::Sort) menu->Append(first++, wxGetTranslation(item.Label));
+    return menu;
+}
+
 // The command's words, without mnemonic and keys.
 wxString helpOf(int id) {
     for (const Item& item : items)
@@ -186,7 +194,9 @@ wxString helpOf(int id) {
 void addMenuBar(wxFrame& frame) {
     auto view = menuOf(Menu::View);
     view->AppendSubMenu(menuOf(Menu::Sort).release(), _("&Sort by"));
-    view->AppendSubMenu(menuOf(Menu::Columns).release(), _("Col&umns"));
+    auto columns = std::make_unique<wxMenu>();
+    addColumnItems(*columns);
+    view->AppendSubMenu(columns.release(), _("Col&umns"));
     view->AppendSubMenu(menuOf(Menu::Pane).release(), _("Reading &pane"));
     auto bar = std::make_unique<wxMenuBar>();
     bar->Append(menuOf(Menu::File).release(), _("&File"));
@@ -228,11 +238,16 @@ void addClippingItems(wxMenu& menu) {
 
 void addColumnItems(wxMenu& menu) {
     addItems(menu, Menu::Columns);
+    menu.AppendSeparator();
+    menu.AppendSubMenu(columnMoves(command::MoveLeft).release(), _("Move &left"));
+    menu.AppendSubMenu(columnMoves(command::MoveRight).release(), _("Move &right"));
 }
 
 void forEachCommand(const std::function<void(int id)>& action) {
     for (const Item& item : items)
         action(item.Id);
+    for (int id = command::MoveLeft; id <= command::LastMoveRight; ++id)
+        action(id);
 }
 
 }  // namespace vell

@@ -49,6 +49,11 @@ enum : int {
     SeeCategory,
     SeePage,
     SeeFile,
+    // The columns, in the order of movableColumns.
+    MoveLeft,
+    LastMoveLeft = MoveLeft + 6,
+    MoveRight,
+    LastMoveRight = MoveRight + 6,
     GoToList,
     ShowAdvertisement,
     PaneBelow,

@@ -35,6 +35,8 @@ ListColumns::ListColumns(wxDataViewCtrl& list, const ClippingsModel& model, cons
     for (const auto& [name, column] : columns_) {
         whenHeaderClicked(*column, [clicked = events.Clicked, clickedName = name] { clicked(clickedName); });
         whenHeaderRightClicked(*column, events.RightClicked);
+        column->SetReorderable(true);
+        keepKeyboardOut(*column);
     }
 }
 

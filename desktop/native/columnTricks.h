@@ -19,6 +19,9 @@ void whenHeaderClicked(wxDataViewColumn& column, std::function<void()> tell);
 // The same for the right button.
 void whenHeaderRightClicked(wxDataViewColumn& column, std::function<void()> tell);
 
+// The column's header never takes the keyboard, for which it has no use.
+void keepKeyboardOut(wxDataViewColumn& column);
+
 // Puts these columns into this order, from the left; all others stand behind them.
 void putInOrder(wxDataViewCtrl& list, const std::vector<wxDataViewColumn*>& columns);
 

@@ -61,7 +61,6 @@ class ListTest(WindowCase):
                  [window.marks(row) for row in range(3)] == [marks, marks, ""])
         self.assertEqual(window.close(), 0)
 
-
     def test_columns_and_sorting_are_chosen_and_kept(self):
         self.put_day("07032004", ["Α", "Β", "Γ"])
         for number, page in enumerate(("12", "3", "4")):
@@ -79,10 +78,36 @@ class ListTest(WindowCase):
         wait(lambda: [text_of(window.cell(row, 2)) for row in range(3)] == ["Β", "Γ", "Α"])
         self.assertEqual(window.close(), 0)
 
+    def test_columns_stand_where_they_were_drawn_and_the_keyboard_stays_in_the_list(self):
+        self.put_day("07032004", ["Α", "Β"])
+        window = self.start()
+        window.press("Down")
+        self.draw_header(window, "Type", "Newspaper")
+        wait(lambda: self.headers(window)[1:] == ["Type", "Newspaper", "Title"])
+        window.press("Return")
+        wait(lambda: self.opened.exists() and self.opened.read_text().endswith("C00001.PDF\n"))
+        window.press("alt+v", "u", "l", "t")
+        wait(lambda: self.headers(window)[1:] == ["Type", "Title", "Newspaper"])
+        window.press("Up", "Return")
+        wait(lambda: self.opened.read_text().endswith("C00000.PDF\n"))
+        self.assertEqual(window.close(), 0)
+        window = self.start()
+        wait(lambda: self.headers(window)[1:] == ["Type", "Title", "Newspaper"])
+        self.assertEqual(window.close(), 0)
+
+    def draw_header(self, window, name, onto):
+        """To the place of the other one."""
+        begin, end = (self.extents(window.find("table column header", header)) for header in (name, onto))
+        height = begin.y + begin.height // 2
+        ways = [begin.x + begin.width // 2, begin.x + begin.width // 2 - 20, end.x + end.width // 2, end.x + 5, end.x + 4]
+        moves = [["mousemove", str(x), str(height), "sleep", "0.05"] for x in ways]
+        subprocess.run(["xdotool", *moves[0], "mousedown", "1", *sum(moves[1:], []), "mouseup", "1"], check=True)
+
     @staticmethod
     def headers(window):
-        return [node.get_name() for node in window.nodes() if node.get_role_name() == "table column header" and
-                is_shown(node)]
+        """From the left."""
+        shown = [node for node in window.nodes() if node.get_role_name() == "table column header" and is_shown(node)]
+        return [node.get_name() for node in sorted(shown, key=lambda node: WindowCase.extents(node).x)]
 
     def test_greek_letters_find_titles_and_the_keyboard_goes_on_from_there(self):
         self.put_day("07032004", ["Άλφα", "Βήτα", "Έψιλον", "Ζήτα"])

@@ -16,6 +16,13 @@ TODAY = datetime.date.today()
 SETTINGS = """[General]\r\nAutoPlayDelay=5\r\nPrintAllDelay=1\r\n[Host]\r\nProtocol=HTTP\r\nHost=clippings.example\r
 Uid=demo\r\nPort=21\r\nRetryOnFailure=3\r\nRetryDelay=1\r\nTimeOut=20\r\n[Download]\r\nLocalDir={}\r\n"""
 RECORDER = """[Desktop Entry]\nType=Application\nName=Recorder\nExec=sh -c 'echo "$1" >>"{}"' sh %f\nMimeType=application/pdf;\n"""
+# What the libraries say of themselves, whatever a program does.
+NOT_OURS = [
+    "gtk_notebook_get_tab_label: assertion 'list != NULL' failed",  # a screen reader looks on while its pages go
+    "Invalid JPEG",  # the decoder, of a damaged picture
+    # A header that is drawn elsewhere has no width for a moment: it is laid out anew in a window of its own.
+    "Negative content width -11 (allocation 1, extents 6x6) while allocating gadget (node button, owner GtkButton)",
+]
 
 
 class WindowCase(unittest.TestCase):
@@ -35,9 +42,7 @@ class WindowCase(unittest.TestCase):
     def tearDown(self):
         complaints = self.home / "complaints"
         lines = complaints.read_text().splitlines() if complaints.exists() else []
-        # GTK's own pages complain when a screen reader looks on while they go, and the decoder of its damaged picture.
-        self.assertEqual([line for line in lines if line and "gtk_notebook_get_tab_label" not in line and
-                          not line.startswith("Invalid JPEG")], [])
+        self.assertEqual([line for line in lines if line and not any(known in line for known in NOT_OURS)], [])
 
     def put_day(self, day, titles):
         folder = self.clips / day

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include <tuple>
+
 #include <gmock/gmock.h>
 
 #include "config/ViewSettings.h"
@@ -36,6 +38,24 @@ TEST_F(ListLayoutTest, keepsColumnsAndSortingAndPassesOverWhatMakesNoSense) {
     EXPECT_EQ(keptRowOrder(kept), (RowOrder{Page, false})) << "days stand beside clippings of several days only";
     kept.keepText("SortedBy", "-");
     EXPECT_EQ(keptRowOrder(kept), RowOrder{});
+}
+
+TEST(ColumnMovesTest, stepOverTheNeighbourAndEndAtTheEdges) {
+    const ListLayout before{{Marks}, {Newspaper, 900}, {Title}};
+    const std::vector<std::tuple<GridColumn, int, ListLayout>> cases{
+        {Newspaper, -1, {{Newspaper, 900}, {Marks}, {Title}}},
+        {Newspaper, 1, {{Marks}, {Title}, {Newspaper, 900}}},
+        {Marks, 2, {{Newspaper, 900}, {Title}, {Marks}}},
+        {Title, -2, {{Title}, {Marks}, {Newspaper, 900}}},
+        {Marks, -1, before},
+        {Title, 1, before},
+        {Page, -1, before}};
+    for (const auto& [column, places, after] : cases) {
+        ListLayout layout = before;
+        EXPECT_EQ(canMove(layout, column, places), after != before);
+        moveColumn(layout, column, places);
+        EXPECT_EQ(layout, after);
+    }
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "ui/list/ListLayout.h"
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include "base/text.h"
@@ -38,6 +39,21 @@ bool isSeen(const ListLayout& layout, GridColumn column) {
 void toggle(ListLayout& layout, GridColumn column) {
     if (std::erase_if(layout, [&](const ColumnPlace& place) { return place.Column == column; }) == 0)
         layout.push_back({column, 0});
+}
+
+bool canMove(const ListLayout& layout, GridColumn column, int places) {
+    const auto from = std::ranges::find(layout, column, &ColumnPlace::Column) - layout.begin();
+    const auto end = std::ssize(layout);
+    return from < end && from + places >= 0 && from + places < end;
+}
+
+void moveColumn(ListLayout& layout, GridColumn column, int places) {
+    if (!canMove(layout, column, places)) return;
+    const auto from = std::ranges::find(layout, column, &ColumnPlace::Column);
+    if (places < 0)
+        std::rotate(from + places, from, from + 1);
+    else
+        std::rotate(from, from + 1, from + 1 + places);
 }
 
 ListLayout keptListLayout(const ViewSettings& kept) {

@@ -27,9 +27,17 @@ using ListLayout = std::vector<ColumnPlace>;
 inline constexpr std::array optionalColumns{GridColumn::Newspaper, GridColumn::Type, GridColumn::Category,
                                             GridColumn::Page, GridColumn::File};
 
+// Those that can stand elsewhere.
+inline constexpr std::array movableColumns{GridColumn::Marks, GridColumn::Newspaper, GridColumn::Title,
+                                           GridColumn::Type,  GridColumn::Category,  GridColumn::Page,
+                                           GridColumn::File};
+
 [[nodiscard]] bool isSeen(const ListLayout& layout, GridColumn column);
 // A column that is seen no more, or again: then behind all others.
 void toggle(ListLayout& layout, GridColumn column);
+// One that is seen, by so many places to the right, or to the left when they are negative.
+[[nodiscard]] bool canMove(const ListLayout& layout, GridColumn column, int places);
+void moveColumn(ListLayout& layout, GridColumn column, int places);
 
 // How the list was left the last time. Names that make no sense are passed over.
 [[nodiscard]] ListLayout keptListLayout(const ViewSettings& kept);

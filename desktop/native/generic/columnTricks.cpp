@@ -31,6 +31,9 @@ void whenHeaderRightClicked(wxDataViewColumn& column, std::function<void()> tell
     onHeader(column, wxEVT_DATAVIEW_COLUMN_HEADER_RIGHT_CLICK, std::move(tell));
 }
 
+// It never does.
+void keepKeyboardOut(wxDataViewColumn& /*column*/) {}
+
 // The toolkit lets the user move them, the program only makes them anew.
 void putInOrder(wxDataViewCtrl& /*list*/, const std::vector<wxDataViewColumn*>& /*columns*/) {}
 

@@ -26,6 +26,10 @@ gboolean pressed(GtkWidget* /*header*/, GdkEventButton* event, gpointer tell) {
     return TRUE;
 }
 
+void refuseKeyboard(GtkWidget* header, GParamSpec* /*canFocus*/, gpointer /*data*/) {
+    if (gtk_widget_get_can_focus(header)) gtk_widget_set_can_focus(header, FALSE);
+}
+
 void forget(gpointer tell, GClosure* /*closure*/) {
     delete static_cast<Tell*>(tell);
 }
@@ -47,6 +51,14 @@ void whenHeaderRightClicked(wxDataViewColumn& column, std::function<void()> tell
     GtkWidget* header = gtk_tree_view_column_get_button(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()));
     g_signal_connect_data(header, "button-press-event", G_CALLBACK(pressed), new Tell(std::move(tell)), forget,
                           GConnectFlags(0));
+}
+
+// GTK lets headers have it that can be clicked or drawn, gives it to them after either, and says so again whenever one
+// changes its looks.
+void keepKeyboardOut(wxDataViewColumn& column) {
+    GtkWidget* header = gtk_tree_view_column_get_button(GTK_TREE_VIEW_COLUMN(column.GetGtkHandle()));
+    gtk_widget_set_can_focus(header, FALSE);
+    g_signal_connect(header, "notify::can-focus", G_CALLBACK(refuseKeyboard), nullptr);
 }
 
 void putInOrder(wxDataViewCtrl& list, const std::vector<wxDataViewColumn*>& columns) {
