@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/MainWindow.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <wx/app.h>
-#include <wx/display.h>
 #include <wx/menu.h>
 #include <wx/panel.h>
 #include <wx/sizer.h>
@@ -16,16 +14,16 @@
 #include "desktop/bars/MessageBar.h"
 #include "desktop/bars/StatusLine.h"
 #include "desktop/list/ClippingsList.h"
-#include "desktop/native/insistOnPlace.h"
 #include "desktop/pictures.h"
 #include "desktop/reading/ReadingSplitter.h"
+#include "desktop/reading/TextPane.h"
 #include "desktop/screenText.h"
 #include "desktop/sidebar/Advertisement.h"
 #include "desktop/sidebar/AlertPanel.h"
 #include "desktop/sidebar/DatePane.h"
 #include "desktop/sidebar/ForcedDownloadPane.h"
 #include "desktop/sidebar/ProgressPane.h"
-#include "desktop/twips.h"
+#include "desktop/windowPlace.h"
 
 namespace vell {
 
@@ -38,22 +36,6 @@ void tell(const Event& event, const Arguments&... arguments) {
     if (event) event(arguments...);
 }
 
-wxRect screenAt(int display) {
-    return wxDisplay(display == wxNOT_FOUND ? 0U : static_cast<unsigned>(display)).GetClientArea();
-}
-
-// A window that was left on a display which is gone would never be found again, and one larger than its display never
-// be seen whole.
-wxRect reachable(wxRect window) {
-    constexpr int seizable = 40;  // enough of the title bar for the mouse
-    const int display =
-        wxDisplay::GetFromPoint({window.GetLeft() + window.GetWidth() / 2, window.GetTop() + seizable / 2});
-    const wxRect screen = screenAt(display);
-    if (display == wxNOT_FOUND) window.SetPosition(screen.GetPosition());
-    if (window.GetWidth() > screen.GetWidth()) window.SetLeft(screen.GetLeft()), window.SetWidth(screen.GetWidth());
-    if (window.GetHeight() > screen.GetHeight()) window.SetTop(screen.GetTop()), window.SetHeight(screen.GetHeight());
-    return window;
-}
 }  // namespace
 
 MainWindow::MainWindow(const Clock& clock, const Files& files)
@@ -68,9 +50,7 @@ MainWindow::MainWindow(const Clock& clock, const Files& files)
     SetStatusBar(StatusBar1_);
     SetStatusBarPane(-1);  // the words for menu entries must not overwrite the status of a run
     addParts(clock, files);
-    wxSize least = FromDIP(smallest);
-    least.DecTo(screenAt(wxNOT_FOUND).GetSize());
-    SetMinSize(least);
+    keepLargerThan(*this, smallest);
     bindCommands();
 }
 
@@ -95,7 +75,8 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
              return events_.FilesWanted ? events_.FilesWanted(rows) : std::vector<std::string>();
          },
          [this] { showColumnMenu(); }, [this] { tell(events_.RowSelected); },
-         [this] { return events_.BlankPressed && events_.BlankPressed(); }});
+         [this] { return events_.BlankPressed && events_.BlankPressed(); },
+         [this](bool isShown) { hintShown(isShown); }});
     reading_->setList(list_);
     addMenuKeys(*list_);  // GTK's list has uses of its own for Ctrl+F and Ctrl+P
     find_->MoveAfterInTabOrder(dates_);
@@ -156,6 +137,12 @@ void MainWindow::bindCommands() {
         else
             event.Skip();
     });
+}
+
+void MainWindow::hintShown(bool isShown) {
+    const bool hadKeyboard = reading_->pane().IsDescendant(FindFocus());
+    reading_->showPane(!isShown);
+    if (hadKeyboard) list_->focusList();
 }
 
 void MainWindow::showContextMenu(const wxPoint& place) {
@@ -287,20 +274,11 @@ bool MainWindow::takeTypedDays() {
 }
 
 void MainWindow::placeWindow(const WindowPlace& place) {
-    const auto pixels = [this](int twips) { return pixelsFromTwips(*this, twips); };
-    wxRect window(pixels(place.Left), pixels(place.Top), pixels(place.Width), pixels(place.Height));
-    window.SetSize({std::max(window.GetWidth(), GetMinWidth()), std::max(window.GetHeight(), GetMinHeight())});
-    window = reachable(window);
-    SetSize(window);
-    insistOnPlace(*this, window.GetPosition());
+    vell::placeWindow(*this, place);
 }
 
 std::optional<WindowPlace> MainWindow::windowPlace() const {
-    if (IsIconized() || IsMaximized() || IsFullScreen()) return std::nullopt;
-    const auto twips = [this](int pixels) { return twipsFromPixels(*this, pixels); };
-    const wxRect window = GetRect();
-    return WindowPlace{twips(window.GetTop()), twips(window.GetLeft()), twips(window.GetWidth()),
-                       twips(window.GetHeight())};
+    return placeOfWindow(*this);
 }
 
 }  // namespace vell

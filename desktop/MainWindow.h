@@ -83,6 +83,8 @@ class MainWindow : public wxFrame, public MainView {
     void addParts(const Clock& clock, const Files& files);
     [[nodiscard]] wxBoxSizer* sideBar(wxWindow& parent, const Files& files);
     void bindCommands();
+    // In the place of the list: there is no text to read.
+    void hintShown(bool isShown);
     void showContextMenu(const wxPoint& place);
     void showColumnMenu();
 

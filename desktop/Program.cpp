@@ -21,6 +21,7 @@
 #include "desktop/WxTranslations.h"
 #include "desktop/dialogs/WxMessageBoxes.h"
 #include "desktop/list/ClippingsList.h"
+#include "desktop/native/alwaysShowFocus.h"
 #include "desktop/native/showQuietly.h"
 #include "desktop/screenText.h"
 #include "platform/Process.h"
@@ -83,6 +84,7 @@ bool Program::start() {
         parts_ = std::make_unique<Parts>(folder_);
         if (parts_->Main.Form_Load(frmMain::Start::Window)) {
             parts_->Events.showChosenView();
+            alwaysShowFocus(parts_->Window);
             showQuietly(parts_->Window);
             parts_->Window.list().focusList();
             parts_->Services.Program.OnRaise([this] { parts_->Window.presence().comeToFront(); });

@@ -5,17 +5,15 @@
 #include <array>
 #include <utility>
 
-#include <wx/arrstr.h>
 #include <wx/artprov.h>
 #include <wx/button.h>
-#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/statbmp.h>
 #include <wx/stattext.h>
 #include <wx/translation.h>
 
-#include "config/ScheduleEntry.h"
 #include "desktop/bars/WrappedText.h"
+#include "desktop/bars/messageLooks.h"
 #include "desktop/commandIds.h"
 #include "desktop/native/accessibleName.h"
 #include "desktop/native/notificationRole.h"
@@ -26,33 +24,8 @@ namespace vell {
 
 namespace {
 
-constexpr std::size_t mostLines = 4;
-constexpr std::size_t longestLine = 300;
 constexpr std::size_t longestTip = 1000;
 constexpr int roomForOneRow = 820;  // DIP
-
-wxString firstLines(std::string_view text) {
-    wxString shown;
-    std::size_t lines = 0;
-    for (const wxString& line : wxSplit(shownText(text), '\n', '\0')) {
-        if (line.Strip(wxString::both).empty()) continue;
-        if (lines++ == mostLines) return shown + " ...";
-        shown += (shown.empty() ? "" : "\n") + line.Left(longestLine);
-    }
-    return shown;
-}
-
-wxColour backColour(Message::Kind kind) {
-    const bool isDark = wxSystemSettings::GetAppearance().IsDark();
-    if (kind == Message::Kind::Failure) return isDark ? wxColour(96, 32, 32) : wxColour(253, 228, 225);
-    return isDark ? wxColour(92, 74, 0) : wxColour(255, 244, 206);
-}
-
-// Messages are not kept for a week.
-wxString whenText(const LocalTime& when) {
-    const std::string_view day = scheduleDays[static_cast<std::size_t>(when.Day.weekday()) - 1];
-    return wxGetTranslation(shownLine(day)) + " " + shownLine(when.hourMinute());
-}
 
 wxButton* flatButton(wxWindow& parent, const wxString& label, const wxString& name) {
     auto* button =

@@ -24,9 +24,9 @@ ClippingsList::ClippingsList(wxWindow* parent, const Clock& clock, Events events
       events_(std::move(events)),
       model_(new ClippingsModel),
       list_(new wxDataViewCtrl(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxDV_MULTIPLE | wxDV_ROW_LINES)),
-      empty_(new EmptyPane(this, *list_)),
+      empty_(new EmptyPane(this, *list_, [this](bool isShown) { events_.HintShown(isShown); })),
       columns_(*list_, *model_,
-               {[this](GridColumn column) { CallAfter([this, column] { headerClicked(column); }); },
+               {[this](GridColumn column) { CallAfter([this, column] { events_.SortWanted(column); }); },
                 [this] { CallAfter([this] { events_.ColumnsWanted(); }); }}),
       typeAhead_(clock) {
     list_->AssociateModel(model_);
@@ -164,12 +164,6 @@ bool ClippingsList::type(const wxKeyEvent& event) {
                                      [&](std::size_t at) { return cellText(model_->at(at), searched); });
     if (row) selectRow(*row);
     return true;
-}
-
-// The header has taken the keyboard, for which it has no use.
-void ClippingsList::headerClicked(GridColumn column) {
-    list_->SetFocus();
-    events_.SortWanted(column);
 }
 
 void ClippingsList::wantMenu(const wxPoint& place) {

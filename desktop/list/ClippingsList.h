@@ -41,6 +41,7 @@ class ClippingsList : public wxPanel {
         std::function<void()> ColumnsWanted;  // a menu to choose them
         std::function<void()> Selected;       // another row may be the current one, or that row is another clipping
         std::function<bool()> BlankPressed;   // true when the key has done something
+        std::function<void(bool isShown)> HintShown;
     };
     ClippingsList(wxWindow* parent, const Clock& clock, Events events);
     ~ClippingsList() override;
@@ -66,7 +67,6 @@ class ClippingsList : public wxPanel {
 
   private:
     void onKey(wxKeyEvent& event);
-    void headerClicked(GridColumn column);
     void wantMenu(const wxPoint& place);
     [[nodiscard]] wxPoint belowCurrentRow() const;
     [[nodiscard]] bool type(const wxKeyEvent& event);

@@ -2,6 +2,7 @@
 #include "desktop/list/EmptyPane.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <wx/button.h>
 #include <wx/settings.h>
@@ -44,9 +45,10 @@ Offer offerOf(EmptyHint::Remedy remedy) {
 
 }  // namespace
 
-EmptyPane::EmptyPane(wxWindow* parent, wxWindow& list)
+EmptyPane::EmptyPane(wxWindow* parent, wxWindow& list, std::function<void(bool isShown)> changed)
     : wxPanel(parent),
       list_(list),
+      changed_(std::move(changed)),
       picture_(new wxStaticBitmap(this, wxID_ANY, programPicture())),
       title_(new wxStaticText(this, wxID_ANY, "")),
       text_(new wxStaticText(this, wxID_ANY, "", wxDefaultPosition, wxDefaultSize, wxALIGN_CENTRE_HORIZONTAL)),
@@ -106,6 +108,7 @@ void EmptyPane::change(bool isShown) {
     list_.Show(!isShown);
     GetParent()->Layout();
     if (hadKeyboard) focus();
+    changed_(isShown);
 }
 
 void EmptyPane::focus() {

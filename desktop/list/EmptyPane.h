@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
+
 #include <wx/panel.h>
 
 class wxButton;
@@ -15,8 +17,8 @@ struct EmptyHint;
 // the two is seen.
 class EmptyPane : public wxPanel {
   public:
-    // Both are children of `parent`, in a sizer of its.
-    EmptyPane(wxWindow* parent, wxWindow& list);
+    // Both are children of `parent`, in a sizer of its. `changed`: this pane is seen now, or no more.
+    EmptyPane(wxWindow* parent, wxWindow& list, std::function<void(bool isShown)> changed);
 
     void show(const EmptyHint& hint);
     void hide();
@@ -30,6 +32,7 @@ class EmptyPane : public wxPanel {
     void change(bool isShown);
 
     wxWindow& list_;
+    std::function<void(bool isShown)> changed_;
     wxStaticBitmap* picture_;  // when there is room for it
     wxStaticText* title_;
     wxStaticText* text_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "desktop/reading/ReadingSplitter.h"
 
+#include <utility>
+
 #include <wx/dcclient.h>
 #include <wx/settings.h>
 
@@ -25,8 +27,14 @@ ReadingSplitter::ReadingSplitter(wxWindow* parent)
     pane_->Hide();
     SetMinimumPaneSize(FromDIP(smallestPane));
     SetSashGravity(listShare);
+    // The line also changes its place, but not by this event, when the window gets another size.
+    Bind(wxEVT_SPLITTER_SASH_POS_CHANGING, [this](wxSplitterEvent& event) {
+        event.Skip();
+        isDrawn_ = true;
+    });
     Bind(wxEVT_SPLITTER_SASH_POS_CHANGED, [this](wxSplitterEvent& event) {
         event.Skip();
+        if (!std::exchange(isDrawn_, false)) return;
         CallAfter([this] {
             if (IsSplit() && sized_) sized_(twipsFromPixels(*this, paneSize()));
         });
@@ -40,13 +48,24 @@ void ReadingSplitter::setList(wxWindow* list) {
 }
 
 void ReadingSplitter::place(PanePlace place, int size) {
+    place_ = place;
+    size_ = size > 0 ? pixelsFromTwips(*this, size) : 0;
+    arrange();
+}
+
+void ReadingSplitter::showPane(bool wanted) {
+    if (std::exchange(isWanted_, wanted) == wanted) return;
+    if (!wanted && IsSplit()) size_ = paneSize();
+    arrange();
+}
+
+void ReadingSplitter::arrange() {
     if (IsSplit()) Unsplit(pane_);
+    if (!isWanted_) return;
     // From the far end, where the line counts in.
-    const auto pixels = [&](int usual) {
-        return -(size > 0 ? pixelsFromTwips(*this, size) : FromDIP(usual)) - GetSashSize();
-    };
-    if (place == PanePlace::Below) SplitHorizontally(GetWindow1(), pane_, pixels(usualHeight));
-    if (place == PanePlace::Beside) SplitVertically(GetWindow1(), pane_, pixels(usualWidth));
+    const auto pixels = [&](int usual) { return -(size_ > 0 ? size_ : FromDIP(usual)) - GetSashSize(); };
+    if (place_ == PanePlace::Below) SplitHorizontally(GetWindow1(), pane_, pixels(usualHeight));
+    if (place_ == PanePlace::Beside) SplitVertically(GetWindow1(), pane_, pixels(usualWidth));
 }
 
 // The theme's own is a solid bar. A short line is enough to see what can be drawn.

@@ -23,12 +23,19 @@ class ReadingSplitter : public wxSplitterWindow {
     void onSized(std::function<void(int twips)> sized) { sized_ = std::move(sized); }
     // The pane gets this height or width, in twips; a fair share for 0.
     void place(PanePlace place, int size);
+    // While there is no clipping whose text could stand in it, the list has the pane's room, too.
+    void showPane(bool wanted);
 
   private:
     void DrawSash(wxDC& dc) override;
+    void arrange();
     [[nodiscard]] int paneSize() const;
 
     TextPane* pane_;
+    PanePlace place_ = PanePlace::Off;
+    int size_ = 0;  // the pane's, in pixels; 0 for a fair share
+    bool isWanted_ = true;
+    bool isDrawn_ = false;  // by the user, at this moment
     std::function<void(int twips)> sized_;
 };
 

@@ -7,6 +7,7 @@
 #include <wx/translation.h>
 
 #include "desktop/native/accessibleName.h"
+#include "desktop/native/paintAfterLayout.h"
 
 namespace vell {
 
@@ -21,6 +22,7 @@ ProgressPane::ProgressPane(wxWindow* parent)
         constexpr int percents = 100;
         auto* bar = new wxGauge(this, wxID_ANY, percents);
         setAccessibleName(*bar, name);
+        paintAfterLayout(*bar);
         sizer->Add(new wxStaticText(this, wxID_ANY, label), wxSizerFlags().CentreVertical());
         sizer->Add(bar, wxSizerFlags(1).Expand().CentreVertical());
         return bar;

@@ -2,6 +2,7 @@
 """The window and every dialog of its menu for whoever does without a mouse, without eyes or with large letters: names,
 keys, the way of the keyboard, sizes. In both languages."""
 import pathlib
+import shutil
 import subprocess
 
 from window import Atspi, GLib, is_shown, text_of, wait
@@ -42,6 +43,20 @@ class AccessTest(WindowCase):
                 self.assertEqual(self.signless(window), [], dialog.get_name())
             window.press("Escape")
             wait(lambda: len(window.window_ids()) == 1)
+
+    def test_what_has_the_keyboard_has_its_sign_before_the_first_key(self):
+        shutil.rmtree(self.clips / "07032004")
+        window = self.start()
+        window.find("label", "Setup is not complete")
+        subprocess.run(["xdotool", "windowfocus", "--sync", window.uppermost()], check=True)
+        stop = wait(lambda: next(node for node in window.nodes() if self.has(node, Atspi.StateType.FOCUSED)))
+        self.assertEqual(stop.get_name(), "Setup")
+        place = self.extents(stop)
+        with_keyboard, without = self.home / "with.png", self.home / "without.png"
+        window.shoot(with_keyboard)
+        window.find("text", "From").get_component_iface().grab_focus()
+        wait(lambda: not window.shoot(without) and self.differ(place, "", with_keyboard, without))
+        self.assertEqual(window.close(), 0)
 
     def ways_to_dialogs(self, window):
         """The keys that lead to each, for example ctrl+shift+s, or alt+h and a through the menu."""

@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
 """Reading the texts of a day in the window."""
-import unittest
+import subprocess
 
 from window import is_shown, text_of, wait
 from windowCase import WindowCase, run_tests
@@ -59,6 +59,36 @@ class ReadingTest(WindowCase):
         wait(lambda: not is_shown(text))
         self.shoot(window, "off")
         self.assertEqual(window.close(), 0)
+
+    def test_the_pane_is_there_for_texts_alone_and_keeps_the_height_that_was_drawn(self):
+        window = self.start()
+        window.find("label", "Setup is not complete")
+        self.assertNotIn("Text", [node.get_name() for node in window.nodes() if is_shown(node)])
+        self.put_day(DAY, ["ΠΡΩΤΟ"])
+        self.put_text(0, "Η αρχή.\n")
+        window.press("F5")
+        wait(lambda: "Η αρχή." in self.text(window))
+        self.assertNotIn("ReadingPane", (self.folder / "vell.ini").read_text())
+        before = self.extents(window.find("text", "Text"))
+        self.draw_line(window, -60)
+        wait(lambda: self.extents(window.find("text", "Text")).height == before.height + 60)
+        wait(lambda: "ReadingPaneHeight" in (self.folder / "vell.ini").read_text())
+        window.press("ctrl+f")
+        window.type("zzz")
+        window.find("label", "Nothing found")
+        window.press("Escape")
+        wait(lambda: self.extents(window.find("text", "Text")).height == before.height + 60)
+        self.assertEqual(window.close(), 0)
+        window = self.start()
+        wait(lambda: self.extents(window.find("text", "Text")).height == before.height + 60)
+        self.assertEqual(window.close(), 0)
+
+    def draw_line(self, window, down):
+        """The one between list and pane."""
+        table = self.extents(window.table())
+        half = ["mousemove_relative", "--", "0", str(down // 2)]
+        subprocess.run(["xdotool", "mousemove", str(table.x + 40), str(table.y + table.height + 3), "mousedown", "1", *half,
+                        *half, "mouseup", "1"], check=True)
 
     def stands_beside(self, window):
         return self.extents(window.find("text", "Text")).x > self.right_end(self.extents(window.table()))

@@ -103,10 +103,21 @@ class StatusTest(WindowCase):
         wait(lambda: {"12 Clippings", "12 unread", "12 new"} <= set(window.texts()))
         wait(lambda: any(text.startswith("Last: ") and text.endswith(", 26 new") for text in window.texts()))
         self.shoot(window, "range")
+        for bar in ("Progress file", "Progress all"):
+            wait(lambda bar=bar: self.is_full(window, bar))
         self.assertEqual(self.shown(window, "label").count("new"), 1)
         window.find("text", "Alert").get_component_iface().grab_focus()
         wait(lambda: "new" not in self.shown(window, "label"))
         self.assertEqual(window.close(), 0)
+
+    def is_full(self, window, name):
+        """As it is painted: the same colour at both ends."""
+        bar, shot = self.extents(window.find("progress bar", name)), self.home / "shot.png"
+        window.shoot(shot)
+        dots = "".join(f"%[pixel:p{{{x},{bar.y + bar.height // 2}}}] " for x in (bar.x + 4, self.right_end(bar) - 4,
+                                                                                 bar.x - 3))
+        left, right, outside = subprocess.check_output(["convert", shot, "-format", dots, "info:"], text=True).split()
+        return left == right != outside
 
     @staticmethod
     def shown(window, role):

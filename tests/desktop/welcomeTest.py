@@ -13,6 +13,7 @@ class WelcomeTest(WindowCase):
         window = self.start(HOME=str(self.home), **proxy)
         window.find("page tab", "Connection")
         self.wait_for_cursor(window, "Host")
+        self.assertFalse((self.folder / "vell.ini").exists())
         for text, onward in (("clippings.example", "Tab"), ("demo", "Tab"), ("wrong", "Shift_L")):
             window.type(text)
             window.press(onward)
