@@ -47,7 +47,7 @@ bool PrintCommands::mnuPrintAll_Click() {
 std::string PrintCommands::whatIsListed() const {
     const auto listed = p_.Browser.rows().size();
     const auto hidden = static_cast<std::size_t>(p_.Browser.dayFiles().Count()) - listed;
-    std::string text = numberedText(p_.Words, "%d document is printed.", "%d documents are printed.", listed);
+    std::string text = numberedText(p_.Words, "%d document will be printed.", "%d documents will be printed.", listed);
     if (hidden > 0)
         text += " " + numberedText(p_.Words, "%d other of the day is not listed and is left out.",
                                    "%d others of the day are not listed and are left out.", hidden);
