@@ -47,13 +47,14 @@ ClippingsModel::ClippingsModel()
 
 bool ClippingsModel::setRows(const std::vector<ClippingRow>& rows) {
     const std::vector<ClippingRow> before = std::exchange(rows_, rows);
-    const auto inserted = insertedPlaces(pathsOf(before), pathsOf(rows_));
-    if (!inserted || inserted->size() > mostInsertedOneByOne) {
-        Reset(static_cast<unsigned int>(rows_.size()));
-        return false;
+    // By the numbers of rows first: of another day's the paths need not be put together.
+    const bool areFew = rows_.size() >= before.size() && rows_.size() - before.size() <= mostInsertedOneByOne;
+    if (const auto inserted = areFew ? insertedPlaces(pathsOf(before), pathsOf(rows_)) : std::nullopt) {
+        tellChanges(before, *inserted);
+        return true;
     }
-    tellChanges(before, *inserted);
-    return true;
+    Reset(static_cast<unsigned int>(rows_.size()));
+    return false;
 }
 
 void ClippingsModel::tellChanges(const std::vector<ClippingRow>& before, const std::vector<std::size_t>& inserted) {

@@ -53,6 +53,7 @@ void RowOrder::choose(GridColumn column) {
 }
 
 void RowOrder::sort(std::vector<ClippingRow>& rows) const {
+    if (!Column && std::ranges::is_sorted(rows, {}, &ClippingRow::Number)) return;
     struct Keyed {
         std::string Key;
         ClippingRow Row;
