@@ -9,6 +9,7 @@
 
 #include "desktop/native/accessibleName.h"
 #include "desktop/screenText.h"
+#include "ui/find/FindQuery.h"
 
 namespace vell {
 
@@ -27,6 +28,7 @@ FindBar::FindBar(wxWindow* parent)
                                wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END)) {
     box_->SetDescriptiveText(_("Find"));
     box_->ShowCancelButton(true);
+    box_->SetMaxLength(FindQuery::longest);
     box_->SetMinSize(wxSize(FromDIP(smallestBox), -1));
     setAccessibleName(*box_, _("Find"));
     inTexts_->SetToolTip(_("Look in the texts of the clippings, too, not only at what the list says of them"));

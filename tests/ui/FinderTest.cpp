@@ -25,7 +25,10 @@ class FinderTest : public testing::Test, protected StoreRig, protected FindView 
         finder.showIn(this);
     }
     static std::string index(const std::string& fields) { return fields + "||Y\r\n\r\n"; }
-    void showFindStatus(std::string_view text) override { status = text; }
+    void showFindStatus(std::string_view text) override {
+        status = text;
+        if (text == refused) throw RunTimeError(5, "refused");
+    }
     void showFindChoice(std::string_view typed, bool inAllDays) override {
         choice = std::string(typed) + (inAllDays ? "!" : ".");
     }
@@ -45,7 +48,7 @@ class FinderTest : public testing::Test, protected StoreRig, protected FindView 
     RecordingView view;
     ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english}};
     Finder finder{{browser, store, files, loop, clock, english, log}};
-    std::string status = "-", choice;
+    std::string status = "-", choice, refused = "-";
 };
 
 TEST_F(FinderTest, findsWordsInAnyOrderWhateverTheirCaseAndAccents) {
@@ -109,6 +112,28 @@ TEST_F(FinderTest, searchesAgainWhatHasCome) {
     std::filesystem::create_directory(folder.path() / "clips/07032004/C.TXT");
     browser.refresh();
     EXPECT_EQ(found() + status, "BE1 text could not be read");
+}
+
+TEST_F(FinderTest, aSearchThatFailsEndsIsLoggedOnceAndLeavesTheNextOneAlone) {
+    finder.setTyped("wave");
+    refused = "";  // what is told in the end
+    logged();
+    EXPECT_EQ(found() + status, "ABThe search broke off");
+    EXPECT_EQ(Split(logged(), "Find()").size() - 1, 1U);
+    finder.setTyped("lamp");
+    for (int i = 0; i < 9; ++i) {
+        clock.advance(std::chrono::milliseconds{1});
+        loop.DoEvents();
+    }
+    EXPECT_FALSE(finder.isSearching());
+    EXPECT_EQ(Split(logged(), "Find()").size() - 1, 1U);
+    refused = "-";
+    EXPECT_EQ(find("harbour") + status, "ABC");
+}
+
+TEST_F(FinderTest, whatIsPastedBeyondAllLengthIsCut) {
+    EXPECT_EQ(FindQuery(std::string(100'000, 'x')), FindQuery(std::string(200, 'x')));
+    EXPECT_EQ(find("wave " + std::string(195, ' ') + "nowhere"), "AB");
 }
 
 // Texts that do not fit stay out, and what an earlier search has used gives way.

@@ -82,7 +82,7 @@ std::vector<FoundPlace> foundPlaces(std::string_view text, const FindQuery& quer
 }
 
 FindQuery::FindQuery(std::string_view typed) {
-    std::string folded(typed);
+    std::string folded(typed.substr(0, longest));
     foldForFinding(folded);
     std::string_view rest = folded;
     while (!rest.empty()) {

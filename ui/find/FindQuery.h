@@ -25,6 +25,9 @@ struct FindWord {
 // What somebody looks for: words, or parts of words, all of which are to be there, in whatever order.
 class FindQuery {
   public:
+    // Nobody types more, and each word costs every text a search. What was pasted is taken to there.
+    static constexpr std::size_t longest = 200;
+
     FindQuery() = default;
     explicit FindQuery(std::string_view typed);
 

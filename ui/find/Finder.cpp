@@ -112,8 +112,25 @@ void Finder::stop() {
     readAgain_ = false;
 }
 
-void Finder::work() {
+template <class Step>
+void Finder::attempt(Step&& step) {
+    const bool isDone = trap(p_.Log, procedure, false, [&] {
+        std::forward<Step>(step)();
+        return true;
+    });
+    if (!isDone) giveUp();
+}
+
+// What was found so far stays listed.
+void Finder::giveUp() {
+    stop();
     trapStep(p_.Log, procedure, [this] {
+        if (view_) view_->showFindStatus(p_.Words.translate("The search broke off"));
+    });
+}
+
+void Finder::work() {
+    attempt([this] {
         const SteadyTime now = p_.Time.Steady();
         if (isOver_) {
             end();
@@ -168,7 +185,7 @@ void Finder::end() {
 
 void Finder::finish() {
     while (pass_)
-        trapStep(p_.Log, procedure, [this] {
+        attempt([this] {
             if (searchUntil(SteadyTime::max())) end();
         });
 }

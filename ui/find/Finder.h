@@ -69,6 +69,10 @@ class Finder {
     void dayWasRead();
     void search(Shows shows);
     void stop();
+    // A step of the search. One that fails is its end, or it would fail at every tick.
+    template <class Step>
+    void attempt(Step&& step);
+    void giveUp();
     void work();
     [[nodiscard]] bool searchUntil(SteadyTime deadline);
     [[nodiscard]] bool isEnough() const;
