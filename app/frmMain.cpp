@@ -101,6 +101,7 @@ void frmMain::showFirstDay() {
     view_.showAdvertisement(session_.gAppPath + advertisementFile);
     if (!settingsComplaint().empty()) view_.displayInfoMessageBox(settingsComplaint());
     fetching_.Scheduled.start();
+    fetching_.News.showLastRun();
     fetching_.News.showNextRun();
 }
 

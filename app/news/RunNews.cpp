@@ -5,9 +5,11 @@
 
 #include "app/MainView.h"
 #include "app/RunContext.h"
+#include "app/news/LastRun.h"
 #include "app/news/RunNotice.h"
 #include "app/news/runTexts.h"
 #include "app/run/ScheduledRuns.h"
+#include "platform/Clock.h"
 #include "platform/Files.h"
 #include "service/RunFeedback.h"
 #include "store/IndexFile.h"
@@ -18,11 +20,27 @@ namespace vell {
 
 void RunNews::runEnded(const RunContext& run) {
     p_.Browser.news().downloadEnded();
-    p_.View.showLastRun(lastRunText(run, p_.Words));
+    const LastRun last = lastRunOf(run);
+    show(last);
+    trapStep(p_.Log, "RunNews()",
+             [&] { p_.Disk.WriteWhole(p_.AppPath + std::string(lastRunFile), lineOf(last), Durability::Rename); });
     showNextRun();
     const bool isRange = run.Summary.Days.size() > 1 && run.Only.empty();
     if (isRange && !run.Outcome.Stopped) p_.Status.StatusBar(rangeText(run.Summary, p_.Words));
     if (run.BegunBy == Starter::Schedule && !p_.View.isLookedAt()) notify(run);
+}
+
+void RunNews::showLastRun() {
+    trapStep(p_.Log, "RunNews()", [this] {
+        const std::string path = p_.AppPath + std::string(lastRunFile);
+        constexpr std::size_t longestLine = 100;
+        if (!p_.Disk.PathExists(path)) return;
+        if (const auto last = lastRunFrom(p_.Disk.ReadPart(path, 0, longestLine))) show(*last);
+    });
+}
+
+void RunNews::show(const LastRun& run) {
+    p_.View.showLastRun(lastRunText(run, p_.Time.Now().Day, p_.Words));
 }
 
 void RunNews::showNextRun() {

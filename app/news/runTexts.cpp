@@ -5,7 +5,8 @@
 #include <set>
 #include <vector>
 
-#include "app/RunContext.h"
+#include "app/news/LastRun.h"
+#include "app/run/RunSummary.h"
 #include "base/text.h"
 #include "config/ScheduleEntry.h"
 #include "platform/Translations.h"
@@ -22,10 +23,6 @@ std::string failedFilesText(std::size_t number, const Translations& words) {
 std::string moment(const LocalTime& time, const Translations& words) {
     const auto weekday = static_cast<std::size_t>(time.Day.weekday()) - 1;
     return words.translate(scheduleDays.at(weekday)) + " " + time.hourMinute();
-}
-
-bool isBrokenOff(const RunSummary& summary) {
-    return summary.NotBegun || std::ranges::any_of(summary.Days, [](const DaySummary& day) { return !!day.BrokenOff; });
 }
 
 // A clipping of which any of the three files is missing has not come.
@@ -53,17 +50,19 @@ std::string newClippingsText(std::size_t number, const Translations& words) {
     return numberedText(words, "%d new clipping", "%d new clippings", number);
 }
 
-std::string lastRunText(const RunContext& run, const Translations& words) {
-    const RunSummary& summary = run.Summary;
-    std::string text = Replace(words.translate("Last: %s"), "%s", moment(summary.Ended, words));
-    if (const auto news = summary.newClippings(); news > 0)
-        text += ", " + numberedText(words, "%d new", "%d new", news);
-    if (const auto failed = summary.failedFiles(); failed > 0) text += ", " + failedFilesText(failed, words);
-    if (run.Outcome.Stopped)
+std::string lastRunText(const LastRun& run, const Date& today, const Translations& words) {
+    constexpr int week = 7;
+    const bool isOfThisWeek = run.Ended.Day > today.plusDays(-week) && run.Ended.Day <= today;
+    const std::string when =
+        isOfThisWeek ? moment(run.Ended, words) : run.Ended.Day.dayName() + " " + run.Ended.hourMinute();
+    std::string text = Replace(words.translate("Last: %s"), "%s", when);
+    if (run.New > 0) text += ", " + numberedText(words, "%d new", "%d new", run.New);
+    if (run.FailedFiles > 0) text += ", " + failedFilesText(run.FailedFiles, words);
+    if (run.How == LastRun::End::Stopped)
         text += ", " + words.translate("stopped");
-    else if (isBrokenOff(summary) || run.Outcome.Broken)
+    else if (run.How == LastRun::End::Failed)
         text += ", " + words.translate("failed");
-    else if (summary.newClippings() + summary.failedFiles() == 0)
+    else if (run.New + run.FailedFiles == 0)
         text += ", " + words.translate("nothing new");
     return text;
 }

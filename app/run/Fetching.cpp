@@ -33,7 +33,7 @@ Fetching::Fetching(const Parts& p)
       Download(p.State, Link, Run, p.Log, Os.Time),
       Forced({p.State, Os, p.View, p.Log, Download, Ftp, p.Progress, p.Browser}),
       Scheduled({p.State, Os.Loop, Os.Time, p.Log, Download, p.Browser}),
-      News({p.View, p.Browser, Os.Disk, p.Log, p.Progress, Scheduled, Os.Words}) {
+      News({p.View, p.Browser, Os.Disk, Os.Time, p.Log, p.Progress, Scheduled, Os.Words, p.State.gAppPath}) {
     Download.onEnd([this](const RunContext& run) { News.runEnded(run); });
     Download.onEnd([&view = p.View, &words = Os.Words](const RunContext& run) { tellEnd(run, view, words); });
     Scheduled.onTick([this] { News.showNextRun(); });

@@ -51,6 +51,32 @@ TEST_F(RunNewsTest, nobodyIsToldWhoSeesItOrWhenThereIsNothing) {
     EXPECT_EQ(view.LastRun, "Last: Sun 06:30, failed");
 }
 
+TEST_F(RunNewsTest, theNextStartRemembersTheLastRun) {
+    clock.setNow({{2004, 3, 7}, 6, 30, 0});
+    folder.put("lastrun.txt", "06/03/2004 07:30:59 4 0 whole\r\n");
+    ASSERT_TRUE(program.Form_Load(frmMain::Start::Window));
+    EXPECT_EQ(view.LastRun, "Last: Sat 07:30, 4 new");
+    for (const auto& [line, text] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"29/02/2004 23:05:00 0 1 failed\r\n", "Last: 29/02/2004 23:05, 1 file failed, failed"},
+             {"06/03/2004 07:30:59 0 0 stopped", "Last: Sat 07:30, stopped"},
+             {"06/03/2004 07:30:59 4 0 who", ""},
+             {"06/03/2004 7:30 4 0 whole", ""},
+             {"31/02/2004 07:30:59 4 0 whole", ""},
+             {"06/03/2004 07:30:59 -4 0 whole", ""},
+             {"", ""}}) {
+        view.LastRun.clear();
+        folder.put("lastrun.txt", line);
+        program.news().showLastRun();
+        EXPECT_EQ(view.LastRun, text) << line;
+    }
+    program.downloads().mnuForceDownload_Click();
+    EXPECT_THAT(folder.get("lastrun.txt"), testing::MatchesRegex("07/03/2004 06:30:.. 3 0 whole\r\n"));
+    files.Trouble = "lastrun.txt";
+    program.downloads().mnuForceDownload_Click();
+    EXPECT_EQ(view.LastRun, "Last: Sun 06:30, nothing new");
+    EXPECT_TRUE(program.downloads().outcome().isGood());
+}
+
 TEST_F(RunNewsTest, aRangeIsSummedUp) {
     RunSummary summary;
     const auto file = [](const char* name) { return FailedFile{{}, name, "", {}}; };
