@@ -60,6 +60,9 @@ class InternetApi {
 
     // The number of the last failure: an internet_error, or the operating system's where it is lower.
     [[nodiscard]] virtual std::int32_t LastError() const = 0;
+    // "host:port" of the proxy that the last request was to take, when it failed because that cannot be reached; empty
+    // otherwise.
+    [[nodiscard]] virtual std::string UnreachedProxy() const = 0;
 };
 
 }  // namespace vell

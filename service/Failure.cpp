@@ -25,6 +25,7 @@ Failure internetFailure(std::int32_t error, std::string_view host) {
     if (host.empty()) return {Cause::NoHost};
     switch (error) {
         case internet_error::NameNotResolved:
+        case internet_error::InvalidUrl:
             return {Cause::NameNotFound, std::string(host)};
         case internet_error::Timeout:
         case internet_error::CannotConnect:
@@ -33,6 +34,10 @@ Failure internetFailure(std::int32_t error, std::string_view host) {
         case internet_error::ConnectionReset:
         case internet_error::Disconnected:
             return {Cause::ConnectionLost, std::string(host)};
+        case internet_error::UnknownScheme:
+        case internet_error::InvalidResponse:
+        case internet_error::RedirectFailed:
+            return {Cause::BadAnswer, std::string(host)};
         default:
             return {Cause::Unknown, "internet error " + std::to_string(error)};
     }

@@ -16,7 +16,9 @@ enum class Cause {
     NoHost,            // no service is set
     NameNotFound,      // Detail: the host
     NoAnswer,          // nobody answers, or not in time. Detail: the host
+    ProxyUnreached,    // the proxy on the way does not answer. Detail: its host and port
     ConnectionLost,    // the answer broke off. Detail: the host
+    BadAnswer,         // nothing can be made of what the service answers. Detail: the host
     LoginRefused,      //
     ServiceStatus,     // the service answers with a failure. Detail: its status, such as "500 Internal Server Error"
     NotThere,          // the service does not have the file

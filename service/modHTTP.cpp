@@ -103,7 +103,7 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     InternetApi::Handle connection;
     const InternetApi::Handle http = openRequest(request, session, connection);
     if (!http) {
-        feedback_.failed(internetFailure(internet_.LastError(), request.Host));
+        feedback_.failed(failureTowards(request.Host));
         return false;
     }
 
@@ -122,7 +122,9 @@ bool modHTTP::exchange(const Exchange& request, std::string& body, std::string& 
     while ((whole = internet_.InternetReadFile(*http, buffer.data(), buffer.size(), read)) && read > 0) {
         if (body.size() + read > longestAnswer) {
             body = {};
-            throw RunTimeError(error_number::OutOfMemory, "The answer is longer than 16 MB");
+            log_.WriteLog("        The answer is longer than 16 MB");
+            feedback_.failed({Cause::BadAnswer, std::string(request.Host)});
+            return false;
         }
         body.append(buffer.data(), read);
     }
@@ -186,8 +188,17 @@ bool modHTTP::judge(std::string_view headers) {
 }
 
 void modHTTP::logFailure(std::string_view what, std::string_view host) {
-    log_.WriteLog("        " + std::string(what) + ". Error " + std::to_string(internet_.LastError()));
-    feedback_.failed(internetFailure(internet_.LastError(), host));
+    const Failure failure = failureTowards(host);
+    const std::string why = failure.Why == Cause::ProxyUnreached
+                                ? ", for the proxy at " + failure.Detail + " did not answer"
+                                : std::string();
+    log_.WriteLog("        " + std::string(what) + why + ". Error " + std::to_string(internet_.LastError()));
+    feedback_.failed(failure);
+}
+
+Failure modHTTP::failureTowards(std::string_view host) const {
+    const std::string proxy = internet_.UnreachedProxy();
+    return proxy.empty() ? internetFailure(internet_.LastError(), host) : Failure{Cause::ProxyUnreached, proxy};
 }
 
 bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string& localPath, PartFile& part,

@@ -7,6 +7,7 @@
 
 #include "log/EventLog.h"
 #include "platform/InternetApi.h"
+#include "service/Failure.h"
 #include "service/FileReceiver.h"
 
 namespace vell {
@@ -49,6 +50,7 @@ class modHTTP {
                                                   InternetApi::Handle& connection);
     [[nodiscard]] bool logHandle(const InternetApi::Handle& handle);
     [[nodiscard]] bool judge(std::string_view headers);
+    [[nodiscard]] Failure failureTowards(std::string_view host) const;
     void logFailure(std::string_view what, std::string_view host);
 
     [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,

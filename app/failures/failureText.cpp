@@ -21,8 +21,12 @@ std::string sentenceOf(Cause cause, const Translations& words, std::size_t files
             return words.translate("The name %s was not found on the internet.");
         case Cause::NoAnswer:
             return words.translate("The service at %s did not answer.");
+        case Cause::ProxyUnreached:
+            return words.translate("The proxy at %s did not answer.");
         case Cause::ConnectionLost:
             return words.translate("The connection to %s broke off.");
+        case Cause::BadAnswer:
+            return words.translate("The service at %s gave an answer that cannot be used.");
         case Cause::LoginRefused:
             return words.translate("The login was refused.");
         case Cause::ServiceStatus:

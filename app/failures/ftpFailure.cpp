@@ -24,6 +24,8 @@ Failure ftpFailure(std::int32_t error, const std::string& host, const std::strin
             return {Cause::ConnectionLost, host};
         case ftp_error::FileUnavailable:
             return {Cause::NotThere};
+        case 0:  // what came is no reply at all
+            return {Cause::BadAnswer, host};
         default:
             return text.empty() ? Failure{Cause::Unknown, "error " + std::to_string(error)}
                                 : Failure{Cause::ServiceStatus, text};

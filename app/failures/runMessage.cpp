@@ -46,7 +46,7 @@ bool isAmong(Cause cause, std::initializer_list<Cause> causes) {
 
 // The setting with which it has to do.
 std::optional<SettingField> settingOf(Cause cause) {
-    if (isAmong(cause, {Cause::NoHost, Cause::NameNotFound, Cause::NoAnswer, Cause::ServiceStatus}))
+    if (isAmong(cause, {Cause::NoHost, Cause::NameNotFound, Cause::NoAnswer, Cause::BadAnswer, Cause::ServiceStatus}))
         return &Settings::Host;
     if (isAmong(cause, {Cause::NoFolder, Cause::FolderMissing, Cause::FolderUnwritable})) return &Settings::LocalDir;
     if (cause == Cause::LoginRefused) return &Settings::Pwd;

@@ -13,10 +13,12 @@ class MessagesTest(WindowCase):
     def test_a_service_that_does_not_answer_is_told_and_the_message_dismissed_by_keyboard(self):
         with socket.create_server(("127.0.0.1", 0)) as reserved:
             dead = reserved.getsockname()[1]
-        window = self.start(http_proxy=f"http://127.0.0.1:{dead}")
+        settings = self.folder / "vell.ini"
+        settings.write_text(settings.read_text().replace("clippings.example", f"127.0.0.1:{dead}"), newline="")
+        window = self.start()
         window.press("F9")
         bar = self.bar(window)
-        wait(lambda: "The service at clippings.example did not answer." in map(text_of, window.nodes(bar)))
+        wait(lambda: f"The service at 127.0.0.1:{dead} did not answer." in map(text_of, window.nodes(bar)))
         self.assertEqual([node.get_name() for node in window.nodes(bar) if node.get_role_name() == "push button"
                           and is_shown(node)], ["Try again", "Setup", "Dismiss"])
         self.assertEqual(window.value("Progress all"), 0)

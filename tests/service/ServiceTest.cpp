@@ -257,6 +257,7 @@ TEST_F(ServiceTest, readsNoFurtherThanAListCanReach) {
     EXPECT_EQ(body, "");
     EXPECT_FALSE(sentAll);
     EXPECT_NE(logged().find("The answer is longer than 16 MB"), std::string::npos);
+    EXPECT_EQ(failure, (Failure{Cause::BadAnswer, setup.Host}));
 }
 
 TEST_F(ServiceTest, deletesWhatHasGoneOnceTheNewIndexIsStored) {

@@ -80,6 +80,7 @@ CurlInternet::~CurlInternet() {
 }
 
 InternetApi::Handle CurlInternet::InternetOpen(std::string_view agent) {
+    unreachedProxy_.clear();
     return std::make_unique<Session>(agent);
 }
 
@@ -181,6 +182,7 @@ std::unique_ptr<CurlInternet::Request> CurlInternet::newRequest(CurlTransfer::Ki
 
 bool CurlInternet::isAnswered(const CurlTransfer& transfer) {
     const std::int32_t error = transfer.error();
+    unreachedProxy_ = transfer.unreachedProxy();
     // An answer that breaks off is an answer; a redirect that leads nowhere is none.
     const bool ledNowhere = error == internet_error::RedirectFailed || error == internet_error::UnknownScheme;
     return !failed(error) || (!transfer.rawHeaders().empty() && !ledNowhere);

@@ -40,6 +40,7 @@ class CurlInternet : public InternetApi {
     [[nodiscard]] std::int64_t ContentLength(Object& request) override;
     void CancelRequests(Cancel which) override;
     [[nodiscard]] std::int32_t LastError() const override { return lastError_; }
+    [[nodiscard]] std::string UnreachedProxy() const override { return unreachedProxy_; }
 
   private:
     struct Session;
@@ -70,6 +71,7 @@ class CurlInternet : public InternetApi {
     std::vector<CurlTransfer*> running_;
     CurlTransfer::Kit spare_;
     std::int32_t lastError_ = 0;
+    std::string unreachedProxy_;
 };
 
 }  // namespace vell

@@ -8,6 +8,7 @@
 #include "base/errors.h"
 #include "base/text.h"
 #include "platform/internetErrors.h"
+#include "platform/posix/network/systemProxy.h"
 
 namespace vell {
 
@@ -34,6 +35,7 @@ std::int32_t errorOf(CURLcode result) {
         case CURLE_COULDNT_RESOLVE_PROXY:
             return internet_error::NameNotResolved;
         case CURLE_COULDNT_CONNECT:
+        case CURLE_PROXY:
             return internet_error::CannotConnect;
         case CURLE_OPERATION_TIMEDOUT:
             return internet_error::Timeout;
@@ -110,6 +112,7 @@ void CurlTransfer::setKind(Kind kind) {
 
 void CurlTransfer::setProxy(const std::string& proxy) {
     set(CURLOPT_PROXY, proxy.c_str());
+    proxy_ = proxy;
 }
 
 void CurlTransfer::setAddress(const std::string& address) {
@@ -169,6 +172,15 @@ void CurlTransfer::end(CURLcode result) {
     // To the library an answer that breaks off among its headers is one without a body.
     const bool isCut = result == CURLE_OK && !headersEnded_;
     result_ = refused_ ? internet_error::RedirectFailed : isCut ? internet_error::ConnectionAborted : errorOf(result);
+}
+
+std::string CurlTransfer::unreachedProxy() const {
+    using namespace internet_error;
+    const auto numbers = {CannotConnect, NameNotResolved, Timeout};
+    if (std::ranges::find(numbers, error()) == numbers.end()) return {};
+    curl_off_t connected = 0;
+    curl_easy_getinfo(easy_.get(), CURLINFO_CONNECT_TIME_T, &connected);
+    return connected > 0 ? std::string() : proxyPlace(proxy_ ? *proxy_ : environmentProxy(address()));
 }
 
 std::int64_t CurlTransfer::announcedLength() const {
@@ -232,13 +244,17 @@ bool CurlTransfer::mayFollow(std::string_view header) const {
     return !host.empty() && equalNoCase(host, hostOf(""));
 }
 
+const char* CurlTransfer::address() const {
+    const char* here = nullptr;
+    curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &here);
+    return here == nullptr ? "" : here;
+}
+
 // The host that a reference, seen from the current address, leads to; empty when it leads nowhere.
 std::string CurlTransfer::hostOf(const char* reference) const {
     const std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> url(curl_url(), &curl_url_cleanup);
-    const char* here = nullptr;
-    curl_easy_getinfo(easy_.get(), CURLINFO_EFFECTIVE_URL, &here);
     char* host = nullptr;
-    const bool known = url && here != nullptr && curl_url_set(url.get(), CURLUPART_URL, here, 0) == CURLUE_OK &&
+    const bool known = url && curl_url_set(url.get(), CURLUPART_URL, address(), 0) == CURLUE_OK &&
                        curl_url_set(url.get(), CURLUPART_URL, reference, 0) == CURLUE_OK &&
                        curl_url_get(url.get(), CURLUPART_HOST, &host, 0) == CURLUE_OK;
     const std::unique_ptr<char, decltype(&curl_free)> owned(host, &curl_free);

@@ -68,6 +68,9 @@ class CurlTransfer {
     void end(std::int32_t error) { result_ = error; }
     void end(CURLcode result);
 
+    // "host:port" of the proxy that this failed request was to take, when it has not even reached that.
+    [[nodiscard]] std::string unreachedProxy() const;
+
     [[nodiscard]] const std::string& rawHeaders() const { return headers_; }
     [[nodiscard]] std::int64_t announcedLength() const;
     // Somebody has waited so long for bytes of this transfer, come or not.
@@ -83,6 +86,8 @@ class CurlTransfer {
     static std::size_t onBody(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
     static std::size_t onHeader(const char* bytes, std::size_t size, std::size_t count, CurlTransfer* self);
     void noteProgress(std::size_t bytes);
+    // The address asked for now, after redirects.
+    [[nodiscard]] const char* address() const;
     // False when the header sends what was posted to another host.
     [[nodiscard]] bool mayFollow(std::string_view header) const;
     [[nodiscard]] std::string hostOf(const char* reference) const;
@@ -93,6 +98,7 @@ class CurlTransfer {
     const Clock& clock_;
     std::unique_ptr<curl_slist, ListDeleter> headerList_;  // the handle uses it to its end
     std::unique_ptr<CURL, EasyDeleter> easy_;
+    std::optional<std::string> proxy_;
     std::string headers_;
     bool headersEnded_ = false;
     ByteQueue buffer_;

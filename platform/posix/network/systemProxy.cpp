@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/network/systemProxy.h"
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdlib>
@@ -34,6 +35,8 @@ std::string environment(const std::array<const char*, Count>& names) {
 // sends a "Proxy:" header.
 constexpr std::array httpNames{"http_proxy", "all_proxy", "ALL_PROXY"};
 constexpr std::array httpsNames{"https_proxy", "HTTPS_PROXY"};
+constexpr std::array allNames{"all_proxy", "ALL_PROXY"};
+constexpr std::array exceptionNames{"no_proxy", "NO_PROXY"};
 
 std::string asCurlNamesIt(std::string_view proxy) {
     if (proxy.starts_with("direct://")) return {};
@@ -43,12 +46,32 @@ std::string asCurlNamesIt(std::string_view proxy) {
     return std::string(proxy);
 }
 
-std::string_view hostOf(std::string_view proxy) {
-    if (const auto scheme = proxy.find("://"); scheme != std::string_view::npos) proxy.remove_prefix(scheme + 3);
-    proxy = proxy.substr(0, proxy.find('/'));
-    if (const auto user = proxy.rfind('@'); user != std::string_view::npos) proxy.remove_prefix(user + 1);
-    if (proxy.starts_with('[')) return proxy.substr(1, proxy.find(']') - 1);
-    return proxy.substr(0, proxy.find(':'));
+// Host and port, without what stands around them.
+std::string_view placeOf(std::string_view address) {
+    if (const auto scheme = address.find("://"); scheme != std::string_view::npos) address.remove_prefix(scheme + 3);
+    address = address.substr(0, address.find('/'));
+    if (const auto user = address.rfind('@'); user != std::string_view::npos) address.remove_prefix(user + 1);
+    return address;
+}
+
+std::string_view hostOf(std::string_view address) {
+    const std::string_view place = placeOf(address);
+    if (place.starts_with('[')) return place.substr(1, place.find(']') - 1);
+    return place.substr(0, place.find(':'));
+}
+
+// Is that host, or a domain that it belongs to, among the environment's exceptions?
+bool isException(std::string_view host) {
+    std::string names = environment(exceptionNames);
+    std::ranges::replace(names, ' ', ',');
+    for (std::string_view name : Split(names, ",")) {
+        if (name == "*") return true;
+        if (name.starts_with('.')) name.remove_prefix(1);
+        if (name.empty() || name.size() > host.size()) continue;
+        const std::string_view before = host.substr(0, host.size() - name.size());
+        if (equalNoCase(host.substr(before.size()), name) && (before.empty() || before.ends_with('.'))) return true;
+    }
+    return false;
 }
 
 }  // namespace
@@ -68,6 +91,19 @@ std::string proxyOf(GProxyResolver* resolver, const std::string& address) {
 std::string configuredProxy() {
     const std::string named = environment(httpNames);
     return named.empty() ? systemProxy("http://example.com/").value_or("") : named;
+}
+
+std::string environmentProxy(std::string_view address) {
+    if (isException(hostOf(address))) return {};
+    if (!address.starts_with("https:")) return environment(httpNames);
+    const std::string named = environment(httpsNames);
+    return named.empty() ? environment(allNames) : named;
+}
+
+std::string proxyPlace(std::string_view proxy) {
+    const std::string place(placeOf(proxy));
+    const bool namesPort = place.find(':', place.starts_with('[') ? place.find(']') : 0) != std::string::npos;
+    return place.empty() || namesPort ? place : place + ":1080";
 }
 
 bool isProxyHere(std::string_view proxy) {
