@@ -100,6 +100,10 @@ void TransferProgress::attemptFailed() {
     ofAttempt_ = 0;
 }
 
+void TransferProgress::fileIsHere() {
+    if (session_.Run.Setup.UseHTTP && isAtLastFile()) tell(endText());
+}
+
 // While whole steps come, more is at hand already, and a look at the clock for each would be a good part of their cost.
 bool TransferProgress::mayShow(std::int32_t came) {
     constexpr std::int32_t wholeStep = 2048;
@@ -123,17 +127,26 @@ void TransferProgress::show(std::int32_t bytes) {
     const DownloadState& downloads = session_.Downloads;
     view_.showProgress(percentOf(bytes, entrySize(session_)),
                        percentOf(downloads.gBytesDownloaded, downloads.gTotalBytes));
-    const std::string text = statusOf(bytes);
+    tell(statusOf(bytes));
+}
+
+void TransferProgress::tell(const std::string& text) {
     StatusBar(text);
     log_.WriteLog("HTTP-->" + text);
 }
 
+bool TransferProgress::isAtLastFile() const {
+    return session_.gCurrentFileIndex == static_cast<std::int32_t>(session_.Downloads.gDownloadList.size());
+}
+
+std::string TransferProgress::endText() const {
+    return "Finished: " + std::to_string(session_.gClippingsDownloaded) + " of " + clippingTotal(session_) +
+           " clippings downloaded.";
+}
+
 std::string TransferProgress::statusOf(std::int32_t bytes) const {
+    if (isAtLastFile() && session_.gLastProgressBytes == 0) return endText();
     const DownloadState& downloads = session_.Downloads;
-    const auto count = static_cast<std::int32_t>(downloads.gDownloadList.size());
-    if (session_.gCurrentFileIndex == count && session_.gLastProgressBytes == 0)
-        return "Finished: " + std::to_string(session_.gClippingsDownloaded) + " of " + clippingTotal(session_) +
-               " clippings downloaded.";
     return clippingCounter() + " Downloading " + session_.currentFile() + " (" + kilobytes(bytes) + "/" +
            kilobytes(entrySize(session_)) + "kb), Total kb downloaded: " + kilobytes(downloads.gBytesDownloaded) + "/" +
            kilobytes(downloads.gTotalBytes) + "kb";

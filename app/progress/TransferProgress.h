@@ -41,6 +41,8 @@ class TransferProgress : public RunFeedback {
     void attemptFailed();
     // An attempt at a file begins.
     void attemptBegins();
+    // The current file needs no attempt. When it is the last one, that is the end.
+    void fileIsHere();
 
     // The file of the list that is being fetched, as the status texts name it: "(clipping/clippings)".
     [[nodiscard]] std::string clippingCounter() const;
@@ -50,6 +52,9 @@ class TransferProgress : public RunFeedback {
     std::int32_t count(std::int32_t bytes);
     [[nodiscard]] bool mayShow(std::int32_t came);
     void show(std::int32_t bytes);
+    [[nodiscard]] bool isAtLastFile() const;
+    [[nodiscard]] std::string endText() const;
+    void tell(const std::string& text);
     [[nodiscard]] std::string statusOf(std::int32_t bytes) const;
 
     Session& session_;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "app/run/FileTurns.h"
 
+#include <algorithm>
+
 #include "app/MainView.h"
 #include "app/Session.h"
 #include "app/progress/TransferProgress.h"
@@ -25,10 +27,7 @@ bool FileTurns::take(std::int32_t index) {
     Session& state = p_.State;
     state.gCurrentFileIndex = index;
     const DownloadEntry& entry = state.Downloads.gDownloadList[static_cast<std::size_t>(index) - 1];
-    if (entry.IsHere) {
-        p_.Books.enter(entry, true);
-        return true;
-    }
+    if (entry.IsHere) return passOver(entry);
     const std::string name = entry.FileName;
     const Turn turn{index, entry, lengthOf(state.Run.Day.gDayFolder + name), equalNoCase(name, advertisementFile)};
     p_.Log.WriteLog(counter(index) + "  Downloading " + name + " (Starting from " + std::to_string(turn.Start) +
@@ -37,7 +36,7 @@ bool FileTurns::take(std::int32_t index) {
     if (turn.IsAdvertisement) {
         p_.View.showAdvertisement(state.gAppPath + name);
         ++state.gClippingsDownloaded;
-    } else if (!ok && !state.gStopRequested) {
+    } else if (!ok && mayTryAgain()) {
         ok = retry(turn);
     }
     // A day without its advertisement is a whole day.
@@ -54,6 +53,14 @@ bool FileTurns::take(std::int32_t index) {
     return ok;
 }
 
+// In the progress it counts like one that has come: of a clipping the last file, else the advertisement.
+bool FileTurns::passOver(const DownloadEntry& entry) {
+    if (equalNoCase(entry.FileName, advertisementFile)) ++p_.State.gClippingsDownloaded;
+    p_.Progress.fileIsHere();
+    p_.Books.enter(entry, true);
+    return true;
+}
+
 bool FileTurns::attempt(const Turn& turn, FileTransfer::Attempt attempt) {
     const Session& state = p_.State;
     p_.Progress.attemptBegins();
@@ -63,17 +70,26 @@ bool FileTurns::attempt(const Turn& turn, FileTransfer::Attempt attempt) {
     return ok;
 }
 
+// Over HTTP somebody was asked to make room on a full disk, and would not. Over FTP nobody is asked.
+bool FileTurns::mayTryAgain() const {
+    const RunContext& run = p_.State.Run;
+    const bool isRefusedRoom = run.Setup.UseHTTP && run.LastFailure.Why == Cause::DiskFull;
+    return !p_.State.gStopRequested && !isRefusedRoom;
+}
+
 bool FileTurns::retry(const Turn& turn) {
     const Session& state = p_.State;
     using Attempt = FileTransfer::Attempt;
-    const std::int16_t most = state.Run.Setup.RetryOnFailure;
+    const std::int16_t wanted = state.Run.Setup.RetryOnFailure;
+    const int most = std::max<int>(wanted, 1);
     bool ok = false;
-    for (int r = 1; !ok && (r == 1 || r <= most) && !state.gStopRequested; ++r) {
-        const std::string attemptOf = std::to_string(r) + "/" + std::to_string(most) + " " + turn.Entry.FileName;
-        p_.Progress.StatusBar(p_.Progress.clippingCounter() + " Retrying " + attemptOf + " (" +
-                              std::to_string(turn.Start) + ")");
-        p_.Log.WriteLog(counter(turn.Index) + "  Retrying " + attemptOf + " (Starting from " +
-                        std::to_string(turn.Start) + " bytes)");
+    for (int r = 1; !ok && r <= most && mayTryAgain(); ++r) {
+        const std::string which = std::to_string(r) + "/";
+        p_.Progress.StatusBar(p_.Progress.clippingCounter() + " Retrying " + which + std::to_string(most) + " " +
+                              turn.Entry.FileName + " (" + std::to_string(turn.Start) + ")");
+        // The log names the setting as it is, also where it is no number of attempts.
+        p_.Log.WriteLog(counter(turn.Index) + "  Retrying " + which + std::to_string(wanted) + " " +
+                        turn.Entry.FileName + " (Starting from " + std::to_string(turn.Start) + " bytes)");
         retryPause(state, p_.Loop, p_.Time);
         p_.Loop.DoEvents();
         ok = !state.gStopRequested && attempt(turn, r < most ? Attempt::Repeatable : Attempt::Last);

@@ -47,7 +47,9 @@ class FileTurns {
         bool IsAdvertisement;
     };
 
+    [[nodiscard]] bool passOver(const DownloadEntry& entry);
     [[nodiscard]] bool attempt(const Turn& turn, FileTransfer::Attempt attempt);
+    [[nodiscard]] bool mayTryAgain() const;
     [[nodiscard]] bool retry(const Turn& turn);
     [[nodiscard]] std::int64_t lengthOf(const std::string& path) const;
     [[nodiscard]] std::string counter(std::int32_t index) const;

@@ -212,6 +212,14 @@ TEST_F(DownloadRunTest, stopEndsThePauseBeforeARetry) {
                "\t\tEnded with status False\n\t\tEnded with status False\nDownload STOPED by user.\n"));
 }
 
+TEST_F(DownloadRunTest, withoutRetriesInTheSettingsThereIsOneAndTheStatusSaysSo) {
+    folder.put("vell.ini", Replace(folder.get("vell.ini"), "RetryOnFailure=3", "RetryOnFailure=0"));
+    service.Answers[ServicePeer::pathOf("N120040307.PDF")] = {""};
+    EXPECT_FALSE(runToday());
+    EXPECT_THAT(view.Statuses, HasSubstr(") Retrying 1/1 N120040307.PDF (0)\n"));
+    EXPECT_EQ(service.requests().size(), 2U + 1 + 10);
+}
+
 TEST_F(DownloadRunTest, saysWhyItFetchesNothing) {
     const std::string noFolder = "Error! Download folder not created. Check 'Download Path' in Setup.",
                       noFolderLog = "ERROR Get/Create download dir to put downloaded files.",
