@@ -71,15 +71,26 @@ class AccessTest(WindowCase):
             yield keys.replace("<Alt>", "alt+").split(":")
 
     def opened_by(self, window, way):
-        """The dialog, once it has the keyboard."""
-        window.press(*way)
+        """The dialog, once it has the keyboard. The letter of a menu that a busy machine has not shown yet is lost."""
+        dialog = None
+        for _ in range(4):
+            window.press(*way)
+            try:
+                dialog = wait(lambda: self.shown_dialog(window), 8)
+                break
+            except AssertionError:
+                window.press("Escape", "Escape")
+        self.assertTrue(dialog, way)
         wait(lambda: len(window.window_ids()) == 2)
-        tops = window.application
-        dialog = wait(lambda: next((top for i in range(tops.get_child_count()) if is_shown(top := tops.get_child_at_index(i))
-                                    and top.get_role_name() in ("dialog", "alert", "file chooser")), None))
         wait(lambda: self.give_keyboard(window) or any(self.has(node, Atspi.StateType.FOCUSED)
                                                        for node in window.nodes(dialog)))
         return dialog
+
+    @staticmethod
+    def shown_dialog(window):
+        tops = window.application
+        return next((top for i in range(tops.get_child_count()) if is_shown(top := tops.get_child_at_index(i))
+                     and top.get_role_name() in ("dialog", "alert", "file chooser")), None)
 
     @staticmethod
     def give_keyboard(window):
@@ -140,7 +151,7 @@ class AccessTest(WindowCase):
             shot = self.home / f"{step % 2}.png"
             window.shoot(shot)
             name = f"{stop.get_role_name()} {self.spoken(stop)}"
-            if before and not self.differ(*before, shot):
+            if before and not self.comes_to_differ(window, before, shot):
                 wrong.append(before[1])
             if not self.spoken(stop):
                 wrong.append(name)
@@ -149,6 +160,13 @@ class AccessTest(WindowCase):
             seen.add((name, place.x, place.y))
             before = (place, name, shot)
         raise AssertionError(f"no end in {seen}")
+
+    def comes_to_differ(self, window, before, shot):
+        """A busy machine paints in its own time."""
+        try:
+            return wait(lambda: self.differ(*before, shot) or window.shoot(shot), 3)
+        except AssertionError:
+            return False
 
     def next_stop(self, window):
         """Where Tab leads to. Not every stop can be found by walking down from the window."""

@@ -21,7 +21,9 @@ namespace vell {
 
 namespace {
 
-constexpr int widestRemark = 460;  // DIP
+// DIP
+constexpr int widestRemark = 460;
+constexpr int narrowestFolder = 220;
 
 wxSizer* cellOf(wxWindow* control, const wxSizerFlags& flags) {
     auto* cell = new wxBoxSizer(wxHORIZONTAL);
@@ -70,6 +72,7 @@ wxRadioButton* SetupPage::addChoice(wxSizer& row, const char* protocol, const wx
 
 void SetupPage::addFolder(const wxString& label) {
     auto* text = new wxTextCtrl(this, wxID_ANY, "");
+    text->SetMinSize({FromDIP(narrowestFolder), -1});
     auto* cmdSelDirectory =
         new wxButton(this, wxID_ANY, _("&Browse..."), wxDefaultPosition, wxDefaultSize, wxBU_EXACTFIT);
     wxSizer* cell = cellOf(text, wxSizerFlags(1).CentreVertical().Border(wxRIGHT));
