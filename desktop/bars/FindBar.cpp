@@ -28,13 +28,15 @@ FindBar::FindBar(wxWindow* parent)
                                wxST_NO_AUTORESIZE | wxST_ELLIPSIZE_END)) {
     box_->SetDescriptiveText(_("Find"));
     box_->ShowCancelButton(true);
-    box_->SetMaxLength(FindQuery::longest);
     box_->SetMinSize(wxSize(FromDIP(smallestBox), -1));
     setAccessibleName(*box_, _("Find"));
     inTexts_->SetToolTip(_("Look in the texts of the clippings, too, not only at what the list says of them"));
     inAllDays_->SetToolTip(_("Look at every day that has been fetched"));
     layOut();
-    box_->Bind(wxEVT_TEXT, [this](wxCommandEvent& /*event*/) { events_.Typed(typedText(box_->GetValue())); });
+    box_->Bind(wxEVT_TEXT, [this](wxCommandEvent& /*event*/) {
+        cutToLength();
+        events_.Typed(typedText(box_->GetValue()));
+    });
     box_->Bind(wxEVT_SEARCH_CANCEL, [this](wxCommandEvent& /*event*/) { events_.Finished(); });
     inTexts_->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent& event) { events_.InTextsChosen(event.IsChecked()); });
     inAllDays_->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent& event) { events_.InAllDaysChosen(event.IsChecked()); });
@@ -48,6 +50,14 @@ void FindBar::layOut() {
         sizer->Add(choice, wxSizerFlags().CentreVertical().Border(wxLEFT, FromDIP(gap)));
     sizer->Add(status_, wxSizerFlags(2).CentreVertical().Border(wxLEFT, FromDIP(gap)));
     SetSizer(sizer);
+}
+
+// The box's own limit would refuse what is pasted instead of taking its beginning.
+void FindBar::cutToLength() {
+    const wxString typed = box_->GetValue();
+    if (typed.length() <= FindQuery::longest) return;
+    box_->ChangeValue(typed.Left(FindQuery::longest));
+    box_->SetInsertionPointEnd();
 }
 
 void FindBar::onKey(wxKeyEvent& event) {

@@ -39,6 +39,7 @@ class FindBar : public wxPanel, public FindView {
 
   private:
     void layOut();
+    void cutToLength();
     void onKey(wxKeyEvent& event);
 
     Events events_;
