@@ -135,8 +135,9 @@ void CWinInetConnection::ReportApiError(std::string_view member) {
 }
 
 bool CWinInetConnection::withReason(std::string_view member, bool succeeded) {
-    failureReason_ = succeeded ? std::string() : api_.LastReason();
-    if (!failureReason_.empty()) log_.WriteLog(std::string(member) + ": " + failureReason_);
+    const std::string reason = api_.LastReason();
+    failureReason_ = succeeded ? std::string() : reason;
+    if (!reason.empty()) log_.WriteLog(std::string(member) + ": " + reason);
     return succeeded;
 }
 

@@ -49,7 +49,8 @@ class CWinInetConnection {
   private:
     [[nodiscard]] std::string GetWinInetDesc(std::int32_t code) const;
     void ReportApiError(std::string_view member);
-    // Keeps and logs the reason that the system gave in words. Gives `succeeded` back.
+    // Keeps the reason of a failure that the system gave in words, and logs it; logs also what kept a question that
+    // was answered in spite of it from being asked of everybody. Gives `succeeded` back.
     bool withReason(std::string_view member, bool succeeded);
 
     ConnectionApi& api_;

@@ -39,7 +39,8 @@ class ConnectionApi {
     // The number of the last failure, below internet_error::First the operating system's; 0 when the system reported
     // none.
     [[nodiscard]] virtual std::int32_t LastError() const = 0;
-    // Why the last call failed, where the system tells it in words and not by a number; empty otherwise.
+    // Why the last call failed, where the system tells it in words and not by a number, or who could not be asked for
+    // it; empty otherwise.
     [[nodiscard]] virtual std::string LastReason() const = 0;
     // The system's text for one of its own errors, and the internet library's for an internet_error. Both as
     // delivered, the line end included.

@@ -9,7 +9,7 @@ mount -t tmpfs -o size=4g vell-bench /mnt
 mkdir /mnt/bin /mnt/home /mnt/servers
 cp build/release/bin/{vell-console,vell_bench_measured,vell_bench_delay,vell_bench_window} tests/desktop/inDisplay.sh \
   /mnt/bin
-cp -r bench/runs /mnt/runs
+cp -r build/release/libexec bench/runs /mnt
 mount --move /mnt /tmp
 mount -t tmpfs vell-bench /run # `ip netns` keeps names there
 cd /tmp

@@ -81,6 +81,24 @@ TEST_F(EndToEndTest, aLargeFileTakesNoMoreMemoryThanASmallOne) {
     EXPECT_LT(peakAfter(60), early + 16 * 1024);
 }
 
+// A message bus there may be; what talks on it was not installed with the program.
+TEST_F(EndToEndTest, goesOnWithoutTheDesktopsServicesAndSaysSoInTheLog) {
+    const std::string program = folder_.text() + "/bin/vell-console",
+                      module = folder_.text() + "/libexec/vell/vell-gio.so";
+    std::filesystem::create_directory(folder_.path() / "bin");
+    std::filesystem::copy(VELL_CONSOLE, program);
+    setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + folder_.text() + "/vell.ini").c_str(), 1);
+    folder_.put("vell.ini",
+                "[General]\r\nDebug=1\r\n" + folder_.get("vell.ini").substr(folder_.get("vell.ini").find("[Host]")));
+    std::vector<std::string> words{program, "--folder", folder_.text()};
+    words.insert(words.end(), download_.begin(), download_.end());
+    const Ended ended = ChildProcess(words).end();
+    unsetenv("DBUS_SYSTEM_BUS_ADDRESS");
+    EXPECT_EQ(ended.Code, 0) << ended.Errors;
+    EXPECT_THAT(ended.Out, testing::EndsWith("Finished: 3 of 3 clippings downloaded.\n"));
+    EXPECT_THAT(folder_.get("vell.log"), testing::HasSubstr("Refresh: Desktop services cannot be loaded: " + module));
+}
+
 TEST_F(EndToEndTest, endsWithACodeThatTellsHowItWent) {
     const std::string begin = "Getting list of files to download...\n";
     EXPECT_EQ(run({"download", "--date", "31/11/2004"})[0], '2');

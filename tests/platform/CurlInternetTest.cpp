@@ -7,17 +7,20 @@
 #include <gtest/gtest.h>
 
 #include "platform/asio/AsioEventLoop.h"
+#include "platform/posix/gio/GlibPointers.h"
+#include "platform/posix/gio/desktopProxy.h"
 #include "platform/posix/internet/CurlInternet.h"
-#include "platform/posix/network/systemProxy.h"
-#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/network/proxyModules.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/HttpPeer.h"
+#include "tests/support/TempFolder.h"
 
 namespace vell {
 namespace {
 
 using test::DrivenClock;
 using test::HttpPeer;
+using test::TempFolder;
 using Cancel = InternetApi::Cancel;
 
 class CurlInternetTest : public testing::Test {
@@ -305,6 +308,26 @@ TEST(SystemProxyTest, theEnvironmentsProxyIsToldAsTheLibraryTakesIt) {
         EXPECT_EQ(environmentProxy(address), proxy) << address;
     for (const auto& [name, value] : variables)
         unsetenv(name);
+}
+
+// GIO is loaded, and asked, for what it might know alone.
+TEST(SystemProxyTest, gioIsAskedWhereOneOfItsModulesMayNameAProxy) {
+    for (const auto& [list, isAsked] : std::initializer_list<std::pair<const char*, bool>>{
+             {"libone.so: gsettings-backend\n", false},
+             {"libtwo.so: gio-proxy-resolver\nlibone.so: gsettings-backend,gio-tls-backend\n", false},
+             {"libtwo.so: gsettings-backend\nlibone.so: gio-tls-backend,gio-proxy-resolver", true},
+             {"notlibone.so: gsettings-backend\n", true},
+             {"", true}}) {
+        const TempFolder folder;
+        folder.put("giomodule.cache", list);
+        EXPECT_FALSE(canGioNameProxies(folder.text())) << "no module at all";
+        folder.put("libone.so", "");
+        EXPECT_EQ(canGioNameProxies(folder.text()), isAsked) << list;
+        setenv("GIO_EXTRA_MODULES", "/elsewhere", 1);
+        EXPECT_TRUE(canGioNameProxies(folder.text())) << "modules elsewhere";
+        unsetenv("GIO_EXTRA_MODULES");
+    }
+    EXPECT_TRUE(canGioNameProxies("/nowhere"));
 }
 
 TEST_F(CurlInternetTest, manyFilesComeOverOneConnectionAndAClosedOneCostsANewOne) {

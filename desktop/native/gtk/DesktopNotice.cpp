@@ -8,7 +8,7 @@
 #include <gio/gio.h>
 #include <wx/translation.h>
 
-#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/gio/GlibPointers.h"
 
 namespace vell {
 

@@ -1,122 +1,59 @@
 // SPDX-License-Identifier: MIT
 #include "platform/posix/network/NetworkManagerClient.h"
 
-#include <algorithm>
+#include <cstdlib>
 #include <utility>
 
-#include "base/text.h"
-#include "platform/posix/network/LinkWatch.h"
-#include "platform/posix/network/NetworkManagerBus.h"
+#include <unistd.h>
+
+#include "platform/posix/network/NoNetworkManager.h"
+#include "platform/posix/program/desktopServices.h"
 
 namespace vell {
 
 namespace {
 
-constexpr const char* unreachable = "NetworkManager cannot be reached";
-
-// The link of a profile; empty when it has none.
-std::string linkOf(NetworkManagerBus& manager, const std::string& profilePath) {
-    const auto links = manager.links();
-    const auto link = std::ranges::find(links, profilePath, &NetworkLink::ProfilePath);
-    return link == links.end() ? "" : link->Path;
+// As every client of it finds it.
+std::string systemBus() {
+    const char* const named = std::getenv("DBUS_SYSTEM_BUS_ADDRESS");
+    return named == nullptr ? "unix:path=/var/run/dbus/system_bus_socket" : named;
 }
 
-// Waits for the answer to a request that may take long. Empty when it was granted, else the reason.
-std::string problemOf(LinkWatch& watch, const BusConnection::ReplyPtr& reply) {
-    if (!watch.until([&] { return reply->Arrived; })) return watch.whyNot();
-    return reply->Value ? "" : NetworkManagerBus::refusal(*reply);
-}
-
-// A failed dial must not leave a line behind that comes up later, unnoticed and perhaps paid by the minute.
-void dropLink(NetworkManagerBus& manager, const std::string& profilePath) {
-    const std::string path = linkOf(manager, profilePath);
-    if (path.empty()) return;
-    const auto reply = manager.deactivate(path);
-    manager.bus().wait(BusConnection::Wait::Quiet, manager.bus().quietEnd(), [&] { return reply->Arrived; });
+// Where no bus runs, its socket is missing.
+bool hasSocket(std::string_view address) {
+    constexpr std::string_view path = "unix:path=";
+    const bool isPlain = address.starts_with(path) && address.find_first_of(",;%") == std::string_view::npos;
+    return !isPlain || access(std::string(address.substr(path.size())).c_str(), F_OK) == 0;
 }
 
 }  // namespace
 
 NetworkManagerClient::NetworkManagerClient(EventLoop& loop, Clock& clock, std::string busAddress,
                                            std::chrono::milliseconds patience)
-    : loop_(loop), clock_(clock), busAddress_(std::move(busAddress)), patience_(patience) {}
+    : loop_(loop),
+      clock_(clock),
+      busAddress_(busAddress.empty() ? systemBus() : std::move(busAddress)),
+      patience_(patience),
+      nobody_(std::make_unique<NoNetworkManager>("")),
+      asked_(nobody_.get()) {}
 
-bool NetworkManagerClient::failed(std::string reason) {
-    lastReason_ = std::move(reason);
-    return false;
+NetworkManager& NetworkManagerClient::asked() {
+    const bool hasBus = hasSocket(busAddress_);
+    if (hasBus && !talk_) load();
+    asked_ = hasBus ? talk_.get() : nobody_.get();
+    return *asked_;
 }
 
-std::optional<NetworkState> NetworkManagerClient::state() {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return std::nullopt;
-    return manager.state(lastReason_);
+void NetworkManagerClient::load() {
+    const LoadedServices& desktop = desktopServices();
+    if (desktop.Services != nullptr)
+        talk_ = desktop.Services->networkManager(loop_, clock_, busAddress_, patience_);
+    else
+        talk_ = std::make_unique<NoNetworkManager>(desktop.Problem);
 }
 
-std::vector<NetworkProfile> NetworkManagerClient::profiles() {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return {};
-    return manager.profiles();
-}
-
-std::vector<NetworkLink> NetworkManagerClient::links() {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return {};
-    return manager.links();
-}
-
-bool NetworkManagerClient::activate(std::string_view profileName) {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return failed(unreachable);
-    const auto profiles = manager.profiles();
-    const auto profile = std::ranges::find_if(
-        profiles, [&](const NetworkProfile& one) { return one.IsDialUp && Trim(one.Name) == Trim(profileName); });
-    if (profile == profiles.end()) return failed("there is no dial-up profile '" + std::string(profileName) + "'");
-    LinkWatch watch(manager, clock_, patience_, cancels_);
-    if (bringUp(manager, watch, profile->Path)) return true;
-    dropLink(manager, profile->Path);
-    return false;
-}
-
-bool NetworkManagerClient::bringUp(NetworkManagerBus& manager, LinkWatch& watch, const std::string& profilePath) {
-    std::string link = linkOf(manager, profilePath);
-    if (link.empty()) {
-        const auto reply = manager.activate(profilePath);
-        if (auto problem = problemOf(watch, reply); !problem.empty()) return failed(std::move(problem));
-        link = NetworkManagerBus::pathIn(*reply);
-    }
-    std::uint32_t state = NetworkManagerBus::LinkUnknown;
-    const bool settled = watch.until([&] {
-        if (watch.isDue()) state = manager.linkState(link);
-        return state != NetworkManagerBus::LinkUnknown && state != NetworkManagerBus::LinkActivating;
-    });
-    if (!settled) return failed(watch.whyNot());
-    return state == NetworkManagerBus::LinkActivated || failed("the link did not come up: " + watch.downReason());
-}
-
-bool NetworkManagerClient::deactivate(std::uint32_t linkNumber) {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return failed(unreachable);
-    const std::string link = NetworkManagerBus::linkPathOf(linkNumber);
-    LinkWatch watch(manager, clock_, patience_, cancels_);
-    const auto isUp = manager.hasLink(link);
-    if (!isUp) return failed(unreachable);
-    if (!*isUp) return true;
-    if (auto problem = problemOf(watch, manager.deactivate(link)); !problem.empty()) return failed(std::move(problem));
-    return watch.until([&] { return watch.isDue() && manager.hasLink(link) == false; }) || failed(watch.whyNot());
-}
-
-bool NetworkManagerClient::setNetworking(bool on) {
-    lastReason_.clear();
-    NetworkManagerBus manager(loop_, clock_);
-    if (!manager.open(busAddress_, lastReason_)) return failed(unreachable);
-    LinkWatch watch(manager, clock_, patience_, cancels_);
-    auto problem = problemOf(watch, manager.enable(on));
-    return problem.empty() || failed(std::move(problem));
+void NetworkManagerClient::cancelWaits() {
+    if (talk_) talk_->cancelWaits();
 }
 
 }  // namespace vell

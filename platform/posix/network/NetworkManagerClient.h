@@ -2,26 +2,17 @@
 #pragma once
 
 #include <chrono>
-#include <cstdint>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
+#include <memory>
 
-#include "platform/posix/network/NetworkTypes.h"
+#include "platform/posix/network/NetworkManager.h"
 
 namespace vell {
 
 class Clock;
 class EventLoop;
-class LinkWatch;
-class NetworkManagerBus;
 
-// The conversation with NetworkManager over the system's message bus. Each call opens a connection to the bus and
-// closes it again, so that nothing lives on between two calls and a bus that was started anew is no special case.
-// Questions wait quietly, at most two seconds each; calls that change something let events happen while they wait, and
-// may be nested.
-class NetworkManagerClient {
+// Looks whether there is a message bus before each call, and only then has the libraries loaded that talk on it.
+class NetworkManagerClient : public NetworkManager {
   public:
     static constexpr std::chrono::milliseconds dialPatience{60000};
 
@@ -29,33 +20,26 @@ class NetworkManagerClient {
     NetworkManagerClient(EventLoop& loop, Clock& clock, std::string busAddress,
                          std::chrono::milliseconds patience = dialPatience);
 
-    // Nothing when NetworkManager does not run or does not answer.
-    [[nodiscard]] std::optional<NetworkState> state();
-    [[nodiscard]] std::vector<NetworkProfile> profiles();
-    [[nodiscard]] std::vector<NetworkLink> links();
-
-    // True when the dial-up profile's link is up. One that is coming up already is waited for, one that does not come
-    // up in time is taken down again.
-    [[nodiscard]] bool activate(std::string_view profileName);
-    // True when the link is gone, also before the call.
-    [[nodiscard]] bool deactivate(std::uint32_t linkNumber);
-    [[nodiscard]] bool setNetworking(bool on);
-    // Ends the waits that are under way.
-    void cancelWaits() { ++cancels_; }
-
-    // Why the last call failed; empty when it did not, or when only a question found no NetworkManager.
-    [[nodiscard]] const std::string& lastReason() const { return lastReason_; }
+    [[nodiscard]] std::optional<NetworkState> state() override { return asked().state(); }
+    [[nodiscard]] std::vector<NetworkProfile> profiles() override { return asked().profiles(); }
+    [[nodiscard]] std::vector<NetworkLink> links() override { return asked().links(); }
+    [[nodiscard]] bool activate(std::string_view profileName) override { return asked().activate(profileName); }
+    [[nodiscard]] bool deactivate(std::uint32_t linkNumber) override { return asked().deactivate(linkNumber); }
+    [[nodiscard]] bool setNetworking(bool on) override { return asked().setNetworking(on); }
+    void cancelWaits() override;
+    [[nodiscard]] const std::string& lastReason() const override { return asked_->lastReason(); }
 
   private:
-    [[nodiscard]] bool failed(std::string reason);
-    [[nodiscard]] bool bringUp(NetworkManagerBus& manager, LinkWatch& watch, const std::string& profilePath);
+    [[nodiscard]] NetworkManager& asked();
+    void load();
 
     EventLoop& loop_;
     Clock& clock_;
     std::string busAddress_;
     std::chrono::milliseconds patience_;
-    std::uint64_t cancels_ = 0;
-    std::string lastReason_;
+    std::unique_ptr<NetworkManager> nobody_;
+    std::unique_ptr<NetworkManager> talk_;  // once there was a bus
+    NetworkManager* asked_;                 // by the last call
 };
 
 }  // namespace vell

@@ -8,7 +8,7 @@
 
 #include "base/text.h"
 #include "platform/internetErrors.h"
-#include "platform/posix/network/NetworkManagerClient.h"
+#include "platform/posix/network/NetworkManager.h"
 
 namespace vell {
 
@@ -31,7 +31,7 @@ constexpr std::array<ErrorText, 5> internetErrors{{
 
 }  // namespace
 
-PosixConnection::PosixConnection(NetworkManagerClient& manager, ProxyInUse proxyInUse, Interfaces interfaces)
+PosixConnection::PosixConnection(NetworkManager& manager, ProxyInUse proxyInUse, Interfaces interfaces)
     : manager_(manager), proxyInUse_(std::move(proxyInUse)), interfaces_(std::move(interfaces)) {}
 
 bool PosixConnection::InternetGetConnectedState(std::uint32_t& flags) {

@@ -11,7 +11,7 @@
 
 namespace vell {
 
-class NetworkManagerClient;
+class NetworkManager;
 struct NetworkState;
 
 // NetworkManager's word where it runs; else the machine's interfaces, and then nothing can be dialled or hung up. A
@@ -24,7 +24,7 @@ class PosixConnection : public ConnectionApi {
     using ProxyInUse = std::function<std::string()>;
 
     // `proxyInUse` tells what HTTP requests go through, empty for none.
-    explicit PosixConnection(NetworkManagerClient& manager, ProxyInUse proxyInUse = configuredProxy,
+    explicit PosixConnection(NetworkManager& manager, ProxyInUse proxyInUse = configuredProxy,
                              Interfaces interfaces = networkInterfaces);
 
     bool InternetGetConnectedState(std::uint32_t& flags) override;
@@ -45,7 +45,7 @@ class PosixConnection : public ConnectionApi {
     bool judge(const NetworkState& state, std::uint32_t& flags);
     bool judgeInterfaces(std::uint32_t& flags, std::string_view proxy) const;
 
-    NetworkManagerClient& manager_;
+    NetworkManager& manager_;
     ProxyInUse proxyInUse_;
     Interfaces interfaces_;
     std::int32_t lastError_ = 0;

@@ -5,7 +5,7 @@
 #include <array>
 #include <cstring>
 
-#include "platform/posix/network/NetworkManagerClient.h"
+#include "platform/posix/network/NetworkManager.h"
 
 namespace vell {
 

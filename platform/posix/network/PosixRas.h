@@ -5,12 +5,12 @@
 
 namespace vell {
 
-class NetworkManagerClient;
+class NetworkManager;
 
 // NetworkManager's dial-up profiles as a phone book. Handles are the numbers of its links plus one.
 class PosixRas : public RasApi {
   public:
-    explicit PosixRas(NetworkManagerClient& manager) : manager_(manager) {}
+    explicit PosixRas(NetworkManager& manager) : manager_(manager) {}
 
     [[nodiscard]] bool isInstalled() const override;
     std::uint32_t RasEnumEntries(std::string_view phoneBook, std::span<std::byte> records, std::uint32_t& bytes,
@@ -20,7 +20,7 @@ class PosixRas : public RasApi {
     std::uint32_t RasGetErrorString(std::uint32_t code, std::span<char> text) override;
 
   private:
-    NetworkManagerClient& manager_;
+    NetworkManager& manager_;
 };
 
 }  // namespace vell

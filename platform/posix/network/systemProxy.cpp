@@ -3,25 +3,18 @@
 
 #include <algorithm>
 #include <array>
-#include <chrono>
 #include <cstdlib>
-#include <memory>
 
 #include <arpa/inet.h>
-#include <gio/gio.h>
 #include <netinet/in.h>
 
 #include "base/text.h"
-#include "platform/posix/program/GlibPointers.h"
-#include "platform/posix/program/GlibWait.h"
+#include "platform/posix/network/proxyModules.h"
+#include "platform/posix/program/desktopServices.h"
 
 namespace vell {
 
 namespace {
-
-constexpr std::chrono::seconds patience{3};
-
-using TextsPtr = std::unique_ptr<gchar*, GlibFree<g_strfreev>>;
 
 // What the environment says for one of these names; empty when it says nothing.
 template <std::size_t Count>
@@ -37,14 +30,6 @@ constexpr std::array httpNames{"http_proxy", "all_proxy", "ALL_PROXY"};
 constexpr std::array httpsNames{"https_proxy", "HTTPS_PROXY"};
 constexpr std::array allNames{"all_proxy", "ALL_PROXY"};
 constexpr std::array exceptionNames{"no_proxy", "NO_PROXY"};
-
-std::string asCurlNamesIt(std::string_view proxy) {
-    if (proxy.starts_with("direct://")) return {};
-    // The proxy looks names up itself, as GIO has it do.
-    for (const std::string_view socks : {"socks://", "socks5://"})
-        if (proxy.starts_with(socks)) return "socks5h://" + std::string(proxy.substr(socks.size()));
-    return std::string(proxy);
-}
 
 // Host and port, without what stands around them.
 std::string_view placeOf(std::string_view address) {
@@ -78,14 +63,9 @@ bool isException(std::string_view host) {
 
 std::optional<std::string> systemProxy(const std::string& address) {
     if (!environment(httpNames).empty() || !environment(httpsNames).empty()) return std::nullopt;
-    return proxyOf(g_proxy_resolver_get_default(), address);
-}
-
-std::string proxyOf(GProxyResolver* resolver, const std::string& address) {
-    GlibWait wait(patience);
-    g_proxy_resolver_lookup_async(resolver, address.c_str(), wait.cancellable(), GlibWait::done, &wait);
-    const TextsPtr proxies(g_proxy_resolver_lookup_finish(resolver, wait.result(), nullptr));
-    return proxies && *proxies ? asCurlNamesIt(*proxies.get()) : std::string();
+    if (!canGioNameProxies(VELL_GIO_MODULES)) return std::string();
+    DesktopServices* const desktop = desktopServices().Services;
+    return desktop == nullptr ? std::string() : desktop->proxyOf(address);
 }
 
 std::string configuredProxy() {

@@ -6,19 +6,14 @@
 #include <string>
 #include <string_view>
 
-using GProxyResolver = struct _GProxyResolver;  // NOLINT(bugprone-reserved-identifier): GIO's own name for it
-
 namespace vell {
 
 // Tells by which proxy an address is to be reached: nothing when the HTTP library is to follow the environment, which
 // goes before the desktop's setting; else a proxy as curl names them (http://..., socks5h://...), empty for none.
 using ProxyChoice = std::function<std::optional<std::string>(const std::string& address)>;
 
-// The environment's, else what the desktop has set. A setting that cannot be had within three seconds (a script that
-// is fetched, say) counts as none.
+// The environment's, else what the desktop has set.
 [[nodiscard]] std::optional<std::string> systemProxy(const std::string& address);
-// The desktop's setting, as `resolver` tells it.
-[[nodiscard]] std::string proxyOf(GProxyResolver* resolver, const std::string& address);
 
 // The proxy that requests to the service go through, for telling how the machine is on line; empty for none.
 [[nodiscard]] std::string configuredProxy();

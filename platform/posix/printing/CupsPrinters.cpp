@@ -8,7 +8,6 @@
 #include "platform/Shell.h"
 #include "platform/posix/printing/CupsOptions.h"
 #include "platform/posix/printing/cupsReasons.h"
-#include "platform/posix/program/GlibPointers.h"
 #include "platform/posix/program/desktopApplications.h"
 #include "platform/posix/program/runProgram.h"
 #include "platform/posix/program/startProgram.h"
@@ -17,14 +16,28 @@ namespace vell {
 
 namespace {
 
+// RFC 3986: as one part of an address's path.
+std::string escaped(std::string_view name) {
+    constexpr std::string_view plain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string text;
+    for (const char one : name) {
+        const auto byte = static_cast<unsigned char>(one);
+        if (plain.find(one) != std::string_view::npos)
+            text += one;
+        else
+            text.append({'%', digits[byte >> 4U], digits[byte & 0xFU]});
+    }
+    return text;
+}
+
 // Of a printer without its instance, which the web interface does not know. A name that the code page cannot hold has
 // question marks, which no printer's name has; then it is the page of all printers.
 std::string pageOf(const std::string& deviceName) {
     std::string page = "http://localhost:631/printers/";
     if (deviceName.find('?') != std::string::npos) return page;
     const std::string name = utf8FromCodePage(deviceName.substr(0, deviceName.find('/')));
-    const CharsPtr escaped(g_uri_escape_string(name.c_str(), nullptr, FALSE));
-    return page.append(escaped.get());
+    return page.append(escaped(name));
 }
 
 }  // namespace
@@ -63,8 +76,10 @@ std::optional<PrinterSettings> CupsPrinters::DefaultPrinter(std::string& reason)
 
 bool CupsPrinters::ShowProperties(const std::string& deviceName, std::string& reason) {
     const std::string page = pageOf(deviceName);
-    if (openAddress(page) == shell_code::Started) return true;
-    reason = "There is no browser to open the printer's page. Its address is " + page;
+    const Opening opening = openAddress(page);
+    if (opening.Code == shell_code::Started) return true;
+    reason = opening.Reason.empty() ? "There is no browser to open the printer's page." : opening.Reason;
+    reason += " Its address is " + page;
     return false;
 }
 

@@ -2,16 +2,15 @@
 #include "platform/posix/program/PosixProcess.h"
 
 #include <cerrno>
-#include <filesystem>
 #include <utility>
 
 #include <fcntl.h>
-#include <glib.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 
 #include "base/text.h"
 #include "platform/posix/files/paths.h"
+#include "platform/posix/program/desktopServices.h"
 
 namespace vell {
 
@@ -36,9 +35,8 @@ std::string identityOf(const FileHandle& file) {
 PosixProcess::PosixProcess(const ProgramPlace& place) : folder_(expressed(place.programFolder())) {}
 
 std::string PosixProcess::DocumentsFolder() const {
-    const char* const documents = g_get_user_special_dir(G_USER_DIRECTORY_DOCUMENTS);
-    const bool isThere = documents && std::filesystem::is_directory(documents);
-    return codePageFromUtf8(isThere ? documents : g_get_home_dir()).value_or("");
+    DesktopServices* const desktop = desktopServices().Services;
+    return codePageFromUtf8(desktop == nullptr ? homeFolder() : desktop->documentsFolder()).value_or("");
 }
 
 bool PosixProcess::IsPreviousInstance() {
@@ -46,7 +44,7 @@ bool PosixProcess::IsPreviousInstance() {
     const auto path = folder_ + "\\vell.lock";
     const FilePlace place{path, systemPath(path)};
     FileHandle lock(place, O_RDWR | O_CREAT, 0600);
-    window_ = std::make_unique<WindowName>(identityOf(lock));
+    identity_ = identityOf(lock);
     if (flock(lock.get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno == EWOULDBLOCK) return true;
         raiseFileError(place);
@@ -55,12 +53,18 @@ bool PosixProcess::IsPreviousInstance() {
     return false;
 }
 
+WindowName* PosixProcess::window() {
+    DesktopServices* const desktop = identity_.empty() || window_ ? nullptr : desktopServices().Services;
+    if (desktop != nullptr) window_ = desktop->windowName(identity_);
+    return window_.get();
+}
+
 void PosixProcess::RaisePrevious() {
-    if (window_) window_->ask();
+    if (const WindowName* name = window()) name->ask();
 }
 
 void PosixProcess::OnRaise(std::function<void()> raise) {
-    if (window_) window_->take(std::move(raise));
+    if (WindowName* name = window()) name->take(std::move(raise));
 }
 
 }  // namespace vell

@@ -26,9 +26,12 @@ class PosixProcess : public Process {
     void OnRaise(std::function<void()> raise) override;
 
   private:
+    [[nodiscard]] WindowName* window();
+
     std::string folder_;
     FileHandle lock_;
-    std::unique_ptr<WindowName> window_;  // once the lock file has been looked at
+    std::string identity_;  // of the lock file, once it has been looked at
+    std::unique_ptr<WindowName> window_;
 };
 
 }  // namespace vell

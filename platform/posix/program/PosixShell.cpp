@@ -44,14 +44,14 @@ int codeOf(int systemError) {
     }
 }
 
-int openPath(const std::string& path) {
+Opening openPath(const std::string& path) {
     struct stat status {};
     if (stat(path.c_str(), &status) != 0) {
-        if (errno == ENOENT && !exists(folderOf(path))) return shell_code::PathNotFound;
-        return codeOf(errno);
+        if (errno == ENOENT && !exists(folderOf(path))) return {shell_code::PathNotFound, {}};
+        return {codeOf(errno), {}};
     }
     const bool canBeOpened = S_ISREG(status.st_mode) || S_ISDIR(status.st_mode);
-    if (!canBeOpened || access(path.c_str(), R_OK) != 0) return shell_code::AccessDenied;
+    if (!canBeOpened || access(path.c_str(), R_OK) != 0) return {shell_code::AccessDenied, {}};
     return openWithApplication(path);
 }
 
@@ -77,9 +77,14 @@ int PosixShell::Open(std::string_view file, std::string_view parameters) {
 int PosixShell::open(std::string_view file, std::string_view parameters) {
     file = Trim(file);
     if (!isUsablePath(file)) return shell_code::FileNotFound;
-    if (const auto address = utf8FromCodePage(file); isAddress(address)) return openAddress(address);
+    if (const auto address = utf8FromCodePage(file); isAddress(address)) return told(openAddress(address));
     if (file.find_first_of("\\/") == std::string_view::npos) return openByName(file, parameters);
-    return openPath(names_.realPath(systemPath(file)));
+    return told(openPath(names_.realPath(systemPath(file))));
+}
+
+int PosixShell::told(Opening opening) {
+    lastReason_ = std::move(opening.Reason);
+    return opening.Code;
 }
 
 int PosixShell::openByName(std::string_view name, std::string_view parameters) {
@@ -92,7 +97,7 @@ int PosixShell::openByName(std::string_view name, std::string_view parameters) {
     for (const auto& folder : places_.OwnFolders) {
         const auto path = names_.realPath(joined(folder, systemName));
         if (isProgram(path)) return codeOf(startProgram(path, arguments(parameters)));
-        if (exists(path)) return openPath(path);
+        if (exists(path)) return told(openPath(path));
     }
     const auto program = findProgram(systemName);
     return program.empty() ? shell_code::FileNotFound : codeOf(startProgram(program, arguments(parameters)));

@@ -8,6 +8,7 @@
 
 #include "platform/Shell.h"
 #include "platform/posix/files/FolderNames.h"
+#include "platform/posix/program/desktopApplications.h"
 
 namespace vell {
 
@@ -36,6 +37,7 @@ class PosixShell : public Shell {
 
   private:
     [[nodiscard]] int open(std::string_view file, std::string_view parameters);
+    [[nodiscard]] int told(Opening opening);
     [[nodiscard]] int openByName(std::string_view name, std::string_view parameters);
     [[nodiscard]] std::vector<std::string> arguments(std::string_view parameters);
 

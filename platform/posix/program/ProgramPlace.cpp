@@ -24,16 +24,10 @@ namespace {
 // Where packages are installed; even root keeps no settings there.
 constexpr std::array<std::string_view, 2> systemPrefixes{"/usr/", "/opt/"};
 
-std::string home() {
-    if (const char* named = std::getenv("HOME"); named != nullptr && *named == '/') return named;
-    const passwd* user = getpwuid(getuid());
-    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "/";
-}
-
 // XDG Base Directory Specification: a path that is not absolute is to be ignored.
 std::string dataHome() {
     const char* named = std::getenv("XDG_DATA_HOME");
-    return named != nullptr && *named == '/' ? named : home() + "/.local/share";
+    return named != nullptr && *named == '/' ? named : homeFolder() + "/.local/share";
 }
 
 bool isPortable(const std::string& folder) {
@@ -53,6 +47,12 @@ void makeFolders(const std::string& folder) {
 }
 
 }  // namespace
+
+std::string homeFolder() {
+    if (const char* named = std::getenv("HOME"); named != nullptr && *named == '/') return named;
+    const passwd* user = getpwuid(getuid());
+    return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : "/";
+}
 
 ProgramPlace ProgramPlace::ofThisProcess(std::optional<std::string> wanted) {
     std::error_code unknown;

@@ -21,4 +21,7 @@ struct ProgramPlace {
     [[nodiscard]] std::string programFolder() const;
 };
 
+// The user's, in the system's form.
+[[nodiscard]] std::string homeFolder();
+
 }  // namespace vell

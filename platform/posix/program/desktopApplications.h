@@ -5,12 +5,18 @@
 
 namespace vell {
 
-// Both hand something to the application that the desktop has for it, and give a shell_code.
+// What the desktop made of something that it was to open.
+struct Opening {
+    int Code;            // a shell_code
+    std::string Reason;  // why the desktop could not even be asked; empty otherwise
+};
+
+// Both hand something to the application that the desktop has for it.
 
 // A document, which must exist, or a folder. What is there to be run is refused.
-[[nodiscard]] int openWithApplication(const std::string& systemPath);
+[[nodiscard]] Opening openWithApplication(const std::string& systemPath);
 // An address of a scheme that leads to a browser or a mail program.
-[[nodiscard]] int openAddress(const std::string& address);
+[[nodiscard]] Opening openAddress(const std::string& address);
 // True for those schemes. A drive letter is none.
 [[nodiscard]] bool isAddress(const std::string& text);
 

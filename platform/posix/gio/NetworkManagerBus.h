@@ -8,12 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/posix/network/BusConnection.h"
+#include "platform/posix/gio/BusConnection.h"
 #include "platform/posix/network/NetworkTypes.h"
 
 namespace vell {
 
-// What is said to NetworkManager on one connection to the bus, and how its answers read. For platform/posix alone.
+// What is said to NetworkManager on one connection to the bus, and how its answers read. For platform/posix/gio alone.
 class NetworkManagerBus {
   public:
     // The states of a link, by NetworkManager's numbers.

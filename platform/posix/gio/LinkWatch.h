@@ -5,12 +5,12 @@
 #include <functional>
 #include <string>
 
-#include "platform/posix/network/NetworkManagerBus.h"
+#include "platform/posix/gio/NetworkManagerBus.h"
 
 namespace vell {
 
 // Waits for what NetworkManager does with a link, letting events happen meanwhile. The wait ends early when
-// NetworkManager or the bus goes away, or when somebody cancels it. For platform/posix alone.
+// NetworkManager or the bus goes away, or when somebody cancels it. For platform/posix/gio alone.
 class LinkWatch {
   public:
     // The wait is over, also without its outcome, when `cancels` changes.

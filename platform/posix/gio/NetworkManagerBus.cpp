@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/network/NetworkManagerBus.h"
+#include "platform/posix/gio/NetworkManagerBus.h"
 
 #include <algorithm>
 #include <array>

@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/network/BusConnection.h"
+#include "platform/posix/gio/BusConnection.h"
 
 #include <limits>
-#include <string_view>
 #include <utility>
-
-#include <unistd.h>
 
 #include "base/text.h"
 #include "platform/EventLoop.h"
@@ -17,13 +14,6 @@ namespace {
 // How often a wait looks at the clock.
 constexpr std::chrono::milliseconds quietStep{10};
 constexpr int yieldingStep = 10;
-
-// Where no bus runs, its socket is missing: GLib would start two threads to find that out.
-bool hasSocket(std::string_view address) {
-    constexpr std::string_view path = "unix:path=";
-    const bool isPlain = address.starts_with(path) && address.find_first_of(",;%") == std::string_view::npos;
-    return !isPlain || access(std::string(address.substr(path.size())).c_str(), F_OK) == 0;
-}
 
 std::string codePageText(const GError& error) {
     return codePageFromUtf8Lossy(error.message);
@@ -75,9 +65,6 @@ BusConnection::~BusConnection() {
 }
 
 BusConnection::Opened BusConnection::open(const std::string& address) {
-    const CharsPtr systemBus{address.empty() ? g_dbus_address_get_for_bus_sync(G_BUS_TYPE_SYSTEM, nullptr, nullptr)
-                                             : nullptr};
-    if (address.empty() && (!systemBus || !hasSocket(systemBus.get()))) return Opened::NoBus;
     const auto opened = std::make_shared<ObjectPtr<GDBusConnection>>();
     const auto answer = std::make_shared<Reply>();
     {
@@ -85,9 +72,8 @@ BusConnection::Opened BusConnection::open(const std::string& address) {
         constexpr int flags =
             G_DBUS_CONNECTION_FLAGS_AUTHENTICATION_CLIENT | G_DBUS_CONNECTION_FLAGS_MESSAGE_BUS_CONNECTION;
         ++*unanswered_;
-        g_dbus_connection_new_for_address(systemBus ? systemBus.get() : address.c_str(),
-                                          static_cast<GDBusConnectionFlags>(flags), nullptr, cancellable_.get(),
-                                          onOpened, new Pending{answer, unanswered_, opened});
+        g_dbus_connection_new_for_address(address.c_str(), static_cast<GDBusConnectionFlags>(flags), nullptr,
+                                          cancellable_.get(), onOpened, new Pending{answer, unanswered_, opened});
     }
     if (!wait(Wait::Quiet, quietEnd(), [&] { return answer->Arrived; })) return Opened::Silent;
     connection_ = std::move(*opened);

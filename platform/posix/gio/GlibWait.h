@@ -3,7 +3,7 @@
 
 #include <chrono>
 
-#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/gio/GlibPointers.h"
 
 namespace vell {
 

@@ -9,15 +9,15 @@
 #include <vector>
 
 #include "platform/Clock.h"
-#include "platform/posix/program/GlibPointers.h"
+#include "platform/posix/gio/GlibPointers.h"
 
 namespace vell {
 
 class EventLoop;
 
 // One connection to a message bus, for one conversation. It works on a main context of its own, which is looked at
-// only inside `wait` and never blocks; how long a wait lasts is the program's clock's matter. For platform/posix alone:
-// it shows GLib's types.
+// only inside `wait` and never blocks; how long a wait lasts is the program's clock's matter. For platform/posix/gio
+// alone: it shows GLib's types.
 class BusConnection {
   public:
     struct Reply {
@@ -47,7 +47,6 @@ class BusConnection {
     BusConnection& operator=(const BusConnection&) = delete;
 
     enum class Opened { Yes, NoBus, Silent };
-    // An empty address means the system's bus.
     [[nodiscard]] Opened open(const std::string& address);
     // True also when the bus has gone away.
     [[nodiscard]] bool isClosed() const;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/program/GlibWait.h"
+#include "platform/posix/gio/GlibWait.h"
 
 namespace vell {
 

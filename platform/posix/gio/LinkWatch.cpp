@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/network/LinkWatch.h"
+#include "platform/posix/gio/LinkWatch.h"
 
 #include <array>
 #include <string_view>

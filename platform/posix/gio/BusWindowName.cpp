@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/program/WindowName.h"
+#include "platform/posix/gio/BusWindowName.h"
 
 #include <chrono>
 #include <utility>
 
-#include "platform/posix/program/GlibWait.h"
+#include "platform/posix/gio/GlibWait.h"
 
 namespace vell {
 
@@ -29,36 +29,36 @@ ObjectPtr<GDBusConnection> sessionBus() {
 
 }  // namespace
 
-WindowName::~WindowName() {
+BusWindowName::~BusWindowName() {
     if (owned_ != 0) g_bus_unown_name(owned_);
     if (registered_ != 0) g_dbus_connection_unregister_object(bus_.get(), registered_);
 }
 
-void WindowName::take(std::function<void()> raise) {
+void BusWindowName::take(std::function<void()> raise) {
     raise_ = std::move(raise);
     if (owned_ == 0)
         owned_ = g_bus_own_name(G_BUS_TYPE_SESSION, name_.c_str(), G_BUS_NAME_OWNER_FLAGS_NONE, onBus, nullptr, nullptr,
                                 this, nullptr);
 }
 
-void WindowName::onBus(GDBusConnection* bus, const gchar* /*name*/, gpointer self) {
+void BusWindowName::onBus(GDBusConnection* bus, const gchar* /*name*/, gpointer self) {
     static const GDBusInterfaceVTable calls{onCall, nullptr, nullptr, {}};
     g_dbus_connection_set_exit_on_close(bus, FALSE);
     const NodePtr node(g_dbus_node_info_new_for_xml(description, nullptr));
-    auto& mine = *static_cast<WindowName*>(self);
+    auto& mine = *static_cast<BusWindowName*>(self);
     mine.bus_.reset(G_DBUS_CONNECTION(g_object_ref(bus)));
     mine.registered_ =
         g_dbus_connection_register_object(bus, object, node->interfaces[0], &calls, self, nullptr, nullptr);
 }
 
-void WindowName::onCall(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
-                        const gchar* /*interface*/, const gchar* /*method*/, GVariant* /*arguments*/,
-                        GDBusMethodInvocation* call, gpointer self) {
+void BusWindowName::onCall(GDBusConnection* /*bus*/, const gchar* /*sender*/, const gchar* /*path*/,
+                           const gchar* /*interface*/, const gchar* /*method*/, GVariant* /*arguments*/,
+                           GDBusMethodInvocation* call, gpointer self) {
     g_dbus_method_invocation_return_value(call, nullptr);
-    static_cast<WindowName*>(self)->raise_();
+    static_cast<BusWindowName*>(self)->raise_();
 }
 
-bool WindowName::ask() const {
+bool BusWindowName::ask() const {
     const ObjectPtr<GDBusConnection> bus = sessionBus();
     if (!bus) return false;
     GlibWait wait(patience);
