@@ -107,6 +107,16 @@ int ClippingCommands::show(const CommandLine& line) {
     });
 }
 
+int ClippingCommands::mark(const CommandLine& line) {
+    if (!chooseDay(line.Day)) return exit_code::Failed;
+    std::vector<std::size_t> rows;
+    const int code = forEachFile(line, [&rows](std::size_t row) {
+        rows.push_back(row);
+        return true;
+    });
+    return program_.reading().Opening.markRows(rows, line.Opened) ? code : exit_code::Failed;
+}
+
 int ClippingCommands::print(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
     if (line.All) return printAll(line);

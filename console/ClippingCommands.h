@@ -20,7 +20,8 @@ class frmMain;
 struct ClippingRow;
 struct CommandLine;
 
-// The commands for the clippings of one day: lists, shows, opens, prints or deletes them. Each gives the exit code.
+// The commands for the clippings of one day: lists, shows, opens, marks, prints or deletes them. Each gives the exit
+// code.
 class ClippingCommands {
   public:
     ClippingCommands(frmMain& program, EventLoop& loop, const ConsoleView& view, const Terminal& terminal,
@@ -29,6 +30,7 @@ class ClippingCommands {
     [[nodiscard]] int list(const CommandLine& line);
     [[nodiscard]] int open(const CommandLine& line);
     [[nodiscard]] int show(const CommandLine& line);
+    [[nodiscard]] int mark(const CommandLine& line);
     [[nodiscard]] int print(const CommandLine& line);
     [[nodiscard]] int deleteDay(const CommandLine& line);
 

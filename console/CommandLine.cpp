@@ -99,6 +99,20 @@ void addShow(CLI::App& app, CommandLine& line) {
     command->callback([&line] { line.What = CommandLine::Command::Show; });
 }
 
+void addMark(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("mark", "Mark clippings of a day as opened, or as not opened");
+    addDay(*command, "--date", line.Day, "The day of the clippings; the newest one without it");
+    CLI::Option_group* marks = command->add_option_group("MARK");
+    marks->require_option(1);
+    marks->add_flag_callback(
+        "--opened", [&line] { line.Opened = true; }, "As opened");
+    marks->add_flag_callback(
+        "--unopened", [&line] { line.Opened = false; }, "As not opened");
+    command->add_option("FILE", line.Files, "Their file names, as 'list --tsv' shows them; .PDF can be left out")
+        ->required();
+    command->callback([&line] { line.What = CommandLine::Command::Mark; });
+}
+
 void addDelete(CLI::App& app, CommandLine& line) {
     CLI::App* command = app.add_subcommand("delete", "Delete all clippings of a day, after a question");
     addDay(*command, "DAY", line.Day, "The day to delete")->required();
@@ -149,6 +163,7 @@ void describe(CLI::App& app, CommandLine& line) {
     });
     addOpen(app, line);
     addShow(app, line);
+    addMark(app, line);
     addPrint(app, line);
     addDelete(app, line);
     addSetup(app, line);
@@ -158,8 +173,8 @@ void describe(CLI::App& app, CommandLine& line) {
     });
     app.footer(
         "Exit codes: 0 ended well, 1 a file or the list could not be fetched, or something was not opened, shown,\n"
-        "printed or deleted, 2 wrong usage, 3 no internet connection, 5 already running, 130 stopped with Ctrl-C "
-        "(watch: 0).");
+        "marked, printed or deleted, 2 wrong usage, 3 no internet connection, 5 already running, 130 stopped with\n"
+        "Ctrl-C (watch: 0).");
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ struct CommandLine {
         Print,
         Open,
         Show,
+        Mark,
         Delete
     };
 
@@ -37,6 +38,7 @@ struct CommandLine {
     bool Tsv = false;
     std::string Words;  // that the listed clippings have
     bool Unread = false;
+    bool Opened = false;  // what to mark clippings as
     // Of what to list, print or open: everything, whole categories or types, or clippings by their file names.
     bool All = false;
     std::vector<std::string> Categories;

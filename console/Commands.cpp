@@ -19,7 +19,7 @@ namespace {
 
 // Nobody prints or deletes while a download is under way, and none begins meanwhile: it marks what it prints in the
 // same file, of which each side would write back its own copy, and the day that is to go may be the one it fetches.
-// Opening marks in a file that no download writes, and so works beside one.
+// What marks as opened writes a file that no download writes, and so works beside one.
 frmMain::Start startOf(CommandLine::Command command) {
     switch (command) {
         case CommandLine::Command::Download:
@@ -68,6 +68,8 @@ int Commands::perform(const CommandLine& line) {
             return clippings_.open(line);
         case Command::Show:
             return clippings_.show(line);
+        case Command::Mark:
+            return clippings_.mark(line);
         case Command::Print:
             return clippings_.print(line);
         case Command::Delete:

@@ -53,12 +53,13 @@ void ClippingOpening::openAll(const std::vector<std::string>& paths) {
         if (open(path) == Outcome::Failed) return;
 }
 
-void ClippingOpening::markRows(std::span<const std::size_t> rows, bool opened) {
-    trapStep(p_.Log, "mnuMark_Click()", [&] {
+bool ClippingOpening::markRows(std::span<const std::size_t> rows, bool opened) {
+    return trap(p_.Log, "mnuMark_Click()", false, [&] {
         const std::vector<std::string> paths = p_.Browser.pathsOf(rows);
-        if (!p_.Store.markOpened(paths, opened))
-            message_(p_.Words.translate("The marks could not be written. The log says why."));
+        const bool isMarked = p_.Store.markOpened(paths, opened);
+        if (!isMarked) message_(p_.Words.translate("The marks could not be written. The log says why."));
         p_.Browser.refreshMarks(paths);
+        return isMarked;
     });
 }
 

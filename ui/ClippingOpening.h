@@ -36,8 +36,9 @@ class ClippingOpening {
     void grdLocalFiles_DblClick(std::size_t row);
     // All of them, opened before or not, after a question when they are many. Stops at one that cannot be opened.
     void openRows(std::span<const std::size_t> rows);
-    // Says of these rows that their clippings have been opened, or that they have not.
-    void markRows(std::span<const std::size_t> rows, bool opened);
+    // Says of these rows that their clippings have been opened, or that they have not. False, and told, when a mark
+    // was not written.
+    bool markRows(std::span<const std::size_t> rows, bool opened);
     // The first 20 of the list that have not been opened. Stops at one that cannot be.
     void openNext20();
     void openDayFolder();
