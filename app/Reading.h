@@ -10,6 +10,7 @@
 #include "ui/DayCommands.h"
 #include "ui/PrintCommands.h"
 #include "ui/StatusText.h"
+#include "ui/days/DayCounts.h"
 #include "ui/dialogs/frmAutoView.h"
 #include "ui/find/Finder.h"
 #include "ui/list/ClippingCopies.h"
@@ -40,6 +41,7 @@ struct Reading {
     DayState Shown;  // the day that the person has chosen
     modGlobal Store;
     Articles Article;
+    DayCounts Counts;
     ClippingsBrowser Browser;
     TextReader Text;
     Finder Find;

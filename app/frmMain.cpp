@@ -103,6 +103,7 @@ void frmMain::showFirstDay() {
     fetching_.Scheduled.start();
     fetching_.News.showLastRun();
     fetching_.News.showNextRun();
+    reading_.Counts.start();
 }
 
 void frmMain::Form_Unload() {

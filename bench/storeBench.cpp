@@ -21,6 +21,7 @@
 #include "store/IndexFile.h"
 #include "store/modGlobal.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/days/DayCounts.h"
 
 namespace vell {
 namespace {
@@ -44,7 +45,7 @@ struct NoBoxes : MessageBoxes {
 };
 
 struct NoView : BrowserView {
-    void showDays(const std::vector<Date>&, const std::optional<Date>&) override {}
+    void showDays(const std::vector<DayLine>&, const std::optional<Date>&) override {}
     void showClippings(const std::vector<ClippingRow>&) override {}
     void showMarks(std::size_t) override {}
     void showCounts(const CountTexts&) override {}
@@ -95,7 +96,8 @@ class Day {
     modGlobal Store{{Disk, Loop, Boxes, Inis, Log, settings_, State}};
     NoView View;
     Translations English;
-    ClippingsBrowser Browser{{Store, Disk, View, Time, Log, settings_, State, English}};
+    DayCounts Counts{{Store, Loop, Time, Log}};
+    ClippingsBrowser Browser{{Store, Disk, View, Time, Log, settings_, State, English, Counts}};
 };
 
 void readIndexOfManyRecords(benchmark::State& state) {

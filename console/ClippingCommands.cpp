@@ -184,7 +184,7 @@ void ClippingCommands::tellUnlisted(std::string_view kind, const std::string& ut
 int ClippingCommands::deleteDay(const CommandLine& line) {
     if (!chooseDay(line.Day)) return exit_code::Failed;
     const std::optional<Date> day = program_.reading().Browser.chosenDay();
-    program_.reading().Days.mnuDeleteDay_Click();
+    program_.reading().Days.mnuDeleteDay_Click({*day});
     const auto& days = program_.reading().Browser.days();
     const bool isGone = std::ranges::find(days, day) == days.end();
     if (!isGone) tellUnasked(line);

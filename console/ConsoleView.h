@@ -19,7 +19,7 @@ class ConsoleView : public MainView {
     // What opening the setup dialog means here.
     void onOpenSetup(std::function<void()> open) { openSetup_ = std::move(open); }
 
-    void showDays(const std::vector<Date>& /*days*/, const std::optional<Date>& /*chosen*/) override {}
+    void showDays(const std::vector<DayLine>& /*days*/, const std::optional<Date>& /*chosen*/) override {}
     void showClippings(const std::vector<ClippingRow>& /*rows*/) override {}
     void showMarks(std::size_t /*row*/) override {}
     void showCounts(const CountTexts& /*texts*/) override {}

@@ -13,6 +13,7 @@
 #include "desktop/bars/FindBar.h"
 #include "desktop/bars/MessageBar.h"
 #include "desktop/bars/StatusLine.h"
+#include "desktop/commandIds.h"
 #include "desktop/list/ClippingsList.h"
 #include "desktop/pictures.h"
 #include "desktop/reading/ReadingSplitter.h"
@@ -62,7 +63,7 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
                                },
                                [this] { list_->focusList(); }});
     auto* columns = new wxBoxSizer(wxHORIZONTAL);
-    columns->Add(sideBar(*all, files), wxSizerFlags().Expand().Border(wxALL));
+    columns->Add(sideBar(*all, clock, files), wxSizerFlags().Expand().Border(wxALL));
     find_ = new FindBar(all);
     filter_ = new FilterBar(all);
     reading_ = new ReadingSplitter(all);
@@ -78,7 +79,8 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
          [this] { return events_.BlankPressed && events_.BlankPressed(); },
          [this](bool isShown) { hintShown(isShown); }});
     reading_->setList(list_);
-    addMenuKeys(*list_);  // GTK's list has uses of its own for Ctrl+F and Ctrl+P
+    for (wxWindow* list : {static_cast<wxWindow*>(list_), static_cast<wxWindow*>(dates_)})
+        addMenuKeys(*list);  // GTK's lists have uses of their own for Ctrl+F and Ctrl+P
     find_->MoveAfterInTabOrder(dates_);
     filter_->MoveAfterInTabOrder(find_);
     reading_->MoveAfterInTabOrder(filter_);
@@ -93,8 +95,10 @@ void MainWindow::addParts(const Clock& clock, const Files& files) {
     all->SetSizer(sizer);
 }
 
-wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
-    dates_ = new DatePane(&parent, [this](const Date& day) { tell(events_.DayChosen, day); });
+wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Clock& clock, const Files& files) {
+    dates_ = new DatePane(&parent, clock,
+                          {[this](const Date& day) { tell(events_.DayChosen, day); },
+                           [this] { CallAfter([this] { tell(events_.CommandChosen, command::DeleteDay); }); }});
     download_ = new ForcedDownloadPane(&parent, {[this](bool onlyToday) { tell(events_.RangeChosen, onlyToday); },
                                                  [this](const Date& from) { tell(events_.FromDateChanged, from); },
                                                  [this](const Date& to) { tell(events_.ToDateChanged, to); },
@@ -106,7 +110,7 @@ wxBoxSizer* MainWindow::sideBar(wxWindow& parent, const Files& files) {
 
     auto* bar = new wxBoxSizer(wxVERTICAL);
     bar->SetMinSize(FromDIP(wxSize(sideBarWidth, -1)));
-    bar->Add(dates_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
+    bar->Add(dates_, wxSizerFlags(1).Expand().DoubleBorder(wxBOTTOM));
     bar->Add(download_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
     bar->Add(progress_, wxSizerFlags().Expand().DoubleBorder(wxBOTTOM));
     bar->Add(alert_, wxSizerFlags(1).Expand().Border(wxBOTTOM));
@@ -157,8 +161,16 @@ void MainWindow::showColumnMenu() {
     PopupMenu(&menu);
 }
 
-void MainWindow::showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) {
+void MainWindow::showDays(const std::vector<DayLine>& days, const std::optional<Date>& chosen) {
     dates_->show(days, chosen);
+}
+
+void MainWindow::showDayText(const DayLine& day) {
+    dates_->showText(day);
+}
+
+std::vector<Date> MainWindow::selectedDays() const {
+    return dates_->selected();
 }
 
 void MainWindow::showClippings(const std::vector<ClippingRow>& rows) {

@@ -46,13 +46,16 @@ class MainWindow : public wxFrame, public MainView {
     [[nodiscard]] MessageBar& messages() { return *message_; }
     // Stop is there to be pressed, which it also is after a download that could not begin.
     [[nodiscard]] bool offersStop() const;
+    // The days that commands for whole days mean, the newest first.
+    [[nodiscard]] std::vector<Date> selectedDays() const;
     // The days that the user is typing count from now on.
     bool takeTypedDays();
     // There may be an advertisement to see.
     void offerAdvertisement(bool wanted);
     [[nodiscard]] Presence& presence() { return presence_; }
 
-    void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override;
+    void showDays(const std::vector<DayLine>& days, const std::optional<Date>& chosen) override;
+    void showDayText(const DayLine& day) override;
     void showClippings(const std::vector<ClippingRow>& rows) override;
     void showMarks(std::size_t row) override;
     void showCounts(const CountTexts& texts) override;
@@ -81,7 +84,7 @@ class MainWindow : public wxFrame, public MainView {
 
   private:
     void addParts(const Clock& clock, const Files& files);
-    [[nodiscard]] wxBoxSizer* sideBar(wxWindow& parent, const Files& files);
+    [[nodiscard]] wxBoxSizer* sideBar(wxWindow& parent, const Clock& clock, const Files& files);
     void bindCommands();
     // In the place of the list: there is no text to read.
     void hintShown(bool isShown);

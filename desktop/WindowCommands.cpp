@@ -81,8 +81,9 @@ void WindowCommands::addClippingCommands() {
 void WindowCommands::addDayCommands() {
     const auto hasDay = [this] { return program_.reading().Browser.chosenDay().has_value(); };
     table_[command::OpenDayFolder] = {[this] { program_.reading().Opening.openDayFolder(); }, hasDay};
-    table_[command::DeleteDay] = {[this] { program_.reading().Days.mnuDeleteDay_Click(); },
-                                  [this] { return program_.reading().Days.canDelete(); }};
+    table_[command::DeleteDay] = {
+        [this] { program_.reading().Days.mnuDeleteDay_Click(window_.selectedDays()); },
+        [this] { return program_.reading().Days.canDelete() && !window_.selectedDays().empty(); }};
     table_[command::NewerDay] = {[this] { program_.reading().Days.chooseNewer(); }, hasDay};
     table_[command::OlderDay] = {[this] { program_.reading().Days.chooseOlder(); }, hasDay};
     table_[command::Filter] = {[this] { chooseFilter(); }, hasDay};

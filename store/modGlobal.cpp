@@ -82,6 +82,19 @@ void modGlobal::joinIndex(CFtpFiles& files, const std::string& dayFolder) const 
     }
 }
 
+DayCount modGlobal::CountDay(const Date& day) const {
+    return trap(p_.Log, "CountDay()", DayCount{}, [&] {
+        const std::string folder = folderOfDay(day);
+        const auto clippings = p_.Disk.Enumerate(folder, "*.PDF", Files::Kind::Files);
+        DayCount count{clippings.size(), 0};
+        withMarksOf(folder, [&] {
+            count.Unread = static_cast<std::size_t>(std::ranges::count_if(
+                clippings, [&](const Files::Entry& clipping) { return !IsFileOpened(folder + clipping.Name); }));
+        });
+        return count;
+    });
+}
+
 std::vector<Date> modGlobal::DateSort(std::vector<Date> days) {
     trapStep(p_.Log, "DateSort()", [&] { std::ranges::sort(days, std::greater{}); });
     return days;

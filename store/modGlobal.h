@@ -13,6 +13,7 @@
 #include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
 #include "log/EventLog.h"
+#include "store/DayCount.h"
 #include "store/DayState.h"
 #include "store/IndexFile.h"
 
@@ -48,6 +49,8 @@ class modGlobal {
     // The files of a day folder (backslash at its end), joined to the day's index. The last of the patterns is not
     // used: callers pass one more than they mean.
     [[nodiscard]] CFtpFiles GetLocalFiles(const std::string& dayFolder, std::span<const std::string> patterns);
+
+    [[nodiscard]] DayCount CountDay(const Date& day) const;
 
     // Puts days in order, the newest first.
     [[nodiscard]] std::vector<Date> DateSort(std::vector<Date> days);

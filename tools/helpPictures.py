@@ -25,7 +25,7 @@ class HelpPictures(WindowCase):
         subprocess.run([CONSOLE, "--folder", self.folder, "download"], env={**os.environ, **self.environment, **proxy},
                        check=True, stdout=subprocess.DEVNULL)
         window = self.start(**proxy)
-        wait(lambda: window.find("table").get_table_iface().get_n_rows() > 5)
+        wait(lambda: any(node.get_table_iface().get_n_rows() > 5 for node in window.nodes() if node.get_role_name() == "table"))
         window.press("Down")
         self.take(window, "window")
         for name, keys in DIALOGS.items():

@@ -9,6 +9,7 @@
 
 #include "base/Date.h"
 #include "ftp/listing/CFtpFiles.h"
+#include "ui/days/DayLine.h"
 
 namespace vell {
 
@@ -42,7 +43,9 @@ class BrowserView {
     virtual ~BrowserView() = default;
 
     // The days, newest first; `chosen` is one of them or none.
-    virtual void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) = 0;
+    virtual void showDays(const std::vector<DayLine>& days, const std::optional<Date>& chosen) = 0;
+    // One of them has another text now.
+    virtual void showDayText(const DayLine& /*day*/) {}
     // All rows anew, in the order in which they are shown. The rows live until the next call.
     virtual void showClippings(const std::vector<ClippingRow>& rows) = 0;
     // The marks of one row, counted from 0, have changed.

@@ -12,6 +12,9 @@
 #include "platform/Files.h"
 #include "store/modGlobal.h"
 #include "ui/BusyMoment.h"
+#include "ui/dayOf.h"
+#include "ui/days/DayCounts.h"
+#include "ui/days/dayText.h"
 #include "ui/find/FoundClippings.h"
 #include "ui/list/CountTexts.h"
 #include "ui/list/EmptyHint.h"
@@ -24,7 +27,25 @@ constexpr std::chrono::milliseconds refreshInterval{250};
 
 }  // namespace
 
-ClippingsBrowser::ClippingsBrowser(const Parts& parts) : p_(parts), pacer_(parts.Time, refreshInterval) {}
+ClippingsBrowser::ClippingsBrowser(const Parts& parts) : p_(parts), pacer_(parts.Time, refreshInterval) {
+    p_.Counts.onCounted([this](const Date& day) { p_.View.showDayText(lineOf(day)); });
+}
+
+ClippingsBrowser::~ClippingsBrowser() {
+    p_.Counts.onCounted(nullptr);
+}
+
+DayLine ClippingsBrowser::lineOf(const Date& day) const {
+    return {day, dayText(day, p_.Counts.of(day), p_.Words)};
+}
+
+void ClippingsBrowser::showDays() {
+    std::vector<DayLine> lines;
+    lines.reserve(days_.size());
+    for (const Date& day : days_)
+        lines.push_back(lineOf(day));
+    p_.View.showDays(lines, p_.Day.cmbDate);
+}
 
 void ClippingsBrowser::PopulateDateCombo() {
     trapStep(p_.Log, "PopulateDateCombo()", [&] {
@@ -35,7 +56,8 @@ void ClippingsBrowser::PopulateDateCombo() {
             if (const auto date = Date::fromFolderName(folder)) days.push_back(*date);
         days_ = p_.Store.DateSort(std::move(days));
         if (std::ranges::find(days_, p_.Day.cmbDate) == days_.end()) p_.Day.cmbDate.reset();
-        p_.View.showDays(days_, p_.Day.cmbDate);
+        p_.Counts.setDays(days_);
+        showDays();
     });
 }
 
@@ -59,6 +81,8 @@ void ClippingsBrowser::readDay() {
         for (const auto& file : dayFiles_)
             ShowOpenPrintedPicture(dayRows_.emplace_back(ClippingRow{file, dayRows_.size()}));
     });
+    const auto unread = static_cast<std::size_t>(std::ranges::count(dayRows_, false, &ClippingRow::Opened));
+    p_.Counts.set(*p_.Day.cmbDate, {dayRows_.size(), unread});
 }
 
 void ClippingsBrowser::listRows() {
@@ -74,7 +98,7 @@ void ClippingsBrowser::listRows() {
 
 std::vector<ClippingRow> ClippingsBrowser::wantedRows() {
     if (!found_) return dayRows_;
-    if (!found_->OfDay) return rowsOfAllDays();
+    if (showsAllDays()) return rowsOfAllDays();
     std::vector<ClippingRow> rows;
     if (found_->OfDay == p_.Day.cmbDate)
         std::ranges::copy_if(dayRows_, std::back_inserter(rows),
@@ -96,14 +120,20 @@ void ClippingsBrowser::refresh() {
     });
 }
 
-void ClippingsBrowser::refreshDuringRun() {
-    if (pacer_.isDue()) refresh();
+void ClippingsBrowser::refreshDuringRun(const Date& runDay) {
+    if (!pacer_.isDue()) return;
+    refresh();
+    if (runDay != p_.Day.cmbDate) dayChanged(runDay);
+}
+
+void ClippingsBrowser::dayChanged(const Date& day) {
+    p_.Counts.recount(day);
 }
 
 bool ClippingsBrowser::chooseDay(const Date& day) {
     if (std::ranges::find(days_, day) == days_.end()) return false;
     p_.Day.cmbDate = day;
-    p_.View.showDays(days_, p_.Day.cmbDate);
+    showDays();
     PopulateLocalFilesGrid();
     loadAlert();
     return true;
@@ -147,6 +177,7 @@ void ClippingsBrowser::ShowOpenPrintedPicture(ClippingRow& row) {
 void ClippingsBrowser::ShowOpenPrintedPicture(std::size_t row) {
     ShowOpenPrintedPicture(rows_.at(row));
     p_.View.showMarks(row);
+    if (const auto day = dayOf(*rows_.at(row).File)) dayChanged(*day);
     refreshClippingsCount();
 }
 
@@ -162,6 +193,8 @@ void ClippingsBrowser::refreshMarks(std::span<const std::string> paths) {
             ShowOpenPrintedPicture(rows_[row]);
             p_.View.showMarks(row);
         }
+        for (const std::string& path : paths)  // of whatever day: who opened them may have gone on to another one
+            if (const auto day = dayOfPath(path)) dayChanged(*day);
         refreshClippingsCount();
     });
 }
@@ -215,12 +248,24 @@ void ClippingsBrowser::setFound(std::shared_ptr<const FoundClippings> found) {
     });
 }
 
+bool ClippingsBrowser::showsAllDays() const {
+    return found_ && !found_->OfDay;
+}
+
+std::vector<CFtpFiles::Pointer> ClippingsBrowser::filtered() const {
+    if (showsAllDays()) return found_->Clippings;
+    return {dayFiles_.begin(), dayFiles_.end()};
+}
+
 void ClippingsBrowser::showHint() {
     if (!rows_.empty()) return;
     const auto all = static_cast<std::size_t>(dayFiles_.Count());
-    p_.View.showEmptyHint(found_ && found_->Clippings.empty()
-                              ? findHint(found_->IsComplete, p_.Words)
-                              : emptyHint(p_.Setup, !days_.empty(), p_.Day.cmbDate, all, p_.Words));
+    if (found_ && found_->Clippings.empty())
+        p_.View.showEmptyHint(findHint(found_->IsComplete, p_.Words));
+    else if (showsAllDays())
+        p_.View.showEmptyHint(foundAreHiddenHint(found_->Clippings.size(), p_.Words));
+    else
+        p_.View.showEmptyHint(emptyHint(p_.Setup, !days_.empty(), p_.Day.cmbDate, all, p_.Words));
 }
 
 void ClippingsBrowser::refreshClippingsCount() {

@@ -22,6 +22,7 @@
 
 namespace vell {
 
+class DayCounts;
 class Files;
 class Translations;
 class modGlobal;
@@ -41,16 +42,23 @@ class ClippingsBrowser {
         const Settings& Setup;
         DayState& Day;
         const Translations& Words;
+        DayCounts& Counts;
     };
     explicit ClippingsBrowser(const Parts& parts);
+    ~ClippingsBrowser();
+    ClippingsBrowser(const ClippingsBrowser&) = delete;
+    ClippingsBrowser& operator=(const ClippingsBrowser&) = delete;
 
     // Refills the date list from the day folders, newest first; the chosen day stays chosen when it is still there.
     void PopulateDateCombo();
     // Refills the list with the clippings of the chosen day.
     void PopulateLocalFilesGrid();
-    // Both, at most as often as a run can afford: a day with many clippings must not slow down the run.
-    void refreshDuringRun();
+    // Both, at most as often as a run can afford: a day with many clippings must not slow down the run. `runDay` is
+    // the day that the run fetches.
+    void refreshDuringRun(const Date& runDay);
     void refresh();
+    // Something has come to the day, or gone from it.
+    void dayChanged(const Date& day);
 
     // Chooses a day of the date list and loads its clippings and alert. False when it is not in the list.
     bool chooseDay(const Date& day);
@@ -95,9 +103,15 @@ class ClippingsBrowser {
     void onDayRead(std::function<void()> told) { dayRead_ = std::move(told); }
     // All clippings of the chosen day, whether they are listed or not.
     [[nodiscard]] const CFtpFiles& dayFiles() const { return dayFiles_; }
+    // The rows are of several days.
+    [[nodiscard]] bool showsAllDays() const;
+    // The clippings among which the filter chooses: those of the chosen day, or those that were found in all days.
+    [[nodiscard]] std::vector<CFtpFiles::Pointer> filtered() const;
 
   private:
     void ShowOpenPrintedPicture(ClippingRow& row);
+    [[nodiscard]] DayLine lineOf(const Date& day) const;
+    void showDays();
     void readDay();
     [[nodiscard]] std::vector<ClippingRow> wantedRows();
     [[nodiscard]] std::vector<ClippingRow> rowsOfAllDays();

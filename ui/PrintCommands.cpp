@@ -36,8 +36,11 @@ bool PrintCommands::asBatch(std::string_view procedure, const std::function<bool
 
 bool PrintCommands::mnuPrintAll_Click() {
     return asBatch("mnuPrintAll_Click()", [&] {
-        if (p_.Boxes.ShowWithDetail("Do you want to print all documents for selected date?", whatIsListed(),
-                                    "Print All", Buttons::YesNo, BoxIcon::Question) != Answer::Yes)
+        const std::string question = p_.Browser.showsAllDays()
+                                         ? p_.Words.translate("Do you want to print all documents found in all days?")
+                                         : "Do you want to print all documents for selected date?";
+        if (p_.Boxes.ShowWithDetail(question, whatIsListed(), "Print All", Buttons::YesNo, BoxIcon::Question) !=
+            Answer::Yes)
             return false;
         // The list may change in the pauses: what was asked for is what stands in it now.
         return print(std::vector(p_.Browser.rows()));
@@ -46,9 +49,13 @@ bool PrintCommands::mnuPrintAll_Click() {
 
 std::string PrintCommands::whatIsListed() const {
     const auto listed = p_.Browser.rows().size();
-    const auto hidden = static_cast<std::size_t>(p_.Browser.dayFiles().Count()) - listed;
+    const auto all = p_.Browser.filtered().size();
+    const auto hidden = all - std::min(all, listed);
     std::string text = numberedText(p_.Words, "%d document will be printed.", "%d documents will be printed.", listed);
-    if (hidden > 0)
+    if (hidden > 0 && p_.Browser.showsAllDays())
+        text += " " + numberedText(p_.Words, "%d other does not pass the filter and is left out.",
+                                   "%d others do not pass the filter and are left out.", hidden);
+    else if (hidden > 0)
         text += " " + numberedText(p_.Words, "%d other of the day is not listed and is left out.",
                                    "%d others of the day are not listed and are left out.", hidden);
     return text;

@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
 #include "ui/dayOf.h"
 
-#include <string_view>
-
 #include "ftp/listing/CFtpFile.h"
 
 namespace vell {
 
 std::optional<Date> dayOf(const CFtpFile& clipping) {
-    std::string_view folder = clipping.FilePath;
-    if (folder.ends_with('\\')) folder.remove_suffix(1);
+    return dayOfPath(clipping.FilePath);
+}
+
+std::optional<Date> dayOfPath(std::string_view path) {
+    const std::string_view folder = path.substr(0, path.rfind('\\'));
     return Date::fromFolderName(folder.substr(folder.rfind('\\') + 1));
 }
 

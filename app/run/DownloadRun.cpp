@@ -44,6 +44,7 @@ void DownloadRun::StartDownload() {
         p_.Progress.StatusBar("ERROR while downloading files.");
         closeBooks();
     }
+    p_.Browser.dayChanged(state.Run.Day.gCurrentDate);
     p_.Browser.loadAlert();
 }
 

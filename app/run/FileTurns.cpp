@@ -47,7 +47,7 @@ bool FileTurns::take(std::int32_t index) {
     }
     p_.Books.enter(turn.Entry, ok);
     p_.Log.WriteLog(statusLine(ok));
-    p_.Browser.refreshDuringRun();
+    p_.Browser.refreshDuringRun(state.Run.Day.gCurrentDate);
     p_.Loop.WaitForEvents(0);  // who has stopped the run is heard before the next file
     if (ok) p_.Books.printWhenNew(name, turn.Start);
     return ok;

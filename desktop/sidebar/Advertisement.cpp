@@ -22,7 +22,7 @@ namespace {
 // Heights in DIP.
 constexpr int highest = 140;
 constexpr int lowest = 60;   // below that the picture gives way
-constexpr int others = 410;  // what stands above it needs at least
+constexpr int others = 475;  // what stands above it needs at least
 }  // namespace
 
 Advertisement::Advertisement(wxWindow* parent, const Files& files) : wxPanel(parent), files_(files) {

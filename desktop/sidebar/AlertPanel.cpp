@@ -37,7 +37,7 @@ AlertPanel::AlertPanel(wxWindow* parent, Events events) : wxPanel(parent), event
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(heading, wxSizerFlags().Expand().Border(wxBOTTOM, FromDIP(3)));
     sizer->Add(paper, wxSizerFlags(1).Expand());
-    SetMinSize(FromDIP(wxSize(-1, 110)));
+    SetMinSize(FromDIP(wxSize(-1, 64)));
     SetSizer(sizer);
     listen();
     Hide();

@@ -29,7 +29,11 @@ TEST_F(StartUpTest, showsTodayOrElseTheNewestDay) {
     ASSERT_TRUE(load());
     EXPECT_EQ(view.Days, "*06/03/2004 05/03/2004 ");
     EXPECT_EQ(view.Rows, "A.PDF,,;");
-    EXPECT_EQ(loop.untilNextTimer(), std::chrono::milliseconds{10000}) << "the schedule ticks";
+    EXPECT_EQ(view.DayTexts[(Date{2004, 3, 5})], "Fri 05/03/2004") << "the start reads the day that is shown only";
+    clock.advance(std::chrono::milliseconds{500});
+    loop.DoEvents();
+    EXPECT_EQ(view.DayTexts[(Date{2004, 3, 5})], "Fri 05/03/2004 (1, 1 unread)");
+    EXPECT_EQ(loop.untilNextTimer(), std::chrono::milliseconds{9500}) << "the schedule ticks, and nothing else";
     EXPECT_EQ(view.Range, "07/03/2004-07/03/2004");
     EXPECT_EQ(view.Advertisement, folder.text() + "\\ADVERTISMENT.JPG");
     std::filesystem::create_directories(folder.path() / "clips/07032004");

@@ -78,7 +78,7 @@ TEST_F(EndToEndTest, aLargeFileTakesNoMoreMemoryThanASmallOne) {
     };
     const long early = peakAfter(8);
     EXPECT_GT(early, 0);
-    EXPECT_LT(peakAfter(60), early + 16 * 1024);
+    EXPECT_LT(peakAfter(60), early + 16L * 1024);
 }
 
 // A message bus there may be; what talks on it was not installed with the program.
@@ -121,7 +121,7 @@ TEST_F(EndToEndTest, endsWithACodeThatTellsHowItWent) {
     EXPECT_TRUE(run({"setup", "Pwd", "-"}, "secret\n").starts_with("0 Pwd = (set)\n!"));
 }
 
-TEST_F(EndToEndTest, printsOpensShowsAndDeletesWhatIsNamedAndAsksBeforeMore) {
+TEST_F(EndToEndTest, printsOpensShowsMarksAndDeletesWhatIsNamedAndAsksBeforeMore) {
     const std::string path = std::getenv("PATH");
     for (const auto& [name, value] : std::map<std::string, std::string>{{"PATH", folder_.text() + ":" + path},
                                                                         {"XDG_DATA_HOME", folder_.text()},
@@ -140,7 +140,7 @@ TEST_F(EndToEndTest, printsOpensShowsAndDeletesWhatIsNamedAndAsksBeforeMore) {
                                                  "Nobody is at a terminal to answer. Say --yes to answer with yes "
                                                  "beforehand.\n";
     const std::string all = "!Print All: Do you want to print all documents for selected date?\n-> ";
-    const std::string whole = "!Delete Day: Do you want to delete all clippings of 07/03/2004?\n-> ";
+    const std::string whole = "!Delete Day: Delete 07/03/2004 with 3 clippings?\n-> ";
     // Arguments between commas; the exit code with all that was written, or alone; the marks of the clippings then.
     for (const auto& [arguments, answer, marks] : std::vector<std::array<std::string, 3>>{
              {"print,b,X,A.pdf,--date,07/03/2004",
@@ -161,6 +161,14 @@ TEST_F(EndToEndTest, printsOpensShowsAndDeletesWhatIsNamedAndAsksBeforeMore) {
              {"print", "2", "PPB"},
              {"print,--all,A", "2", "PPB"},
              {"open", "2", "PPB"},
+             {"mark,--unopened,X,c",
+              "1 !" + none +
+                  "clipping 'X' on 07/03/2004. 'vell-console list --tsv --date 07/03/2004' shows what there is.\n",
+              "PPP"},
+             {"mark,--opened,C.PDF,--date,07/03/2004", "0 !", "PPB"},
+             {"mark,C", "2", "PPB"},
+             {"mark,--opened,--unopened,C", "2", "PPB"},
+             {"mark,--opened", "2", "PPB"},
              {"delete,31/02/2004", "2", "PPB"},
              {"delete,08/03/2004", "1", "PPB"},
              {"delete,07/03/2004", "1 " + whole + "No\n" + unasked, "PPB"},

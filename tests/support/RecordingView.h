@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,11 +15,15 @@ namespace vell::test {
 // A main window that remembers what it was told to show.
 class RecordingView : public MainView {
   public:
-    void showDays(const std::vector<Date>& days, const std::optional<Date>& chosen) override {
+    void showDays(const std::vector<DayLine>& days, const std::optional<Date>& chosen) override {
         Days.clear();
-        for (const Date& day : days)
-            Days += (day == chosen ? "*" : "") + day.dayName() + " ";
+        DayTexts.clear();
+        for (const DayLine& line : days) {
+            Days += (line.Day == chosen ? "*" : "") + line.Day.dayName() + " ";
+            showDayText(line);
+        }
     }
+    void showDayText(const DayLine& line) override { DayTexts[line.Day] = line.Text; }
     void showClippings(const std::vector<ClippingRow>& rows) override {
         Rows.clear();
         for (const ClippingRow& row : rows)
@@ -58,6 +63,7 @@ class RecordingView : public MainView {
     [[nodiscard]] std::optional<WindowPlace> windowPlace() const override { return Place; }
 
     std::string Days, Rows, Count, Alert, Advertisement, Progress, Range, Message;
+    std::map<Date, std::string> DayTexts;
     std::string Status, Statuses;  // the last one, and all, each on a line
     std::string Filter, Hint, LastRun, NextRun, Notice;
     bool IsLookedAt = true;

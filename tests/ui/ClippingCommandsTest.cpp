@@ -11,6 +11,7 @@
 #include "ui/ClippingsBrowser.h"
 #include "ui/DayCommands.h"
 #include "ui/PrintCommands.h"
+#include "ui/days/DayCounts.h"
 #include "ui/dialogs/frmAutoView.h"
 #include "ui/dialogs/frmFilter.h"
 #include "ui/list/ClippingSaving.h"
@@ -68,14 +69,15 @@ class ClippingCommandsTest : public testing::Test, protected StoreRig {
     StatusText status = [this](std::string_view text) { statuses.emplace_back(text); };
     StatusText message = [this](std::string_view text) { view.displayInfoMessageBox(text); };
     Articles articles{shell, boxes, loop, log};
-    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english}};
+    DayCounts counts{{store, loop, clock, log}};
+    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english, counts}};
     ClippingOpening opening{{browser, store, articles, boxes, log, english}, status, message};
     ClippingSaving saving{{files, loop, boxes, log, english}, status, message};
     RecordingPrinters printers;
     PrintCommands printing{{browser, store, articles, loop, boxes, printers, log, setup, english}, status, message};
     frmAutoView autoView{browser, opening, loop, setup};
     bool busy = false;
-    DayCommands days{browser, store, boxes, log, [this] { return busy; }};
+    DayCommands days{{browser, store, counts, boxes, log, english}, [this] { return busy; }};
 };
 
 TEST_F(ClippingCommandsTest, aDoubleClickOpensOnceAndEnterAlways) {
@@ -105,7 +107,8 @@ TEST_F(ClippingCommandsTest, opensTheNextTwentyThatWereNotOpenedAndStopsAtAFailu
     EXPECT_EQ(asked().back(), "E39.PDF");
     opening.openNext20();
     EXPECT_THAT(asked(), IsEmpty());
-    days.mnuDeleteDay_Click();
+    boxes.Answers = {Answer::No};
+    days.mnuDeleteDay_Click({march7});
     put("F.PDF", "x");
     put("G.PDF", "x");
     browser.PopulateLocalFilesGrid();
@@ -414,7 +417,7 @@ TEST_F(ClippingCommandsTest, autoViewIsLedByHandGoesOnWhereItStoppedAndFollowsTh
     EXPECT_EQ(autoView.delay(), 1);
 }
 
-TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
+TEST_F(ClippingCommandsTest, walksThroughTheDays) {
     for (const char* name : {"08032004", "06032004"})
         std::filesystem::create_directories(folder.path() / "clips" / name);
     browser.PopulateDateCombo();
@@ -423,22 +426,42 @@ TEST_F(ClippingCommandsTest, walksThroughTheDaysAndDeletesOneAfterAQuestion) {
     days.chooseNewer();
     EXPECT_EQ(browser.chosenDay(), march8);
     days.chooseOlder();
-    days.mnuDeleteDay_Click();
-    EXPECT_TRUE(has("A.PDF"));
-    boxes.Answers = {Answer::Yes, Answer::Yes};
-    boxes.OnQuestion = [&] { busy = true; };
-    days.mnuDeleteDay_Click();
-    EXPECT_TRUE(has("A.PDF")) << "a download began while the question was open";
-    boxes.OnQuestion = nullptr;
-    busy = false;
-    days.mnuDeleteDay_Click();
-    EXPECT_FALSE(folder.has("clips/07032004"));
-    EXPECT_EQ(browser.chosenDay(), march8);
+    EXPECT_EQ(browser.chosenDay(), march7);
     days.chooseFirst(Date{2004, 3, 6});
-    EXPECT_EQ(view.Days, "08/03/2004 *06/03/2004 ");
+    EXPECT_EQ(view.Days, "08/03/2004 07/03/2004 *06/03/2004 ");
     std::filesystem::remove_all(folder.path() / "clips");
     days.reload();
     EXPECT_THAT((Texts{view.Days, view.Rows}), Each(""));
+}
+
+TEST_F(ClippingCommandsTest, deletesDaysAfterAQuestionThatSaysWhatGoes) {
+    const Date march9{2004, 3, 9};
+    for (const char* name : {"09032004/A.PDF", "08032004/A.PDF", "08032004/B.PDF", "08032004/B.TXT"})
+        folder.put(std::string("clips/") + name, "x");
+    browser.PopulateDateCombo();
+    const auto ask = [&](const std::vector<Date>& which, Answer answer, std::function<void()> meanwhile) {
+        boxes.Shown.clear();
+        boxes.Answers = {answer};
+        boxes.OnQuestion = std::move(meanwhile);
+        days.mnuDeleteDay_Click(which);
+        busy = false;
+        return boxes.shown() + view.Days;
+    };
+    const std::string all = "09/03/2004 08/03/2004 *07/03/2004 ", one = "Delete Day: Delete 07/03/2004 with ",
+                      kept = "A download has been at work meanwhile. Not deleted: ";
+    EXPECT_EQ(ask({}, Answer::Yes, nullptr), all);
+    EXPECT_EQ(ask({march7}, Answer::No, nullptr), one + "4 clippings?|" + all);
+    EXPECT_EQ(boxes.LastButtons, Buttons::NoYes);
+    EXPECT_EQ(ask({march7}, Answer::Yes, [&] { busy = true; }), one + "4 clippings?|" + kept + "07/03/2004|" + all);
+    EXPECT_EQ(ask({march8, march7}, Answer::Yes, [&] { put("E.PDF", "x"); }),
+              "Delete Day: Delete 2 days with 6 clippings?|" + kept + "07/03/2004|09/03/2004 *07/03/2004 ");
+    std::filesystem::create_directory(folder.path() / "clips/09032004/in use");
+    EXPECT_THAT(ask({march9, march7}, Answer::Yes, nullptr),
+                testing::AllOf(StartsWith("Delete Day: Delete 2 days with 6 clippings?|Sharing Violation: "),
+                               testing::EndsWith("|09/03/2004 *07/03/2004 ")))
+        << "who does not try again wants no other day to go either";
+    EXPECT_EQ(ask({march7}, Answer::Yes, nullptr), one + "5 clippings?|*09/03/2004 ");
+    EXPECT_FALSE(folder.has("clips/07032004"));
 }
 
 }  // namespace

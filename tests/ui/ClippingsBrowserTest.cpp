@@ -4,6 +4,7 @@
 #include "tests/support/RecordingView.h"
 #include "tests/support/StoreRig.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/days/DayCounts.h"
 
 namespace vell::test {
 
@@ -12,7 +13,8 @@ using testing::ElementsAre;
 class ClippingsBrowserTest : public testing::Test, protected StoreRig {
   protected:
     RecordingView view;
-    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english}};
+    DayCounts counts{{store, loop, clock, log}};
+    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english, counts}};
 };
 
 TEST_F(ClippingsBrowserTest, listsRealDaysNewestFirstAndKeepsTheChosenOne) {
@@ -70,9 +72,9 @@ TEST_F(ClippingsBrowserTest, showsThePdfFilesOfTheDayWithTitlesMarksAndAlert) {
     EXPECT_EQ(browser.rows().at(0).path(), day.gDayFolder + "A.PDF");
     EXPECT_THAT((std::vector{view.Count, view.Alert}), ElementsAre("4 Clippings, 2 unread", "strike\r\n"));
     put("E.PDF", "x");
-    browser.refreshDuringRun();  // the first is done at once, the next one only when the run can afford it
+    browser.refreshDuringRun(march7);  // the first is done at once, the next one only when the run can afford it
     put("F.PDF", "x");
-    browser.refreshDuringRun();
+    browser.refreshDuringRun(march7);
     EXPECT_EQ(view.Count, "5 Clippings, 3 unread");
     EXPECT_TRUE(browser.chooseDay(march8));
     EXPECT_THAT((std::vector{view.Rows, view.Count, view.Alert}), ElementsAre("", "0 Clippings", ""));

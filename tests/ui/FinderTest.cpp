@@ -4,6 +4,8 @@
 #include "tests/support/RecordingView.h"
 #include "tests/support/StoreRig.h"
 #include "ui/ClippingsBrowser.h"
+#include "ui/days/DayCounts.h"
+#include "ui/dialogs/frmFilter.h"
 #include "ui/find/FindView.h"
 #include "ui/find/Finder.h"
 
@@ -46,7 +48,8 @@ class FinderTest : public testing::Test, protected StoreRig, protected FindView 
     }
 
     RecordingView view;
-    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english}};
+    DayCounts counts{{store, loop, clock, log}};
+    ClippingsBrowser browser{{store, files, view, clock, log, setup, day, english, counts}};
     Finder finder{{browser, store, files, loop, clock, english, log}};
     std::string status = "-", choice, refused = "-";
 };
@@ -98,6 +101,17 @@ TEST_F(FinderTest, goesThroughAllDaysUntilAnotherOneIsChosen) {
     store.MarkFileOpened(browser.rows().front().path());
     browser.refresh();
     EXPECT_EQ(found() + (browser.rows().front().Opened ? "!" : "") + choice, "DAB!");
+    const auto newspapers = [this] {
+        const frmFilter dialog(browser);
+        std::string names;
+        for (std::size_t entry = 0; entry < dialog.lstNewspapers.size(); ++entry)
+            names += dialog.lstNewspapers.text(entry, english) + ";";
+        return names + std::to_string(dialog.passing());
+    };
+    EXPECT_EQ(newspapers(), "Any (3);THE WAVE (1);WAVE (1);None (1);3") << "of what was found";
+    browser.setFilter({{}, {}, {"LAMP"}});
+    EXPECT_EQ(found() + view.Hint, "Nothing passes the filter|3 clippings that were found are hidden.");
+    browser.setFilter({});
     browser.chooseDay(march8);
     EXPECT_EQ(found() + status + choice, "Dwave.");
     finder.setInAllDays(true);

@@ -9,11 +9,11 @@ namespace vell {
 
 namespace {
 
-// The names that each of the day's clippings has in a field.
+// The names that each of the clippings has in a field.
 std::vector<FilterChoice::Names> namesOf(const ClippingsBrowser& browser,
                                          FilterChoice::Names (*namesIn)(const CFtpFile&)) {
     std::vector<FilterChoice::Names> names;
-    for (const auto& file : browser.dayFiles())
+    for (const auto& file : browser.filtered())
         names.push_back(namesIn(*file));
     return names;
 }
@@ -32,11 +32,11 @@ ClippingFilter frmFilter::chosen() const {
 
 std::size_t frmFilter::passing() const {
     return static_cast<std::size_t>(std::ranges::count_if(
-        browser_.dayFiles(), [filter = chosen()](const auto& file) { return filter.passes(*file); }));
+        browser_.filtered(), [filter = chosen()](const auto& file) { return filter.passes(*file); }));
 }
 
 std::size_t frmFilter::all() const {
-    return static_cast<std::size_t>(browser_.dayFiles().Count());
+    return browser_.filtered().size();
 }
 
 void frmFilter::cmdOk_Click() {

@@ -10,8 +10,8 @@ namespace vell {
 
 class ClippingsBrowser;
 
-// What the filter dialog offers: the newspapers, categories and types of the chosen day, and those that are chosen
-// already. Nothing is filtered before OK.
+// What the filter dialog offers: the newspapers, categories and types of the chosen day, or of what was found in all
+// days, and those that are chosen already. Nothing is filtered before OK.
 class frmFilter {
   public:
     explicit frmFilter(ClippingsBrowser& browser);

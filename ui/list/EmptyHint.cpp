@@ -62,6 +62,13 @@ EmptyHint emptyHint(const Settings& settings, bool hasDays, const std::optional<
             {}};
 }
 
+EmptyHint foundAreHiddenHint(std::size_t found, const Translations& words) {
+    return {
+        words.translate("Nothing passes the filter"),
+        numberedText(words, "%d clipping that was found is hidden.", "%d clippings that were found are hidden.", found),
+        EmptyHint::Remedy::ShowAll};
+}
+
 EmptyHint findHint(bool isOver, const Translations& words) {
     if (!isOver) return {words.translate("Searching ..."), words.translate("Nothing found so far."), {}};
     return {words.translate("Nothing found"), words.translate("No clipping has all these words."),

@@ -31,5 +31,7 @@ struct EmptyHint {
 
 // The same when words are looked for and no clipping has them, or none so far.
 [[nodiscard]] EmptyHint findHint(bool isOver, const Translations& words);
+// When a filter hides all that was found in all days.
+[[nodiscard]] EmptyHint foundAreHiddenHint(std::size_t found, const Translations& words);
 
 }  // namespace vell
