@@ -12,8 +12,7 @@
 #include <benchmark/benchmark.h>
 
 #include "log/EventLog.h"
-#include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/program/SystemClock.h"
+#include "platform/SystemTypes.h"
 #include "ui/find/FindPass.h"
 #include "ui/find/Finder.h"
 
@@ -75,7 +74,7 @@ class ManyTexts {
     }
 
     SystemClock Time;
-    PosixFiles Disk;
+    SystemFiles Disk;
     EventLog Log{Time, Disk};
     CFtpFiles Day;
 

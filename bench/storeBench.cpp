@@ -12,11 +12,9 @@
 #include "config/Settings.h"
 #include "config/modIni.h"
 #include "platform/MessageBoxes.h"
+#include "platform/SystemTypes.h"
 #include "platform/Translations.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/files/PosixFiles.h"
-#include "platform/posix/files/ini/PosixIniFile.h"
-#include "platform/posix/program/SystemClock.h"
 #include "store/DayIndex.h"
 #include "store/IndexFile.h"
 #include "store/modGlobal.h"
@@ -86,8 +84,8 @@ class Day {
   public:
     SystemClock Time;
     AsioEventLoop Loop{Time};
-    PosixFiles Disk;
-    PosixIniFile Ini{Disk};
+    SystemFiles Disk;
+    SystemIniFile Ini{Disk};
     NoBoxes Boxes;
     EventLog Log{Time, Disk};
     modIni Inis{Ini, Log};

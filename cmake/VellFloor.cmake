@@ -25,11 +25,24 @@ function(vell_options target)
   endif()
 endfunction()
 
-# A program of ours.
-#   vell_program(NAME vell-console SOURCES main.cpp ... LINKS vell_core)
+# A program of ours, and what it says of itself where the system shows that.
+#   vell_program(NAME vell-console SAYS "Vell in the terminal" SOURCES main.cpp ... LINKS vell_core)
 function(vell_program)
-  cmake_parse_arguments(PROGRAM "" "NAME" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(PROGRAM "" "NAME;SAYS" "SOURCES;LINKS" ${ARGN})
   add_executable(${PROGRAM_NAME} ${PROGRAM_SOURCES})
+  if(WIN32)
+    vell_resources(${PROGRAM_NAME} "${PROGRAM_SAYS}")
+  endif()
   vell_options(${PROGRAM_NAME})
   target_link_libraries(${PROGRAM_NAME} PRIVATE ${PROGRAM_LINKS})
+endfunction()
+
+# Version, icon and manifest inside an executable for Windows.
+function(vell_resources target says)
+  set(VELL_PROGRAM ${target})
+  set(VELL_PROGRAM_SAYS ${says})
+  set(VELL_MANIFEST ${CMAKE_CURRENT_BINARY_DIR}/${target}.manifest)
+  configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.manifest.in ${VELL_MANIFEST} @ONLY)
+  configure_file(${CMAKE_SOURCE_DIR}/packaging/windows/program.rc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc @ONLY)
+  target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}.rc)
 endfunction()

@@ -13,6 +13,7 @@
 #include "console/ConsoleBoxes.h"
 #include "console/ConsoleView.h"
 #include "console/Screen.h"
+#include "platform/Arguments.h"
 #include "platform/SystemPlatform.h"
 #include "platform/Terminal.h"
 #include "platform/asio/AsioEventLoop.h"
@@ -44,7 +45,7 @@ int main(int argc, char** argv) {
     try {
         const auto terminal = vell::systemTerminal();
         int exitCode = vell::exit_code::Good;
-        const auto line = vell::parseCommandLine({argv + 1, argv + argc}, *terminal, exitCode);
+        const auto line = vell::parseCommandLine(vell::programArguments(argc, argv), *terminal, exitCode);
         return line ? runProgram(*line, *terminal) : exitCode;
     } catch (const std::exception& error) {
         std::cerr << "vell-console: " << error.what() << "\n";

@@ -9,6 +9,7 @@
 #include "base/text.h"
 #include "demo/days/ClippingsTree.h"
 #include "demo/days/TsvTable.h"
+#include "platform/Arguments.h"
 
 namespace vell::demo {
 
@@ -134,7 +135,7 @@ void prepareTree(const fs::path& root, const Date& today, const fs::path& sample
 }
 
 fs::path installedSamples() {
-    return (fs::read_symlink("/proc/self/exe").parent_path() / VELL_DEMO_SAMPLES).lexically_normal();
+    return (programPath().parent_path() / VELL_DEMO_SAMPLES).lexically_normal();
 }
 
 }  // namespace vell::demo

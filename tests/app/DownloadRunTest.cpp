@@ -138,7 +138,7 @@ TEST_F(DownloadRunTest, theIndexNamesTheVersionOfAClippingThatIsHere) {
 
 TEST_F(DownloadRunTest, waitsForAnotherProgramThatFetchesTheSameFile) {
     std::unique_ptr<PartFile> other;
-    PosixFiles others;
+    SystemFiles others;
     onStatus("N120040307.MT", [&] {
         other = others.OpenPart(folder.text() + "/clips/07032004\\" + partName("N220040307.PDF", "1"));
         other->Write(std::string(1500, 'o'));

@@ -1,40 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <gmock/gmock.h>
 
-#include "platform/posix/network/NetworkManagerClient.h"
-#include "platform/posix/network/PosixConnection.h"
-#include "platform/posix/network/PosixRas.h"
-#include "tests/support/MockNetworkManager.h"
-#include "tests/support/ProgramRig.h"
+#include "tests/app/ScheduleRig.h"
 
 namespace vell::test {
 
-// The schedule's timer on a clock that the test drives. 07/03/2004 is a Sunday.
-class ScheduledRunsTest : public testing::Test, protected ProgramRig {
-  protected:
-    void load(frmMain& loaded, const std::string& schedule, const std::string& download = "") {
-        configure(download, folder.text() + "/clips");
-        folder.put("vell.ini", folder.get("vell.ini") + "[Schedule]\r\n" + schedule);
-        ASSERT_TRUE(loaded.Form_Load(frmMain::Start::Alone));
-        loaded.schedule().start();
-    }
-    // Lets time go by in the timer's steps.
-    void pass(std::chrono::minutes time) {
-        for (const SteadyTime end = clock.Steady() + time; clock.Steady() < end;) {
-            clock.advance(std::chrono::seconds{10});
-            loop.DoEvents();
-        }
-    }
-    // Each line of the log that tells of a scheduled run, with its time.
-    [[nodiscard]] std::string runs() const {
-        std::string lines;
-        const std::string log = folder.get("vell.log");
-        for (const std::string_view line : Split(log, "\r\n"))
-            if (line.find("Scheduled download") != std::string_view::npos)
-                lines.append(line.substr(0, 19)).append(line.substr(23)).append("\n");
-        return lines;
-    }
-};
+class ScheduledRunsTest : public testing::Test, protected ScheduleRig {};
 
 TEST_F(ScheduledRunsTest, startsEachEntryOfItsMinuteInTheFirstTickOfItThroughAWeek) {
     service.serve(0);
@@ -134,27 +105,6 @@ TEST_F(ScheduledRunsTest, aClockThatJumpsStartsNothingTwice) {
     EXPECT_EQ(runs(),
               "07/03/2004 06:30:00STARTED SUN Scheduled download at 06:30\n"
               "07/03/2004 06:30:00ENDED SUN Scheduled download at 06:30\n");
-}
-
-TEST_F(ScheduledRunsTest, dialsBeforeARunAndHangsUpAfterIt) {
-    if (!MockNetworkManager::isAvailable()) GTEST_SKIP() << "needs the packages dbus and python3-dbusmock";
-    const MockNetworkManager mock("{}");
-    NetworkManagerClient client(loop, clock, mock.address());
-    PosixConnection dialUp(client, [] { return std::string(); });
-    PosixRas profiles(client);
-    frmMain dialling{
-        {clock, loop, files, iniFile, internet, sockets, dialUp, profiles, boxes, *this, shell, printers, english},
-        view,
-        "2.1.37"};
-    load(dialling, "Schedule1=Sun 06:30\r\n", "DialUp=My ISP\r\nCloseConnection=1\r\n");
-    pass(std::chrono::minutes{1});
-    clock.advance(std::chrono::seconds{10});
-    loop.DoEvents();
-    EXPECT_TRUE(logHas("Starting 'My ISP' Dial-Up connection.\nGet/Create dir to put downloaded files.\n")) << logged();
-    EXPECT_TRUE(logHas("Stopping internet connection.\nENDED SUN Scheduled download at 06:30\n"));
-    EXPECT_NE(view.Statuses.find("Internet connection closed.\n"), std::string::npos);
-    std::uint32_t flags = 0;
-    EXPECT_FALSE(dialUp.InternetGetConnectedState(flags));
 }
 
 TEST_F(ScheduledRunsTest, stopWhileDiallingIsTheEndOfTheDownload) {

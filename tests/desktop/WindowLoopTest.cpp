@@ -7,8 +7,8 @@
 #include <wx/timer.h>
 
 #include "desktop/WindowLoop.h"
+#include "platform/SystemTypes.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/program/SystemClock.h"
 #include "tests/desktop/ToolkitTest.h"
 
 namespace vell::test {

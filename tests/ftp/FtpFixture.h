@@ -11,9 +11,9 @@
 #include "ftp/CFtpConnection.h"
 #include "ftp/TimeoutCounter.h"
 #include "platform/MessageBoxes.h"
+#include "platform/SystemTypes.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
-#include "platform/posix/files/PosixFiles.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
 
@@ -39,7 +39,7 @@ class FtpFixture : public testing::Test, private CFtpConnectionEvents, MessageBo
     DrivenClock clock;
     AsioEventLoop loop{clock};
     AsioSockets sockets{loop};
-    PosixFiles files;
+    SystemFiles files;
     TimeoutCounter counter;
     TempFolder folder;
     std::vector<std::string> told;   // "State 3", "Down 10", "Up 10", and messages without the line end

@@ -3,13 +3,14 @@
 
 #include "log/logLine.h"
 #include "tests/support/SettingsRig.h"
+#include "tests/support/system.h"
 
 namespace vell::test {
 
 TEST(EventLogTest, writesStampedLinesBetweenStartAndStopForItsOwnerAlone) {
     const TempFolder folder;
     DrivenClock clock({{2004, 3, 7}, 6, 5, 9});
-    PosixFiles files;
+    SystemFiles files;
     EventLog log(clock, files);
     log.WriteLog("before");
     log.LogError({6, "Overflow"}, "before()");
@@ -24,12 +25,12 @@ TEST(EventLogTest, writesStampedLinesBetweenStartAndStopForItsOwnerAlone) {
               "Error=53, Source=Vell, Description=File not found: x, LastDllError=2, HelpFile=, HelpContext=0 in "
               "OpenUrl()\r\nError=6, Source=Vell, Description=Overflow, LastDllError=0, HelpFile=, HelpContext=0\r\n"
               "07/03/2004 06:05:09,   ==========  Program Ended ===============\r\n");
-    EXPECT_EQ(std::filesystem::status(folder.path() / "vell.log").permissions(), std::filesystem::perms{0600});
+    EXPECT_TRUE(isPrivate(folder.path() / "vell.log"));
 }
 
 TEST(EventLogTest, survivesEverythingThatHappensToItsFile) {
     const TempFolder folder;
-    PosixFiles files;
+    SystemFiles files;
     const std::string missing = folder.text() + "\\missing\\vell.log";
     for (const auto& [programFolder, wanted] : {std::pair{folder.text(), missing}, {folder.text() + "\\", ""}}) {
         clsLog log(files, programFolder);
@@ -38,7 +39,7 @@ TEST(EventLogTest, survivesEverythingThatHappensToItsFile) {
         log.LogEvent("a", 1);
         log.LogEvent("b", 2);
         log.LogEvent("c", 3);
-        EXPECT_EQ(std::filesystem::status(folder.path() / "Log.txt").permissions(), std::filesystem::perms{0600});
+        EXPECT_TRUE(isPrivate(folder.path() / "Log.txt"));
         EXPECT_EQ(folder.get("Log.txt"), "Error: a\r\nWarning: b\r\nInformation: c\r\n");
         log.Reset();
         EXPECT_FALSE(folder.has("Log.txt"));

@@ -8,8 +8,8 @@
 #include <gmock/gmock.h>
 #include <time.h>
 
+#include "platform/SystemTypes.h"
 #include "platform/asio/AsioEventLoop.h"
-#include "platform/posix/program/SystemClock.h"
 #include "tests/support/DrivenClock.h"
 
 namespace vell::test {

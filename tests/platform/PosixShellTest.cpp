@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/common/documents.h"
 #include "platform/posix/files/FileHandle.h"
 #include "platform/posix/printing/CupsPrinters.h"
 #include "platform/posix/printing/cupsReasons.h"
@@ -140,13 +141,13 @@ TEST_F(PosixShellTest, printingHandsTheFileToCupsAndGivesItsAnswer) {
     for (const auto& [ending, patience, code, reason] : cases) {
         putProgram(folder_, "bin/lp", ending);
         PosixShell installed(PosixShell::Places::ofThisProgram(), patience);
-        EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), code) << ending;
+        EXPECT_EQ(installed.Open(pdfReader, parameters), code) << ending;
         EXPECT_EQ(installed.LastReason(), reason);
         EXPECT_EQ(said(), "[--][" + folder_.text() + "/-a b.PDF]");
     }
     setenv("PATH", "/nowhere", 1);
     PosixShell installed;
-    EXPECT_EQ(installed.Open(PosixShell::pdfReader, parameters), 2);
+    EXPECT_EQ(installed.Open(pdfReader, parameters), 2);
     EXPECT_EQ(installed.LastReason(), cups_reason::NotInstalled);
     EXPECT_EQ(installed.Open("", ""), 2);
     EXPECT_EQ(installed.LastReason(), "") << "of another failure";

@@ -5,7 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "platform/posix/internet/CurlInternet.h"
+#include "platform/SystemTypes.h"
 #include "service/DownloadList.h"
 #include "service/Failure.h"
 #include "service/RunFeedback.h"
@@ -53,7 +53,7 @@ class ServiceTest : public testing::Test, protected StoreRig, protected RunFeedb
 
     const std::string name = "ABC20040307.PDF";
     ServicePeer service;
-    CurlInternet internet{loop, clock};
+    SystemInternet internet{loop, clock};
     modHTTP http{internet, files, boxes, *this, log, setup};
     DownloadState downloads;
     DownloadList list{{http, store, files, boxes, *this, log, setup, day, downloads, "2.1.37"}};

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
+#include <thread>
+
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "store/ClippingName.h"
 #include "store/DayIndex.h"
@@ -94,14 +94,15 @@ TEST_F(IndexTest, ofTwoProgramsNoneLosesTheMarksOfTheOther) {
         marked += name + std::string("||d||~");
     }
     file(open);
-    for (const char first : {'a', 'A'})
-        if (const pid_t program = fork(); program == 0) {
+    {
+        const auto program = [&](char first) {  // locks are of objects, so that two threads stand for it
+            SystemFiles disk;
+            DayIndex own(disk);
             for (char name = first; name < first + 20; ++name)
-                mark({name});
-            _exit(0);
-        }
-    for (int status = -1; wait(&status) > 0;)
-        EXPECT_EQ(status, 0);
+                own.markDownloaded(day.gDayFolder, std::vector{ArrivedClipping{std::string(1, name), ""}});
+        };
+        const std::jthread one(program, 'a'), another(program, 'A');
+    }
     EXPECT_EQ(file(), marked + "~");
 }
 

@@ -8,14 +8,14 @@
 #include <vector>
 
 #include "base/errors.h"
-#include "platform/posix/files/PosixFiles.h"
+#include "platform/SystemTypes.h"
 
 namespace vell::test {
 
 // The real files, of which one operation fails, or from one on every one that needs room; the operations of an open
 // part count, too, those on the log do not. To try every place of a procedure at which the disk can fail, let n rise
 // until nothing fails any more.
-class FaultyFiles : public PosixFiles {
+class FaultyFiles : public SystemFiles {
   public:
     enum class Fault { Once, FullFromThenOn };
     // 1 is the next operation; 0 for no failure any more.
@@ -25,52 +25,52 @@ class FaultyFiles : public PosixFiles {
 
     std::optional<std::int64_t> FileSize(std::string_view path) const override {
         disk_->count(Needs::Nothing);
-        return PosixFiles::FileSize(path);
+        return SystemFiles::FileSize(path);
     }
     std::optional<FileStamp> Stamp(std::string_view path) const override {
         disk_->count(Needs::Nothing);
-        return PosixFiles::Stamp(path);
+        return SystemFiles::Stamp(path);
     }
     std::vector<Entry> Enumerate(std::string_view folder, std::string_view pattern, Kind kind) const override {
         disk_->count(Needs::Nothing);
-        return PosixFiles::Enumerate(folder, pattern, kind);
+        return SystemFiles::Enumerate(folder, pattern, kind);
     }
     std::string ReadFile(std::string_view path) const override {
         disk_->count(Needs::Nothing);
-        return PosixFiles::ReadFile(path);
+        return SystemFiles::ReadFile(path);
     }
     std::string ReadPart(std::string_view path, std::int64_t offset, std::size_t most) const override {
         disk_->count(Needs::Nothing);
-        return PosixFiles::ReadPart(path, offset, most);
+        return SystemFiles::ReadPart(path, offset, most);
     }
     void WriteWhole(std::string_view path, std::string_view bytes, Durability durability) override {
         disk_->count(Needs::Room);
-        PosixFiles::WriteWhole(path, bytes, durability);
+        SystemFiles::WriteWhole(path, bytes, durability);
     }
     std::unique_ptr<PartFile> OpenPart(std::string_view path) override {
         disk_->count(Needs::Room);
-        auto real = PosixFiles::OpenPart(path);
+        auto real = SystemFiles::OpenPart(path);
         return real ? std::make_unique<Part>(std::move(real), disk_) : nullptr;
     }
     void Flush(std::string_view folder) override {
         disk_->count(Needs::Room);
-        PosixFiles::Flush(folder);
+        SystemFiles::Flush(folder);
     }
     void MakePrivateFile(std::string_view path) override {
         if (!path.ends_with(".log")) disk_->count(Needs::Room);
-        PosixFiles::MakePrivateFile(path);
+        SystemFiles::MakePrivateFile(path);
     }
     void DeleteFile(std::string_view path) override {
         disk_->count(Needs::Nothing);
-        PosixFiles::DeleteFile(path);
+        SystemFiles::DeleteFile(path);
     }
     void MakeFolder(std::string_view path) override {
         disk_->count(Needs::Room);
-        PosixFiles::MakeFolder(path);
+        SystemFiles::MakeFolder(path);
     }
     void RemoveFolder(std::string_view path) override {
         disk_->count(Needs::Nothing);
-        PosixFiles::RemoveFolder(path);
+        SystemFiles::RemoveFolder(path);
     }
 
   private:

@@ -5,10 +5,10 @@
 
 #include "app/frmMain.h"
 #include "platform/Process.h"
+#include "platform/SystemTypes.h"
 #include "platform/Translations.h"
 #include "platform/asio/AsioEventLoop.h"
 #include "platform/asio/AsioSockets.h"
-#include "platform/posix/internet/CurlInternet.h"
 #include "tests/support/RecordingPrinters.h"
 #include "tests/support/RecordingShell.h"
 #include "tests/support/RecordingView.h"
@@ -62,8 +62,8 @@ struct ProgramRig : Process {
     DrivenClock clock;
     AsioEventLoop loop{clock};
     TroubledFiles files;
-    PosixIniFile iniFile{files};
-    CurlInternet internet{loop, clock};
+    SystemIniFile iniFile{files};
+    SystemInternet internet{loop, clock};
     AsioSockets sockets{loop};
     ScriptedConnection connection;
     ScriptedRas ras;

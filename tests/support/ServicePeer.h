@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdlib>
 #include <functional>
 #include <map>
 #include <string>
 
 #include "tests/support/HttpPeer.h"
+#include "tests/support/system.h"
 
 namespace vell::test {
 
@@ -15,11 +15,11 @@ namespace vell::test {
 class ServicePeer {
   public:
     ServicePeer() {
-        unsetenv("no_proxy");
-        unsetenv("NO_PROXY");
-        setenv("http_proxy", ("http://" + peer_.address()).c_str(), 1);
+        removeVariable("no_proxy");
+        removeVariable("NO_PROXY");
+        setVariable("http_proxy", "http://" + peer_.address());
     }
-    ~ServicePeer() { unsetenv("http_proxy"); }
+    ~ServicePeer() { removeVariable("http_proxy"); }
     ServicePeer(const ServicePeer&) = delete;
     ServicePeer& operator=(const ServicePeer&) = delete;
 

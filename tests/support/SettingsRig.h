@@ -7,8 +7,8 @@
 #include "config/SettingsLoader.h"
 #include "config/modIni.h"
 #include "log/EventLog.h"
+#include "platform/SystemTypes.h"
 #include "platform/Translations.h"
-#include "platform/posix/files/ini/PosixIniFile.h"
 #include "tests/support/DrivenClock.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/TroubledFiles.h"
@@ -40,7 +40,7 @@ struct SettingsRig {
     TempFolder folder;
     DrivenClock clock;
     TroubledFiles files;
-    PosixIniFile iniFile{files};
+    SystemIniFile iniFile{files};
     EventLog log{clock, files};
     modIni ini{iniFile, log};
     Settings setup;

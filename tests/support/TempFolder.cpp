@@ -3,16 +3,16 @@
 
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
-
-#include <stdlib.h>
 
 namespace vell::test {
 
 TempFolder::TempFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "vell-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder: " + name);
-    path_ = name;
+    std::random_device random;
+    do
+        path_ = std::filesystem::temp_directory_path() / ("vell-test-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path_));
 }
 
 TempFolder::~TempFolder() {

@@ -2,13 +2,13 @@
 #include "platform/posix/files/LeftoverParts.h"
 
 #include <filesystem>
-#include <random>
 #include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/common/partNames.h"
 #include "platform/posix/files/FileHandle.h"
 
 namespace vell {
@@ -27,15 +27,6 @@ void removeIfLeftOver(const FilePlace& part, std::chrono::hours age) {
 }
 
 }  // namespace
-
-bool isPartName(std::string_view name) {
-    return name.starts_with('.') && name.ends_with(".part");
-}
-
-std::string newPartName() {
-    static std::random_device random;  // the process number would not do: another machine may share the folder
-    return ".vell-" + std::to_string(random()) + '-' + std::to_string(random()) + ".part";
-}
 
 void removeLeftoverParts(const std::string& folder, std::chrono::hours age) {
     std::vector<std::string> parts;

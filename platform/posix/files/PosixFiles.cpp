@@ -15,9 +15,10 @@
 #include <unistd.h>
 
 #include "base/text.h"
+#include "platform/common/NamePattern.h"
+#include "platform/common/partNames.h"
 #include "platform/posix/files/FolderReader.h"
 #include "platform/posix/files/LeftoverParts.h"
-#include "platform/posix/files/NamePattern.h"
 #include "platform/posix/files/PosixPartFile.h"
 #include "platform/posix/files/WholeFile.h"
 #include "platform/posix/files/paths.h"
@@ -168,8 +169,7 @@ std::unique_ptr<PartFile> PosixFiles::OpenPart(std::string_view path) {
 
 // An empty part: nobody lists it, and it goes with its owner, however that ends.
 std::unique_ptr<PartFile> PosixFiles::Lock(std::string_view path) {
-    const std::size_t name = InStrRev(path, "\\") + 1;
-    const std::string beside = std::string(Left(path, name - 1)) + '.' + std::string(Mid(path, name)) + ".lock.part";
+    const std::string beside = lockPartOf(path);
     const auto end = std::chrono::steady_clock::now() + longestWait;
     while (true) {
         if (auto part = OpenPart(beside)) return part;

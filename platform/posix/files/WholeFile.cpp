@@ -6,7 +6,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include "platform/posix/files/LeftoverParts.h"
+#include "platform/common/partNames.h"
 #include "platform/posix/files/paths.h"
 #include "platform/posix/files/replacing.h"
 

@@ -7,6 +7,7 @@
 #include <sys/stat.h>
 
 #include "base/text.h"
+#include "platform/common/fileErrorTexts.h"
 #include "platform/posix/files/paths.h"
 
 namespace vell {
@@ -50,33 +51,12 @@ std::int32_t numberOf(int systemError, const std::string& systemPath) {
     }
 }
 
-const char* textOf(std::int32_t number) {
-    switch (number) {
-        case error_number::FileNotFound:
-            return "File not found";
-        case error_number::PathNotFound:
-            return "Path not found";
-        case error_number::PermissionDenied:
-            return "Permission denied";
-        case error_number::PathAccess:
-            return "Path/File access error";
-        case error_number::DiskFull:
-            return "Disk full";
-        case error_number::BadFileName:
-            return "Bad file name or number";
-        case error_number::OutOfMemory:
-            return "Out of memory";
-        default:
-            return "Device I/O error";
-    }
-}
-
 }  // namespace
 
 RunTimeError fileError(int systemError, const FilePlace& place) {
     const auto number = numberOf(systemError, place.System);
     const auto reason = codePageFromUtf8Lossy(std::generic_category().message(systemError));
-    return {number, std::string(textOf(number)) + ": " + place.Text + " (" + reason + ")", "Vell", systemError};
+    return {number, std::string(fileErrorText(number)) + ": " + place.Text + " (" + reason + ")", "Vell", systemError};
 }
 
 void raiseFileError(const FilePlace& place) {

@@ -3,14 +3,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
-#include <filesystem>
 #include <memory>
-#include <string_view>
 
 #include <gio/gio.h>
 
 #include "platform/Shell.h"
+#include "platform/common/documents.h"
 
 namespace vell {
 
@@ -33,27 +31,17 @@ struct FreeText {
     void operator()(char* text) const { g_free(text); }
 };
 
-// Names of what some desktop would run, or would ask the user to run, on opening it.
-constexpr std::array<std::string_view, 21> runnableEndings{
-    ".appimage", ".bat", ".cmd", ".com", ".desktop", ".exe", ".hta", ".jar", ".js",  ".lnk", ".msi",
-    ".pif",      ".pl",  ".ps1", ".py",  ".reg",     ".run", ".scr", ".sh",  ".vbs", ".wsf"};
 // Scripts and programs are all kinds of application/x-executable in the shared MIME database, but for these.
 constexpr std::array<const char*, 8> runnableTypes{
     "application/x-executable",        "application/x-sharedlib",   "application/x-desktop",
     "application/x-ms-dos-executable", "application/x-msdownload",  "application/vnd.microsoft.portable-executable",
     "application/java-archive",        "application/x-java-archive"};
 
-std::string lowered(std::string text) {
-    std::ranges::transform(text, text.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return text;
-}
-
 // The execute bit says nothing: it comes with every file of some drives, and an application opens the file, never the
 // system.
 bool isRunnable(const std::string& path, const char* type) {
     if (g_content_type_is_a(type, "inode/directory")) return false;
-    if (std::ranges::find(runnableEndings, lowered(std::filesystem::path(path).extension())) != runnableEndings.end())
-        return true;
+    if (hasRunnableEnding(path)) return true;
     return std::ranges::any_of(runnableTypes, [&](const char* one) { return g_content_type_is_a(type, one) != FALSE; });
 }
 

@@ -7,8 +7,8 @@
 
 #include "base/errors.h"
 #include "base/text.h"
+#include "platform/common/environmentProxy.h"
 #include "platform/internetErrors.h"
-#include "platform/posix/network/systemProxy.h"
 
 namespace vell {
 
@@ -18,6 +18,7 @@ constexpr std::chrono::seconds longestSilence{30};
 // A server that brings 64 bytes a second at least has a portion ready in time.
 constexpr std::chrono::minutes longestForPortion{5};
 constexpr std::size_t wholePortion = std::size_t{64} * 300;
+constexpr int usualProxyPort = 1080;  // which the library takes
 constexpr long mostRedirects = 10;
 constexpr long receiveSize = 256L << 10;
 // A reader that falls behind makes the server wait, not the memory grow.
@@ -180,7 +181,7 @@ std::string CurlTransfer::unreachedProxy() const {
     if (std::ranges::find(numbers, error()) == numbers.end()) return {};
     curl_off_t connected = 0;
     curl_easy_getinfo(easy_.get(), CURLINFO_CONNECT_TIME_T, &connected);
-    return connected > 0 ? std::string() : proxyPlace(proxy_ ? *proxy_ : environmentProxy(address()));
+    return connected > 0 ? std::string() : proxyPlace(proxy_ ? *proxy_ : environmentProxy(address()), usualProxyPort);
 }
 
 std::int64_t CurlTransfer::announcedLength() const {

@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "base/text.h"
+#include "platform/common/documents.h"
 #include "platform/posix/files/paths.h"
 #include "platform/posix/printing/printDocument.h"
 #include "platform/posix/program/desktopApplications.h"

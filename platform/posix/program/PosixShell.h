@@ -18,9 +18,6 @@ namespace vell {
 // PDF reader that is started for printing is our own helper, and what it answers is CUPS' answer.
 class PosixShell : public Shell {
   public:
-    // What prints a document; by the name that the program calls it on every system.
-    static constexpr std::string_view pdfReader = "Acrord32.exe";
-
     struct Places {
         std::vector<std::string> OwnFolders;
         std::string PrintHelper;

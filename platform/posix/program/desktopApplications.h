@@ -17,7 +17,5 @@ struct Opening {
 [[nodiscard]] Opening openWithApplication(const std::string& systemPath);
 // An address of a scheme that leads to a browser or a mail program.
 [[nodiscard]] Opening openAddress(const std::string& address);
-// True for those schemes. A drive letter is none.
-[[nodiscard]] bool isAddress(const std::string& text);
 
 }  // namespace vell

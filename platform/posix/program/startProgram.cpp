@@ -88,24 +88,6 @@ int startProgram(const std::string& systemPath, std::vector<std::string> argumen
     return told == sizeof result ? result : EAGAIN;
 }
 
-std::vector<std::string> splitParameters(std::string_view parameters) {
-    std::vector<std::string> parts;
-    bool isQuoted = false, isInside = false;
-    for (const char c : parameters) {
-        if ((c == ' ' || c == '\t') && !isQuoted) {
-            isInside = false;
-            continue;
-        }
-        if (!isInside) parts.emplace_back();
-        isInside = true;
-        if (c == '"')
-            isQuoted = !isQuoted;
-        else
-            parts.back() += c;
-    }
-    return parts;
-}
-
 std::string findProgram(const std::string& name) {
     const char* search = std::getenv("PATH");
     std::string_view folders = search != nullptr ? search : "/usr/local/bin:/usr/bin:/bin";

@@ -11,9 +11,6 @@ namespace vell {
 // UTF-8, without the program's own name. 0, or the system's error number.
 [[nodiscard]] int startProgram(const std::string& systemPath, std::vector<std::string> arguments);
 
-// The parts of a command line: separated by blanks, which count as letters between quotation marks.
-[[nodiscard]] std::vector<std::string> splitParameters(std::string_view parameters);
-
 // A program's full path along PATH; empty when there is none.
 [[nodiscard]] std::string findProgram(const std::string& name);
 [[nodiscard]] bool isProgram(const std::string& systemPath);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "platform/posix/files/NamePattern.h"
+#include "platform/common/NamePattern.h"
 
 #include "base/text.h"
 

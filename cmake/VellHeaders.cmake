@@ -1,0 +1,18 @@
+# Libraries that are headers alone. What is built for another system must not see this one's other headers: for it they
+# are linked to from a folder of their own.
+set(VELL_HEADERS ${CMAKE_BINARY_DIR}/headers)
+if(VELL_SHARED_HEADERS)
+  file(MAKE_DIRECTORY ${VELL_HEADERS})
+  foreach(header asio asio.hpp CLI)
+    if(NOT EXISTS ${VELL_SHARED_HEADERS}/${header})
+      message(FATAL_ERROR "${VELL_SHARED_HEADERS}/${header} is missing; tools/packages.sh windows installs it")
+    endif()
+    file(CREATE_LINK ${VELL_SHARED_HEADERS}/${header} ${VELL_HEADERS}/${header} SYMBOLIC)
+  endforeach()
+  set(VELL_ASIO_INCLUDE_DIR ${VELL_HEADERS})
+  add_library(CLI11::CLI11 INTERFACE IMPORTED GLOBAL)
+  target_include_directories(CLI11::CLI11 SYSTEM INTERFACE ${VELL_HEADERS})
+else()
+  find_path(VELL_ASIO_INCLUDE_DIR asio.hpp REQUIRED)
+  find_package(CLI11 REQUIRED)
+endif()
