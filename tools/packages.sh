@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the Debian packages that a job needs and that are not there yet.
-#   tools/packages.sh build|test|check|bench ...
+#   tools/packages.sh build|test|check|bench|windows ...
 set -euo pipefail
 
 # The last two let GTK draw its own pictures, which it only recommends.
@@ -9,6 +9,8 @@ build=(g++ cmake gettext ninja-build pkg-config libasio-dev libcurl4-openssl-dev
 window=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick python3-gi xdotool xvfb)
 test=("${build[@]}" "${window[@]}" libgtest-dev libgmock-dev curl python3-dbusmock python3-pyftpdlib proftpd-core trayer)
 check=("${build[@]}" libgtest-dev libgmock-dev clang-format clang-tidy g++-mingw-w64-x86-64-posix git)
+# What builds for Windows, and Wine, which runs it. The toolkit is built from its source package.
+windows=("${build[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 dpkg-dev googletest python3)
 bench=("${build[@]}" "${window[@]}" libbenchmark-dev nginx-light proftpd-core openssl curl wget aria2 lftp iproute2 python3)
 
 wanted=()
@@ -18,7 +20,8 @@ for job in "$@"; do
     test) wanted+=("${test[@]}") ;;
     check) wanted+=("${check[@]}") ;;
     bench) wanted+=("${bench[@]}") ;;
-    *) echo "packages.sh: no job '$job'; there are build, test, check and bench" >&2; exit 2 ;;
+    windows) wanted+=("${windows[@]}") ;;
+    *) echo "packages.sh: no job '$job'; there are build, test, check, bench and windows" >&2; exit 2 ;;
   esac
 done
 
