@@ -106,8 +106,7 @@ class ScenarioTest(unittest.TestCase):
         self.good('windows', 'shared', 'setup', 'Pwd', '-', answer='demo\n')
         self.good('windows', 'shared', 'schedule', 'add', 'Mon', 'Wed', '07:30')
         self.assertIn('07:30', self.good('native', 'shared', 'schedule'))
-        text = (self.place / 'shared' / 'vell.ini').read_bytes().decode('cp1253')
-        self.assertIn('; kept as it is', text)
+        self.assertIn(b'; kept as it is', (self.place / 'shared' / 'vell.ini').read_bytes())
         self.good('native', 'shared', 'download')  # with the password that the other has written
 
     def test_a_day_begun_by_one_is_finished_by_the_other(self):
@@ -146,7 +145,7 @@ class ScenarioTest(unittest.TestCase):
                                     stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
             until = time.monotonic() + PATIENCE
-            while self.run_in('windows', 'twice', 'delete', '01/01/2004', '--yes').returncode != 5:
+            while self.run_in('windows', 'twice', 'download').returncode != 5:
                 self.assertLess(time.monotonic(), until)
         finally:
             watching.kill()

@@ -27,9 +27,11 @@ void removeLeftoverParts(const std::wstring& folder, std::chrono::hours age) {
     FolderReader reader(folder);
     for (FolderReader::Found found; reader.next(found);) {
         if (found.IsFolder || found.ModifiedAt > oldest || !isPartName(utf8FromWide(found.Name))) continue;
-        // Nobody else may have it open; it goes with the handle. A part of another user's stays.
-        (void)FileHandle::tried(joined(folder, found.Name),
-                                {DELETE, 0, OPEN_EXISTING, FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT});
+        // Nobody else may have it open. A part of another user's stays.
+        const FilePlace part{utf8FromWide(found.Name), joined(folder, found.Name)};
+        FileHandle file = FileHandle::tried(
+            part.System, {GENERIC_READ | GENERIC_WRITE | DELETE, 0, OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT});
+        if (file.isOpen()) file.markDeleted(part);
     }
 }
 

@@ -2,9 +2,10 @@
 #include "tests/support/system.h"
 
 #include <cstdlib>
+#include <string_view>
 #include <vector>
 
-#include <aclapi.h>
+#include <sddl.h>
 
 namespace vell::test {
 
@@ -16,23 +17,19 @@ void removeVariable(const std::string& name) {
     _putenv_s(name.c_str(), "");
 }
 
-// Everybody may do nothing with it.
+// No word of everybody among its rights.
 bool isPrivate(const std::filesystem::path& file) {
-    PACL rights = nullptr;
-    PSECURITY_DESCRIPTOR owned = nullptr;
-    std::wstring path = file.wstring();
-    if (GetNamedSecurityInfoW(path.data(), SE_FILE_OBJECT, DACL_SECURITY_INFORMATION, nullptr, nullptr, &rights,
-                              nullptr, &owned) != ERROR_SUCCESS)
+    DWORD size = 0;
+    GetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION, nullptr, 0, &size);
+    std::vector<std::byte> rights(size);
+    if (!GetFileSecurityW(file.c_str(), DACL_SECURITY_INFORMATION, rights.data(), size, &size)) return false;
+    wchar_t* text = nullptr;
+    if (!ConvertSecurityDescriptorToStringSecurityDescriptorW(rights.data(), SDDL_REVISION_1, DACL_SECURITY_INFORMATION,
+                                                              &text, nullptr))
         return false;
-    std::vector<std::byte> everybody(SECURITY_MAX_SID_SIZE);
-    auto size = static_cast<DWORD>(everybody.size());
-    CreateWellKnownSid(WinWorldSid, nullptr, everybody.data(), &size);
-    TRUSTEE_W who{};
-    BuildTrusteeWithSidW(&who, everybody.data());
-    ACCESS_MASK allowed = 0;
-    const bool isKnown = rights != nullptr && GetEffectiveRightsFromAclW(rights, &who, &allowed) == ERROR_SUCCESS;
-    LocalFree(owned);
-    return isKnown && (allowed & FILE_READ_DATA) == 0;
+    const bool isForAll = std::wstring_view(text).find(L";WD)") != std::wstring_view::npos;
+    LocalFree(text);
+    return !isForAll;
 }
 
 }  // namespace vell::test

@@ -14,6 +14,7 @@ namespace {
 
 constexpr std::wstring_view byteOrderMark = L"\xFEFF";
 constexpr std::string_view blanks = " \t";
+constexpr std::string_view utf8Mark = "\xEF\xBB\xBF";  // which editors put before a text of one code page, too
 
 // A file in the user's folder for temporary ones.
 class ScratchFile {
@@ -94,6 +95,10 @@ void refuseLineEnd(std::string_view text) {
 }  // namespace
 
 ProfileFile::ProfileFile(const std::string& bytes) {
+    if (bytes.starts_with(utf8Mark)) {
+        *this = ProfileFile(bytes.substr(utf8Mark.size()));
+        return;
+    }
     const ScratchFile file(bytes);
     const auto names =
         texts([&](wchar_t* buffer, DWORD size) { return GetPrivateProfileSectionNamesW(buffer, size, file.path()); });
@@ -121,6 +126,7 @@ std::optional<std::string_view> ProfileFile::value(std::string_view section, std
 }
 
 std::string ProfileFile::edited(const std::string& bytes, const std::vector<IniEdit>& edits) {
+    if (bytes.starts_with(utf8Mark)) return std::string(utf8Mark) + edited(bytes.substr(utf8Mark.size()), edits);
     const ScratchFile file(bytes);
     for (const IniEdit& edit : edits) {
         for (const std::string& part : {edit.Section, edit.Key.value_or(""), edit.Value.value_or("")})
@@ -130,7 +136,10 @@ std::string ProfileFile::edited(const std::string& bytes, const std::vector<IniE
         file.edit(section.c_str(), edit.Key ? key.c_str() : nullptr, edit.Value ? value.c_str() : nullptr);
     }
     file.flush();
-    return file.bytes();
+    // The system ends every line that it writes in its own way; a file from elsewhere keeps that of its first line.
+    const auto lineFeed = bytes.find('\n');
+    const bool isForeign = lineFeed != std::string::npos && (lineFeed == 0 || bytes[lineFeed - 1] != '\r');
+    return isForeign ? Replace(file.bytes(), "\r\n", "\n") : file.bytes();
 }
 
 }  // namespace vell
