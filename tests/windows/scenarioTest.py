@@ -141,6 +141,7 @@ class ScenarioTest(unittest.TestCase):
 
     def test_a_second_program_is_told_that_one_runs(self):
         self.prepare('twice')
+        self.good('native', 'twice', 'schedule', 'add', 'Mon', '07:30')
         watching = subprocess.Popen([*WINDOWS, '--folder', str(self.place / 'twice'), 'watch'], env=self.environment,
                                     stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         try:
