@@ -38,8 +38,9 @@ struct RunContext {
     std::vector<FailedFile> Only;
     RunOutcome Outcome;  // over all days
     RunSummary Summary;
-    std::string Told;     // the message that its exchanges with the service have shown last
-    Failure LastFailure;  // of the attempt that was made last, when it has failed
+    bool HasAskedForUpdate = false;  // of the program
+    std::string Told;                // the message that its exchanges with the service have shown last
+    Failure LastFailure;             // of the attempt that was made last, when it has failed
     // As they were at the begin, or as the user has saved them since: what is only being tried out in the setup dialog
     // is no matter of the run.
     Settings Setup;

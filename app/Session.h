@@ -11,8 +11,9 @@
 
 namespace vell {
 
-// What the program is doing about downloads. All but Idle belong to one download, or to the end of the program.
-enum class Activity { Idle, Connecting, Running, BetweenDays, HangingUp };
+// What the program is doing about downloads. All but Idle belong to one download, to the end of the program, or to an
+// update that somebody has asked for.
+enum class Activity { Idle, Connecting, Running, BetweenDays, HangingUp, Updating };
 
 // The state of one session of the program: the only state that is shared. Owned by frmMain.
 struct Session {
@@ -31,7 +32,9 @@ struct Session {
     // A download run is under way.
     [[nodiscard]] bool gIsBusy() const { return Doing == Activity::Running; }
     // Nobody is there whom what is under way could ask.
-    [[nodiscard]] bool isAlone() const { return !isIdle() && Run.BegunBy == Starter::Schedule; }
+    [[nodiscard]] bool isAlone() const {
+        return !isIdle() && Doing != Activity::Updating && Run.BegunBy == Starter::Schedule;
+    }
 
     std::int32_t gCurrentFileIndex = 0;     // one-based, in the download list
     std::int32_t gClippingsDownloaded = 0;  // newly marked in this run; a fetched advertisement counts one

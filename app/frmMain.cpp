@@ -7,11 +7,13 @@
 #include "app/MainView.h"
 #include "app/UpdateInstallation.h"
 #include "app/WindowPlace.h"
+#include "base/base64.h"
 #include "base/text.h"
 #include "config/Schedule.h"
 #include "platform/Clock.h"
 #include "platform/ConnectionApi.h"
 #include "platform/Files.h"
+#include "platform/Installation.h"
 #include "platform/InternetApi.h"
 #include "platform/MessageBoxes.h"
 #include "platform/Process.h"
@@ -24,17 +26,18 @@ namespace {
 constexpr std::string_view logFileName = "vell.log";
 }  // namespace
 
-frmMain::frmMain(const Platform& platform, MainView& view, std::string version)
+frmMain::frmMain(const Platform& platform, MainView& view, BuildFacts facts)
     : platform_(platform),
       view_(view),
+      facts_(std::move(facts)),
       log_(platform.Time, platform.Disk),
       ini_(platform.Ini, log_),
       loader_(session_.Setup, ini_, log_, log_),
       progress_(session_, view, platform.Loop, platform.Time, log_, usualPaintInterval),
       reading_({platform_, view, ini_, log_, session_, [this](std::string_view text) { progress_.StatusBar(text); },
                 [this](std::string_view text) { view_.displayInfoMessageBox(text); }}),
-      fetching_({platform_, view, session_, ini_, log_, progress_, reading_.Browser, version}) {
-    session_.gVersion = std::move(version);
+      fetching_({platform_, view, session_, ini_, log_, progress_, reading_.Browser, facts_}) {
+    session_.gVersion = facts_.Version;
 }
 
 std::string frmMain::programFolder(const Process& process) {
@@ -44,22 +47,34 @@ std::string frmMain::programFolder(const Process& process) {
 }
 
 bool frmMain::Form_Load(Start start) {
+    platform_.Own.CameUp();
     showToday();
     isOnline_ = start == Start::Window || start == Start::Alone;
     if (start != Start::Beside && isRefused(start)) return false;
     findProgramFolder();
     lookForSettings(start);
+    installer().tellPutBack();
     session_.Setup.UseHTTP = true;
-    if (start == Start::Window) {
+    const auto isForUpdate = [this] {
         mUpdatePending_ = takePendingUpdate(ini_, platform_.Boxes);
-        if (mUpdatePending_) return false;
-        tellFinishedUpdate(ini_, platform_.Boxes, session_.gVersion);
+        const auto fault = mUpdatePending_ ? installUpdate() : std::nullopt;
+        if (fault) platform_.Boxes.Show(*fault, programCaption, Buttons::Ok, BoxIcon::Error);
+        if (!mUpdatePending_) tellFinishedUpdate(ini_, platform_.Boxes, session_.gVersion);
+        return mUpdatePending_;
+    };
+    if (start == Start::Window) {
+        if (isForUpdate()) return false;
         view_.placeWindow(loadWindowPlace(ini_));
     }
     loader_.setAppVersion(session_.gVersion);
     loader_.GetSetup();
     log_.onFailure([this](std::string_view text) { view_.displayInfoMessageBox(text); });
     if (session_.Setup.Debug > 0) log_.Start(session_.gAppPath, session_.gAppPath + std::string(logFileName));
+    // Without a window the log is what tells of a settings file that could not be read for it.
+    if (start == Start::Alone && isForUpdate()) {
+        log_.Stop();
+        return false;
+    }
     GetSchedule(session_.Setup, ini_, log_);
     reading_.Browser.PopulateDateCombo();
     if (start == Start::Window) showFirstDay();
@@ -84,6 +99,7 @@ bool frmMain::isRefused(Start start) {
 void frmMain::findProgramFolder() {
     session_.gAppPath = programFolder(platform_.Program);
     ini_.setAppDir(session_.gAppPath);
+    fetching_.Update.setProgramFolder(session_.gAppPath);
 }
 
 void frmMain::lookForSettings(Start start) {
@@ -93,6 +109,21 @@ void frmMain::lookForSettings(Start start) {
             "Warning. INI file 'vell.ini' not found.\r\nSETUP and SCHEDULE parameters must be set "
             "again.",
             programCaption, Buttons::Ok, BoxIcon::None);
+}
+
+UpdateInstaller frmMain::installer() {
+    return {platform_, ini_, log_, facts_.Version, bytesFromBase64(facts_.UpdateKey).value_or(""), session_.gAppPath};
+}
+
+bool frmMain::isUpdateReady() const {
+    std::string update;
+    return ini_.VellIniReadString("General", "Update", update) && update == "1";
+}
+
+std::optional<std::string> frmMain::installUpdate() {
+    std::string fault;
+    if (installer().install(fault)) return std::nullopt;
+    return fault;
 }
 
 void frmMain::showFirstDay() {

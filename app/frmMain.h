@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "app/BuildFacts.h"
 #include "app/Reading.h"
 #include "app/Session.h"
 #include "app/failures/frmFailedFiles.h"
@@ -16,6 +18,7 @@
 #include "config/modIni.h"
 #include "log/EventLog.h"
 #include "platform/Platform.h"
+#include "update/UpdateInstaller.h"
 
 namespace vell {
 
@@ -25,11 +28,12 @@ class MainView;
 // front-end hands in the platform and its view, and passes on what the user does.
 class frmMain {
   public:
-    frmMain(const Platform& platform, MainView& view, std::string version);
+    frmMain(const Platform& platform, MainView& view, BuildFacts facts);
 
     enum class Start {
-        Window,        // of the main window: alone, with the day shown, and the place for updates
-        Alone,         // refused when another instance works in the same program folder
+        Window,        // of the main window: alone, with the day shown
+        Alone,         // refused when another instance works in the same program folder; this and the window's are for
+                       // an update that is ready
         AloneOffline,  // the same for commands that have no use for the internet, and leave its connections as they are
         Beside,        // for commands that only look, or touch nothing that another instance works on
     };
@@ -47,6 +51,13 @@ class frmMain {
 
     [[nodiscard]] Downloads& downloads() { return fetching_.Forced; }
     [[nodiscard]] ScheduledRuns& schedule() { return fetching_.Scheduled; }
+    [[nodiscard]] LiveUpdate& update() { return fetching_.Update; }
+    // A newer version lies here, to be installed at the next start.
+    [[nodiscard]] bool isUpdateReady() const;
+    // Puts the version that lies ready in the place of this one. What people are told of it, when it fails.
+    [[nodiscard]] std::optional<std::string> installUpdate();
+    // This start is over: it was for installing an update. The program is to begin anew.
+    [[nodiscard]] bool isUpdatePending() const { return mUpdatePending_; }
     [[nodiscard]] RunNews& news() { return fetching_.News; }
     [[nodiscard]] Reading& reading() { return reading_; }
     // What the user has chosen of the window's looks; there once the session is up.
@@ -75,8 +86,11 @@ class frmMain {
     void closeConnections();
     [[nodiscard]] static std::string programFolder(const Process& process);
 
+    [[nodiscard]] UpdateInstaller installer();
+
     Platform platform_;
     MainView& view_;
+    BuildFacts facts_;
     Session session_;
     EventLog log_;
     modIni ini_;

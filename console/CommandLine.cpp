@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "app/BuildFacts.h"
 #include "app/exitCodes.h"
 #include "platform/Terminal.h"
 
@@ -147,10 +148,17 @@ void addSchedule(CLI::App& app, CommandLine& line) {
     remove->callback([&line] { line.What = CommandLine::Command::ScheduleRemove; });
 }
 
+void addUpdate(CLI::App& app, CommandLine& line) {
+    CLI::App* command = app.add_subcommand("update", "Look for a newer version of this program and fetch it");
+    CLI::Option* check = command->add_flag("--check", line.Check, "Say only what there is");
+    command->add_flag("--install", line.Install, "Without a question, and install it at once")->excludes(check);
+    command->callback([&line] { line.What = CommandLine::Command::Update; });
+}
+
 void describe(CLI::App& app, CommandLine& line) {
     app.name("vell-console");
     app.description("Fetches the press clippings of a day and lists them.");
-    app.set_version_flag("--version", "vell-console " VELL_VERSION);
+    app.set_version_flag("--version", "vell-console " + buildFacts().Version);
     app.set_help_flag("-h,--help", "Show this help");
     app.fallthrough();
     app.require_subcommand(1);
@@ -168,6 +176,7 @@ void describe(CLI::App& app, CommandLine& line) {
     addDelete(app, line);
     addSetup(app, line);
     addSchedule(app, line);
+    addUpdate(app, line);
     app.add_subcommand("watch", "Keep the weekly schedule until Ctrl-C or SIGTERM")->callback([&line] {
         line.What = CommandLine::Command::Watch;
     });

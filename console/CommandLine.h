@@ -26,7 +26,8 @@ struct CommandLine {
         Open,
         Show,
         Mark,
-        Delete
+        Delete,
+        Update
     };
 
     Command What = Command::Download;
@@ -36,7 +37,9 @@ struct CommandLine {
     std::optional<Date> From;
     std::optional<Date> To;
     bool Tsv = false;
-    std::string Words;  // that the listed clippings have
+    bool Check = false;    // of an update: say only what there is
+    bool Install = false;  // of an update: at once
+    std::string Words;     // that the listed clippings have
     bool Unread = false;
     bool Opened = false;  // what to mark clippings as
     // Of what to list, print or open: everything, whole categories or types, or clippings by their file names.

@@ -11,6 +11,7 @@
 #include "console/ScheduleCommand.h"
 #include "console/Screen.h"
 #include "console/SetupCommand.h"
+#include "console/UpdateCommand.h"
 #include "platform/EventLoop.h"
 
 namespace vell {
@@ -84,6 +85,8 @@ int Commands::perform(const CommandLine& line) {
             return ScheduleCommand(program_.scheduleDialog(), screen_).run(line);
         case Command::Watch:
             return watch();
+        case Command::Update:
+            return update(line);
     }
     return exit_code::Usage;
 }
@@ -96,6 +99,12 @@ int Commands::download(const CommandLine& line) {
     if (signal_ != 0) return signal_ == SIGINT ? exit_code::Interrupted : exit_code::Terminated;
     if (program_.downloads().outcome().NoConnection) return exit_code::NoConnection;
     return program_.downloads().outcome().isGood() ? exit_code::Good : exit_code::Failed;
+}
+
+int Commands::update(const CommandLine& line) {
+    const int code = UpdateCommand(program_, screen_).run(line);
+    if (signal_ == 0) return code;
+    return signal_ == SIGINT ? exit_code::Interrupted : exit_code::Terminated;
 }
 
 int Commands::days() {

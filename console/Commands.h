@@ -27,6 +27,7 @@ class Commands {
     // What the command line asks for, in a session that is up.
     [[nodiscard]] int perform(const CommandLine& line);
     [[nodiscard]] int download(const CommandLine& line);
+    [[nodiscard]] int update(const CommandLine& line);
     [[nodiscard]] int days();
     [[nodiscard]] int watch();
 

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "app/BuildFacts.h"
 #include "app/exitCodes.h"
 #include "app/frmMain.h"
 #include "base/text.h"
@@ -14,6 +15,7 @@
 #include "console/ConsoleView.h"
 #include "console/Screen.h"
 #include "platform/Arguments.h"
+#include "platform/Installation.h"
 #include "platform/SystemPlatform.h"
 #include "platform/Terminal.h"
 #include "platform/asio/AsioEventLoop.h"
@@ -21,14 +23,14 @@
 
 namespace {
 
-int runProgram(const vell::CommandLine& line, vell::Terminal& terminal) {
-    vell::SystemPlatform system(line.Folder.empty() ? std::nullopt : std::optional(line.Folder));
+int runProgram(const vell::CommandLine& line, vell::Terminal& terminal, vell::Installation& own) {
+    vell::SystemPlatform system(line.Folder.empty() ? std::nullopt : std::optional(line.Folder), own);
     vell::AsioEventLoop& loop = system.loop();
     vell::Screen screen(terminal);
     vell::ConsoleBoxes boxes(terminal, screen, loop);
     if (line.Yes) boxes.sayYesToAll();
     vell::ConsoleView view(screen, boxes);
-    vell::frmMain program(system.with(boxes), view, VELL_VERSION);
+    vell::frmMain program(system.with(boxes), view, vell::buildFacts());
     vell::Commands commands(program, loop, view, terminal, screen, boxes);
     // A run is ended in good order. Printing and deleting have nothing to wind up, and the pauses between printed
     // documents let no event through: there a signal ends the program as it ends any other.
@@ -36,7 +38,9 @@ int runProgram(const vell::CommandLine& line, vell::Terminal& terminal) {
     std::optional<vell::StopSignals> signals;
     if (line.What != Command::Print && line.What != Command::Delete)
         signals.emplace(loop, [&](int number) { commands.interrupt(number); });
-    return commands.run(line);
+    const int code = commands.run(line);
+    if (program.isUpdatePending()) own.Restart();
+    return code;
 }
 
 }  // namespace
@@ -46,7 +50,9 @@ int main(int argc, char** argv) {
         const auto terminal = vell::systemTerminal();
         int exitCode = vell::exit_code::Good;
         const auto line = vell::parseCommandLine(vell::programArguments(argc, argv), *terminal, exitCode);
-        return line ? runProgram(*line, *terminal) : exitCode;
+        if (!line) return exitCode;
+        const auto own = vell::settledInstallation({argv, argv + argc}, vell::buildFacts().Version);
+        return runProgram(*line, *terminal, *own);
     } catch (const std::exception& error) {
         std::cerr << "vell-console: " << error.what() << "\n";
         return vell::exit_code::Failed;

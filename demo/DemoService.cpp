@@ -33,7 +33,8 @@ tcp::acceptor listenerAt(asio::io_context& loop, const Endpoint& place, const ch
 DemoService::DemoService(asio::io_context& loop, const Options& options, const ClippingsTree& tree)
     : loop_(loop),
       tree_(tree),
-      site_(tree),
+      updates_(options.Updates),
+      site_(tree, updates_),
       ftpTree_(tree),
       line_(options.Speed),
       journal_(options.Verbose),

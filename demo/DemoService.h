@@ -36,6 +36,7 @@ class DemoService {
 
     asio::io_context& loop_;
     const ClippingsTree& tree_;
+    UpdateShelf updates_;
     HttpSite site_;
     FtpTree ftpTree_;
     SlowLine line_;

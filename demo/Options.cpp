@@ -14,7 +14,7 @@ constexpr int usageMistake = 2;
 
 // The options as text and numbers, before they are judged together.
 struct Words {
-    std::string Root, Samples, Http = "127.0.0.1:0", Ftp = "127.0.0.1:0", ReadyFile, Listing = "unix";
+    std::string Root, Samples, Updates, Http = "127.0.0.1:0", Ftp = "127.0.0.1:0", ReadyFile, Listing = "unix";
     long RunsFor = 0, Latency = 0, Rate = 0, BreakEach = 0;
     bool Public = false, Verbose = false;
 };
@@ -28,6 +28,8 @@ void describe(CLI::App& app, Words& words) {
         ->required()
         ->type_name("DIR");
     app.add_option("--samples", words.Samples, "Folder of the sample clippings, if not the one that came along")
+        ->type_name("DIR");
+    app.add_option("--updates", words.Updates, "Folder of newer versions of the client, with their manifests")
         ->type_name("DIR");
     app.add_option("--http", words.Http, "Where HTTP listens, as origin server and as proxy; port 0 for a free one")
         ->type_name("ADDRESS:PORT")
@@ -73,6 +75,7 @@ Options judged(const Words& words) {
     Options options;
     options.Root = words.Root;
     options.Samples = words.Samples;
+    options.Updates = words.Updates;
     options.Http = endpointOf("--http", words.Http, words.Public);
     options.Ftp = endpointOf("--ftp", words.Ftp, words.Public);
     if (!options.Ftp.isIpV4())

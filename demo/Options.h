@@ -23,6 +23,7 @@ enum class ListForm { Unix, Dos };
 struct Options {
     std::filesystem::path Root;
     std::filesystem::path Samples;  // empty: those that came with the program
+    std::filesystem::path Updates;  // of the client; empty: there are none
     Endpoint Http;
     Endpoint Ftp;
     std::filesystem::path ReadyFile;              // empty: none is written

@@ -110,6 +110,7 @@ constexpr std::array items{
     menuEntry(Menu::Download, command::Setup, "Set&up...", "Ctrl+,", "The settings of the program"),
 
     menuEntry(Menu::Help, command::Help, "&Help", "F1", "Open the help page"),
+    menuEntry(Menu::Help, command::CheckUpdate, "Check for &updates", "", "Ask the service for a newer version"),
     menuEntry(Menu::Help, command::About, "&About Vell...", "", "The version of this program"),
 };
 

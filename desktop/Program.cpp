@@ -13,6 +13,7 @@
 #include <wx/log.h>
 #include <wx/utils.h>
 
+#include "app/BuildFacts.h"
 #include "app/exitCodes.h"
 #include "app/frmMain.h"
 #include "desktop/MainWindow.h"
@@ -24,17 +25,18 @@
 #include "desktop/native/alwaysShowFocus.h"
 #include "desktop/native/showQuietly.h"
 #include "desktop/screenText.h"
+#include "platform/Installation.h"
 #include "platform/Process.h"
 #include "platform/SystemPlatform.h"
 
 namespace vell {
 
 struct Program::Parts {
-    explicit Parts(const std::optional<std::string>& folder)
-        : System(folder),
+    Parts(const std::optional<std::string>& folder, Installation& own)
+        : System(folder, own),
           Services(System.with(Boxes).with(Words)),
           Window(*new MainWindow(Services.Time, Services.Disk)),  // the toolkit deletes its windows
-          Main(Services, Window, VELL_VERSION),
+          Main(Services, Window, buildFacts()),
           Events(Main, Window, Boxes, [] { std::quick_exit(exit_code::Good); }),
           Marriage(System.loop()) {}
 
@@ -48,7 +50,7 @@ struct Program::Parts {
     WindowLoop Marriage;
 };
 
-Program::Program(std::optional<std::string> folder) : folder_(std::move(folder)) {}
+Program::Program(std::optional<std::string> folder, Installation& own) : folder_(std::move(folder)), own_(own) {}
 
 Program::~Program() = default;
 
@@ -81,7 +83,7 @@ bool Program::OnInit() {
 
 bool Program::start() {
     try {
-        parts_ = std::make_unique<Parts>(folder_);
+        parts_ = std::make_unique<Parts>(folder_, own_);
         if (parts_->Main.Form_Load(frmMain::Start::Window)) {
             parts_->Events.showChosenView();
             alwaysShowFocus(parts_->Window);
@@ -91,6 +93,7 @@ bool Program::start() {
             parts_->Events.welcome();
             return true;
         }
+        if (parts_->Main.isUpdatePending()) own_.Restart();
         exitCode_ = parts_->Main.isSecondInstance() ? exit_code::AlreadyRunning : exit_code::Good;
     } catch (const std::exception& error) {
         // Whoever starts the window from the desktop sees no terminal.

@@ -9,11 +9,13 @@
 
 namespace vell {
 
+class Installation;
+
 // The toolkit's side of the program: brings everything up, and hands the thread to the window.
 class Program : public wxApp {
   public:
     // `folder` is the program folder that was named on the command line.
-    explicit Program(std::optional<std::string> folder);
+    Program(std::optional<std::string> folder, Installation& own);
     ~Program() override;
 
     bool Initialize(int& count, wxChar** arguments) override;
@@ -27,6 +29,7 @@ class Program : public wxApp {
     [[nodiscard]] bool start();
 
     std::optional<std::string> folder_;
+    Installation& own_;
     std::unique_ptr<Parts> parts_;
     bool started_ = false;
     int exitCode_ = 0;  // when it did not start

@@ -103,6 +103,8 @@ void WindowCommands::addProgramCommands() {
     table_[command::Refresh] = {[this] { program_.reading().Days.reload(); }, always};
     table_[command::GoToList] = {[this] { window_.list().focusList(); }, always};
     table_[command::Help] = {[this] { program_.reading().Opening.openHelp(); }, always};
+    table_[command::CheckUpdate] = {[this] { (void)program_.update().mnuCheckUpdate_Click(); },
+                                    [this] { return !program_.downloads().isBusy(); }};
     table_[command::About] = {[this] { showAbout(); }, always};
     table_[command::Exit] = {[this] { window_.Close(); }, always};
 }

@@ -66,6 +66,7 @@ enum : int {
     TryAgain,
     ShowFailedFiles,
     GoToMessage,
+    CheckUpdate,
 };
 
 }  // namespace vell::command

@@ -8,12 +8,14 @@ class ConnectionApi;
 class EventLoop;
 class Files;
 class IniFile;
+class Installation;
 class InternetApi;
 class MessageBoxes;
 class Printers;
 class Process;
 class RasApi;
 class Shell;
+class Signatures;
 class Sockets;
 class Translations;
 
@@ -31,15 +33,19 @@ struct Platform {
     Process& Program;
     Shell& DesktopShell;
     Printers& Printer;
+    Signatures& Signing;
+    Installation& Own;
     Translations& Words;
 
     // The same in another language.
     [[nodiscard]] Platform with(Translations& words) const {
-        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, Boxes, Program, DesktopShell, Printer, words};
+        return {Time,  Loop,    Disk,         Ini,     Internet, Net, Connection, Ras,
+                Boxes, Program, DesktopShell, Printer, Signing,  Own, words};
     }
     // The same with other message boxes.
     [[nodiscard]] Platform with(MessageBoxes& boxes) const {
-        return {Time, Loop, Disk, Ini, Internet, Net, Connection, Ras, boxes, Program, DesktopShell, Printer, Words};
+        return {Time,  Loop,    Disk,         Ini,     Internet, Net, Connection, Ras,
+                boxes, Program, DesktopShell, Printer, Signing,  Own, Words};
     }
 };
 

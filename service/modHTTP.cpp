@@ -205,14 +205,22 @@ bool modHTTP::HttpDownloadFile(const std::string& remoteName, const std::string&
                                std::int32_t& bytesReceived) {
     bytesReceived = 0;
     FailureLog log(log_, feedback_);
-    return trap(log, "HttpDownloadFile()", false, [&] { return fetch(remoteName, localPath, part, bytesReceived); });
+    return trap(log, "HttpDownloadFile()", false,
+                [&] { return fetch(BuildClippingUrl(settings_.Host, remoteName), localPath, part, bytesReceived); });
 }
 
-bool modHTTP::fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
+bool modHTTP::HttpDownloadAddress(const std::string& path, const std::string& localPath, PartFile& part,
+                                  std::int32_t& bytesReceived) {
+    bytesReceived = 0;
+    FailureLog log(log_, feedback_);
+    return trap(log, "HttpDownloadAddress()", false,
+                [&] { return fetch("http://" + settings_.Host + pathText(path), localPath, part, bytesReceived); });
+}
+
+bool modHTTP::fetch(const std::string& address, const std::string& localPath, PartFile& part,
                     std::int32_t& bytesReceived) {
     const auto session = internet_.InternetOpen(settings_.AgentName);
-    const auto file =
-        session ? internet_.InternetOpenUrl(*session, BuildClippingUrl(settings_.Host, remoteName)) : nullptr;
+    const auto file = session ? internet_.InternetOpenUrl(*session, address) : nullptr;
     if (!file) {
         logFailure("The file is not available", settings_.Host);
         feedback_.StatusBar(feedback_.statusText() + " File Not Available");

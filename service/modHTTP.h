@@ -41,6 +41,9 @@ class modHTTP {
     // `localPath`. True for status 200 and a whole answer; what it is worth the caller must see.
     bool HttpDownloadFile(const std::string& remoteName, const std::string& localPath, PartFile& part,
                           std::int32_t& bytesReceived);
+    // The same for what lies at a path of the service, which begins with "/".
+    bool HttpDownloadAddress(const std::string& path, const std::string& localPath, PartFile& part,
+                             std::int32_t& bytesReceived);
 
   private:
     struct Exchange;
@@ -53,7 +56,7 @@ class modHTTP {
     [[nodiscard]] Failure failureTowards(std::string_view host) const;
     void logFailure(std::string_view what, std::string_view host);
 
-    [[nodiscard]] bool fetch(const std::string& remoteName, const std::string& localPath, PartFile& part,
+    [[nodiscard]] bool fetch(const std::string& address, const std::string& localPath, PartFile& part,
                              std::int32_t& bytesReceived);
 
     InternetApi& internet_;

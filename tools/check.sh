@@ -28,7 +28,7 @@ done
 
 echo "== floors"
 # A folder may include what stands before it in this list, and itself.
-floors=(base platform log ftp net config store service ui app)
+floors=(base platform log ftp net config store service update ui app)
 allowed=""
 for floor in "${floors[@]}"; do
   allowed="$allowed|$floor"
@@ -43,7 +43,7 @@ echo "== documents"
 for folder in "${floors[@]}" console desktop demo tests bench fuzz packaging po; do
   [ ! -d "$folder" ] || grep -q "\`$folder/\`" docs/architecture.md || fail "docs/architecture.md does not name $folder/"
 done
-if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh tools/*.sh .ci/run || fail "shellcheck"; fi
+if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh packaging/*.sh tools/*.sh .ci/run || fail "shellcheck"; fi
 
 echo "== headers compile alone"
 cmake --preset debug >/dev/null

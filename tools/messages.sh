@@ -15,7 +15,7 @@ trap 'rm -rf "$work"' EXIT
 extract() {
   local file=$1
   shift
-  git ls-files -z --cached --others --exclude-standard -- 'ui/*' 'app/*' 'config/*' 'desktop/*' |
+  git ls-files -z --cached --others --exclude-standard -- 'ui/*' 'app/*' 'config/*' 'update/*' 'desktop/*' |
     grep -z -E '\.(cpp|h)$' | LC_ALL=C sort -z | xargs -0 xgettext --language=C++ --from-code=UTF-8 --keyword "$@" \
       --add-comments=Translators: --add-location=file --sort-by-file --package-name=Vell --output="$file"
 }

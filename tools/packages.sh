@@ -4,10 +4,10 @@
 set -euo pipefail
 
 # The last two let GTK draw its own pictures, which it only recommends.
-build=(g++ cmake gettext ninja-build pkg-config libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev libwxgtk3.2-dev
-  libgtk-3-dev librsvg2-common shared-mime-info)
+build=(g++ cmake gettext ninja-build pkg-config libarchive-dev libasio-dev libcurl4-openssl-dev libglib2.0-dev libcli11-dev
+  libssl-dev libwxgtk3.2-dev libgtk-3-dev librsvg2-common shared-mime-info)
 window=(at-spi2-core dbus gir1.2-atspi-2.0 imagemagick python3-gi xdotool xvfb)
-test=("${build[@]}" "${window[@]}" libgtest-dev libgmock-dev curl python3-dbusmock python3-pyftpdlib proftpd-core trayer)
+test=("${build[@]}" "${window[@]}" libgtest-dev libgmock-dev curl openssl python3-dbusmock python3-pyftpdlib proftpd-core trayer)
 check=("${build[@]}" libgtest-dev libgmock-dev clang-format clang-tidy g++-mingw-w64-x86-64-posix git)
 # What builds for Windows, and Wine, which runs it. The toolkit is built from its source package.
 windows=("${build[@]}" g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix wine wine64 dpkg-dev googletest python3)

@@ -8,6 +8,7 @@
 #include "app/failures/settleFailures.h"
 #include "app/progress/TransferProgress.h"
 #include "app/run/FtpSession.h"
+#include "app/run/LiveUpdate.h"
 #include "service/DownloadList.h"
 #include "store/Articles.h"
 #include "store/IndexFile.h"
@@ -135,6 +136,7 @@ void DownloadRun::closeBooks() {
 
 void DownloadRun::finish() {
     Session& state = p_.State;
+    p_.Update.afterRun();
     if (state.gStopRequested) {
         say("Download STOPED by user.");
         (void)p_.Ftp.StopFTP(true);

@@ -18,6 +18,7 @@ class DownloadList;
 class EventLoop;
 class Files;
 class FtpSession;
+class LiveUpdate;
 class MainView;
 class modGlobal;
 class modHTTP;
@@ -42,6 +43,7 @@ class DownloadRun {
         DownloadList& List;
         ClippingsBrowser& Browser;
         TransferProgress& Progress;
+        LiveUpdate& Update;
     };
     explicit DownloadRun(const Parts& parts);
 

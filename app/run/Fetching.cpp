@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "app/run/Fetching.h"
 
+#include "app/BuildFacts.h"
 #include "app/MainView.h"
 #include "app/Session.h"
 #include "app/failures/runMessage.h"
@@ -25,11 +26,13 @@ Fetching::Fetching(const Parts& p)
       Http(Os.Internet, Os.Disk, Os.Boxes, p.Progress, p.Log, p.State.Run.Setup),
       Ftp(p.State, Os, p.View, p.Progress, p.Log, usualPaintInterval),
       List({Http, Store, Os.Disk, Os.Boxes, p.Progress, p.Log, p.State.Run.Setup, p.State.Run.Day, p.State.Downloads,
-            p.Version}),
+            p.Facts.Version}),
       gInet(Os.Connection, Os.Boxes, p.Log),
       Ras(Os.Ras, p.Log),
       Link({p.State.Run.Setup, p.Progress, p.View, Os.Boxes, Os.Loop, p.Log, gInet, Ras}),
-      Run({p.State, p.View, Os.Loop, Os.Time, Os.Disk, p.Log, Store, Article, Http, Ftp, List, p.Browser, p.Progress}),
+      Update({Os, p.State, p.View, p.Ini, p.Log, p.Progress, p.Facts}),
+      Run({p.State, p.View, Os.Loop, Os.Time, Os.Disk, p.Log, Store, Article, Http, Ftp, List, p.Browser, p.Progress,
+           Update}),
       Download(p.State, Link, Run, p.Log, Os.Time),
       Forced({p.State, Os, p.View, p.Log, Download, Ftp, p.Progress, p.Browser}),
       Scheduled({p.State, Os.Loop, Os.Time, p.Log, Download, p.Browser}),

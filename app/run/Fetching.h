@@ -8,6 +8,7 @@
 #include "app/run/Downloads.h"
 #include "app/run/FtpSession.h"
 #include "app/run/InternetLink.h"
+#include "app/run/LiveUpdate.h"
 #include "app/run/RunBoxes.h"
 #include "app/run/ScheduledRuns.h"
 #include "net/CWinInetConnection.h"
@@ -23,6 +24,7 @@ namespace vell {
 class ClippingsBrowser;
 class MainView;
 class modIni;
+struct BuildFacts;
 
 // What brings clippings, whether a person or the schedule wants them. All of it gets the message boxes of a run, and
 // a store whose chosen day is the run's: what a person looks at meanwhile steers nothing here.
@@ -35,7 +37,7 @@ struct Fetching {
         EventLog& Log;
         TransferProgress& Progress;
         ClippingsBrowser& Browser;
-        const std::string& Version;
+        const BuildFacts& Facts;
     };
     explicit Fetching(const Parts& parts);
 
@@ -49,6 +51,7 @@ struct Fetching {
     CWinInetConnection gInet;
     ModRAS Ras;
     InternetLink Link;
+    LiveUpdate Update;
     DownloadRun Run;
     DownloadSession Download;
     Downloads Forced;

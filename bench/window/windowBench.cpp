@@ -10,9 +10,12 @@
 
 #include <wx/init.h>
 
+#include "app/BuildFacts.h"
 #include "bench/window/firstFrame.h"
 #include "bench/window/measures.h"
 #include "desktop/Program.h"
+#include "platform/Installation.h"
+#include "platform/SystemPlatform.h"
 
 namespace {
 
@@ -39,7 +42,8 @@ void measure() {
 
 class MeasuredProgram : public vell::Program {
   public:
-    MeasuredProgram(std::string folder, void (*painted)()) : Program(std::move(folder)), painted_(painted) {}
+    MeasuredProgram(std::string folder, vell::Installation& own, void (*painted)())
+        : Program(std::move(folder), own), painted_(painted) {}
     bool OnInit() override {
         const bool started = Program::OnInit();
         onPainted(*GetTopWindow(), painted_);
@@ -56,7 +60,8 @@ int main(int argc, char** argv) {
     arguments = {argv + 1, argv + argc};
     if (arguments.size() < 2) return 2;
     const auto afterwards = [] { wxTheApp->CallAfter(&measure); };
-    wxApp::SetInstance(new MeasuredProgram(arguments[1], arguments[0] == "start" ? tellFirstFrame : afterwards));
+    const auto own = vell::settledInstallation({argv, argv + argc}, vell::buildFacts().Version);
+    wxApp::SetInstance(new MeasuredProgram(arguments[1], *own, arguments[0] == "start" ? tellFirstFrame : afterwards));
     int nameOnly = 1;
     return wxEntry(nameOnly, argv);
 }

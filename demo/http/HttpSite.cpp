@@ -19,6 +19,7 @@ std::string typeOf(const fs::path& file) {
     const std::string ending = Upper(file.extension().string());
     if (ending == ".PDF") return "application/pdf";
     if (ending == ".JPG") return "image/jpeg";
+    if (ending == ".GZ" || ending == ".EXE") return "application/octet-stream";
     return greekText;
 }
 
@@ -52,7 +53,8 @@ HttpAnswer HttpSite::answer(const HttpRequest& request) const {
 std::optional<HttpAnswer> HttpSite::script(const HttpRequest& request) const {
     const bool isList = equalNoCase(request.Path, "/vell/vellClipsToDownload.asp");
     const bool isAlert = equalNoCase(request.Path, "/sources.asp");
-    if (equalNoCase(request.Path, "/vell/vellUpdate.asp")) return HttpAnswer{200, greekText, VELL_VERSION, {}};
+    if (equalNoCase(request.Path, "/vell/vellUpdate.asp"))
+        return HttpAnswer{200, greekText, updates_.answer(request.Body), {}};
     if (!isList && !isAlert) return std::nullopt;
     if (request.Method != "POST") {
         HttpAnswer refusal = problemAnswer(405, "This script takes a form, sent with POST.");
@@ -65,6 +67,8 @@ std::optional<HttpAnswer> HttpSite::script(const HttpRequest& request) const {
 
 std::optional<fs::path> HttpSite::file(const std::string& path) const {
     const auto parts = Split(path, "/");  // the first one is empty
+    if (parts.size() == 4 && equalNoCase(parts[1], "vell") && equalNoCase(parts[2], "update"))
+        return updates_.file(parts[3]);
     if (parts.size() == 3 && equalNoCase(parts[1], "clippings")) return tree_.articleFile(parts[2]);
     if (parts.size() != 6 || !equalNoCase(parts[1], "archive")) return std::nullopt;
     // Its name has no date before the ending, so clients ask for it under nonsense parts of a date.

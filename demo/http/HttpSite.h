@@ -7,6 +7,7 @@
 
 #include "demo/days/ClippingsTree.h"
 #include "demo/http/HttpRequest.h"
+#include "demo/http/UpdateShelf.h"
 
 namespace vell::demo {
 
@@ -19,10 +20,11 @@ struct HttpAnswer {
     std::string Allow = {};  // with status 405: the methods that would do
 };
 
-// The addresses of the service: its scripts, the files of the archive and of the current day, the advertisement.
+// The addresses of the service: its scripts, the files of the archive and of the current day, the advertisement,
+// newer versions of the client.
 class HttpSite {
   public:
-    explicit HttpSite(const ClippingsTree& tree) : tree_(tree) {}
+    HttpSite(const ClippingsTree& tree, const UpdateShelf& updates) : tree_(tree), updates_(updates) {}
 
     [[nodiscard]] HttpAnswer answer(const HttpRequest& request) const;
 
@@ -31,6 +33,7 @@ class HttpSite {
     [[nodiscard]] std::optional<std::filesystem::path> file(const std::string& path) const;
 
     const ClippingsTree& tree_;
+    const UpdateShelf& updates_;
 };
 
 // An answer that only tells what went wrong.

@@ -16,11 +16,13 @@
 #include "platform/posix/program/PosixProcess.h"
 #include "platform/posix/program/PosixShell.h"
 #include "platform/posix/program/SystemClock.h"
+#include "platform/posix/update/OpenSslSignatures.h"
 
 namespace vell {
 
 struct SystemPlatform::Parts {
-    explicit Parts(std::optional<std::string> folder) : Program(ProgramPlace::ofThisProcess(std::move(folder))) {}
+    Parts(std::optional<std::string> folder, Installation& own)
+        : Program(ProgramPlace::ofThisProcess(std::move(folder))), Own(own) {}
 
     SystemClock Time;
     AsioEventLoop Loop{Time};
@@ -34,18 +36,20 @@ struct SystemPlatform::Parts {
     PosixProcess Program;
     PosixShell DesktopShell;
     CupsPrinters Printer;
+    OpenSslSignatures Signing{Disk};
+    Installation& Own;
     Translations Words;
 };
 
-SystemPlatform::SystemPlatform(std::optional<std::string> folder)
-    : parts_(std::make_unique<Parts>(std::move(folder))) {}
+SystemPlatform::SystemPlatform(std::optional<std::string> folder, Installation& own)
+    : parts_(std::make_unique<Parts>(std::move(folder), own)) {}
 
 SystemPlatform::~SystemPlatform() = default;
 
 Platform SystemPlatform::with(MessageBoxes& boxes) {
     Parts& p = *parts_;
-    return {p.Time, p.Loop, p.Disk,    p.Ini,          p.Internet, p.Net,  p.Connection,
-            p.Ras,  boxes,  p.Program, p.DesktopShell, p.Printer,  p.Words};
+    return {p.Time, p.Loop,    p.Disk,         p.Ini,     p.Internet, p.Net, p.Connection, p.Ras,
+            boxes,  p.Program, p.DesktopShell, p.Printer, p.Signing,  p.Own, p.Words};
 }
 
 AsioEventLoop& SystemPlatform::loop() {

@@ -15,11 +15,13 @@
 #include "platform/windows/program/SystemClock.h"
 #include "platform/windows/program/WindowsProcess.h"
 #include "platform/windows/program/WindowsShell.h"
+#include "platform/windows/update/CngSignatures.h"
 
 namespace vell {
 
 struct SystemPlatform::Parts {
-    explicit Parts(const std::optional<std::string>& folder) : Program(ProgramPlace::ofThisProcess(folder)) {}
+    Parts(const std::optional<std::string>& folder, Installation& own)
+        : Program(ProgramPlace::ofThisProcess(folder)), Own(own) {}
 
     SystemClock Time;
     AsioEventLoop Loop{Time};
@@ -32,17 +34,20 @@ struct SystemPlatform::Parts {
     WindowsProcess Program;
     WindowsShell DesktopShell;
     WindowsPrinters Printer;
+    CngSignatures Signing{Disk};
+    Installation& Own;
     Translations Words;
 };
 
-SystemPlatform::SystemPlatform(std::optional<std::string> folder) : parts_(std::make_unique<Parts>(folder)) {}
+SystemPlatform::SystemPlatform(std::optional<std::string> folder, Installation& own)
+    : parts_(std::make_unique<Parts>(folder, own)) {}
 
 SystemPlatform::~SystemPlatform() = default;
 
 Platform SystemPlatform::with(MessageBoxes& boxes) {
     Parts& p = *parts_;
-    return {p.Time, p.Loop, p.Disk,    p.Ini,          p.Internet, p.Net,  p.Connection,
-            p.Ras,  boxes,  p.Program, p.DesktopShell, p.Printer,  p.Words};
+    return {p.Time, p.Loop,    p.Disk,         p.Ini,     p.Internet, p.Net, p.Connection, p.Ras,
+            boxes,  p.Program, p.DesktopShell, p.Printer, p.Signing,  p.Own, p.Words};
 }
 
 AsioEventLoop& SystemPlatform::loop() {

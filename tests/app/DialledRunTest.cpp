@@ -15,10 +15,10 @@ TEST_F(DialledRunTest, dialsBeforeARunAndHangsUpAfterIt) {
     NetworkManagerClient client(loop, clock, mock.address());
     PosixConnection dialUp(client, [] { return std::string(); });
     PosixRas profiles(client);
-    frmMain dialling{
-        {clock, loop, files, iniFile, internet, sockets, dialUp, profiles, boxes, *this, shell, printers, english},
-        view,
-        "2.1.37"};
+    frmMain dialling{{clock, loop, files, iniFile, internet, sockets, dialUp, profiles, boxes, *this, shell, printers,
+                      signatures, installation, english},
+                     view,
+                     {"2.1.37", ""}};
     load(dialling, "Schedule1=Sun 06:30\r\n", "DialUp=My ISP\r\nCloseConnection=1\r\n");
     pass(std::chrono::minutes{1});
     clock.advance(std::chrono::seconds{10});

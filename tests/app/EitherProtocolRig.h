@@ -24,7 +24,7 @@ struct EitherProtocolRig : ProgramRig {
             host = "Protocol=FTP\r\nHost=127.0.0.1\r\nTimeOut=20\r\nPort=" + std::to_string(server->port()) + "\r\n";
         }
         settings = "[Host]\r\n" + host + "RetryOnFailure=1\r\nRetryDelay=0\r\n[General]\r\nDebug=1\r\n[Download]\r\n" +
-                   "LocalDir=" + folder.text() + "/clips\r\n";
+                   "AutoUpdateCheck=0\r\nLocalDir=" + folder.text() + "/clips\r\n";
         folder.put("vell.ini", settings);
         return true;
     }

@@ -15,10 +15,10 @@ using testing::ElementsAre, testing::IsEmpty, testing::SizeIs;
 class FailuresTest : public testing::Test, protected ProgramRig {
   protected:
     FailuresTest() {
-        folder.put(
-            "vell.ini",
-            "[Host]\r\nHost=service.example\r\nRetryOnFailure=1\r\n[General]\r\nDebug=1\r\n[Download]\r\nLocalDir=" +
-                folder.text() + "/clips\r\n");
+        folder.put("vell.ini",
+                   "[Host]\r\nHost=service.example\r\nRetryOnFailure=1\r\n[General]\r\nDebug=1\r\n[Download]\r\n"
+                   "AutoUpdateCheck=0\r\nLocalDir=" +
+                       folder.text() + "/clips\r\n");
         (void)program.Form_Load(frmMain::Start::Alone);
     }
     HttpPeer::Answer takeAway(const std::string& name) {

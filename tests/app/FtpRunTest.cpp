@@ -23,7 +23,7 @@ class FtpRunTest : public testing::TestWithParam<const char*>, protected Program
         if (server_->port() == 0) GTEST_SKIP() << GetParam() << " is not installed";
         folder.put("vell.ini", "[Host]\r\nProtocol=FTP\r\nHost=127.0.0.1\r\nPort=" + std::to_string(server_->port()) +
                                    "\r\nTimeOut=20\r\nRetryOnFailure=3\r\nRetryDelay=1\r\n[General]\r\nDebug=1\r\n" +
-                                   "[Download]\r\nLocalDir=" + folder.text() + "/clips\r\n");
+                                   "[Download]\r\nAutoUpdateCheck=0\r\nLocalDir=" + folder.text() + "/clips\r\n");
     }
 
     void put(const std::string& name, std::size_t size) {

@@ -76,7 +76,9 @@ TEST_F(StartUpTest, aPendingUpdateStopsTheStartBeforeSettingsAndLog) {
     EXPECT_FALSE(load());
     EXPECT_FALSE(program.isSecondInstance());
     program.Form_Unload();
-    EXPECT_THAT(boxes.Shown, ElementsAre("An update file is ready to be installed..."));
+    EXPECT_THAT(boxes.Shown, ElementsAre("An update file is ready to be installed...",
+                                         "The newer version could not be installed. The program stays as it is. The "
+                                         "file is not the one that its maker has signed."));
     EXPECT_THAT(ini(), HasSubstr("Update=0"));
     EXPECT_FALSE(folder.has("vell.log"));
     EXPECT_FALSE(view.Place);

@@ -44,7 +44,7 @@ class DiskFaultsTest : public testing::TestWithParam<std::tuple<CommandUnderFaul
     const std::map<std::string, std::string> before{
         {"vell.ini",
          "; mine\r\n[Host]\r\nUid=ann\r\nPort=21\r\nRetryOnFailure=3\r\nRetryDelay=5\r\nTimeOut=20\r\nOther=1\r\n"
-         "[General]\r\nDebug=1\r\nAutoPlayDelay=5\r\nPrintAllDelay=5\r\n[Download]\r\nLocalDir=" +
+         "[General]\r\nDebug=1\r\nAutoPlayDelay=5\r\nPrintAllDelay=5\r\n[Download]\r\nAutoUpdateCheck=0\r\nLocalDir=" +
              folder.text() + "/clips\r\n[Schedule]\r\nSchedule1=Mon 07:30\r\nSchedule2=Tue 08:30\r\n"},
         {"clips/07032004/ALLFILES.DIR", "A.PDF||P||T||C||Y||1||d||1||1||1\r\nB.PDF||P||T||C||Y||1||d\r\n\r\n"},
         {"clips/07032004/A.PDF", "a"},

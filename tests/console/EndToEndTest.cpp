@@ -17,10 +17,10 @@ class EndToEndTest : public testing::Test {
   protected:
     EndToEndTest() {
         std::filesystem::create_directory(folder_.path() / "clips");
-        folder_.put(
-            "vell.ini",
-            "[General]\r\nPrintAllDelay=0\r\n[Host]\r\nHost=service.example\r\nUid=ann\r\n[Download]\r\nLocalDir=" +
-                folder_.text() + "/clips\r\n");
+        folder_.put("vell.ini",
+                    "[General]\r\nPrintAllDelay=0\r\n[Host]\r\nHost=service.example\r\nUid=ann\r\n[Download]"
+                    "\r\nAutoUpdateCheck=0\r\nLocalDir=" +
+                        folder_.text() + "/clips\r\n");
         service_.serve(3);
     }
     ChildProcess start(std::vector<std::string> arguments, const std::string& input = "") {

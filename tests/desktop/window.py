@@ -40,10 +40,10 @@ class Window:
         with open(complaints, "ab") as errors:
             self.process = subprocess.Popen([vell, "--folder", str(folder)], env={**os.environ, **environment},
                                             stderr=errors)
-        self.application = wait(self._find_application)
+        self.application = wait(self.find_application)
         wait(lambda: self.application.get_child_count())
 
-    def _find_application(self):
+    def find_application(self):
         desktop = Atspi.get_desktop(0)
         children = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
         return next((one for one in children if one and one.get_process_id() == self.process.pid), None)

@@ -14,7 +14,7 @@ from window import Atspi, Window, wait
 VELL, SERVICE, CONSOLE, SHOTS = sys.argv[1:5]
 TODAY = datetime.date.today()
 SETTINGS = """[General]\r\nAutoPlayDelay=5\r\nPrintAllDelay=1\r\n[Host]\r\nProtocol=HTTP\r\nHost=clippings.example\r
-Uid=demo\r\nPort=21\r\nRetryOnFailure=3\r\nRetryDelay=1\r\nTimeOut=20\r\n[Download]\r\nLocalDir={}\r\n"""
+Uid=demo\r\nPort=21\r\nRetryOnFailure=3\r\nRetryDelay=1\r\nTimeOut=20\r\n[Download]\r\nAutoUpdateCheck=0\r\nLocalDir={}\r\n"""
 RECORDER = """[Desktop Entry]\nType=Application\nName=Recorder\nExec=sh -c 'echo "$1" >>"{}"' sh %f\nMimeType=application/pdf;\n"""
 # What the libraries say of themselves, whatever a program does.
 NOT_OURS = [
@@ -26,6 +26,8 @@ NOT_OURS = [
 
 
 class WindowCase(unittest.TestCase):
+    program = VELL
+
     def setUp(self):
         self.temporary = tempfile.TemporaryDirectory()
         self.addCleanup(self.temporary.cleanup)
@@ -54,7 +56,7 @@ class WindowCase(unittest.TestCase):
         (folder / "ALLFILES.DIR").write_bytes("".join(lines + ["\r\n"]).encode("cp1253"))
 
     def start(self, **environment):
-        window = Window(VELL, self.folder, {**self.environment, **environment}, self.home / "complaints")
+        window = Window(self.program, self.folder, {**self.environment, **environment}, self.home / "complaints")
         self.addCleanup(window.kill)
         return window
 

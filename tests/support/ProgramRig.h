@@ -14,6 +14,7 @@
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedBoxes.h"
 #include "tests/support/ScriptedConnection.h"
+#include "tests/support/ScriptedInstallation.h"
 #include "tests/support/ScriptedRas.h"
 #include "tests/support/ServicePeer.h"
 #include "tests/support/SettingsRig.h"
@@ -33,7 +34,7 @@ struct ProgramRig : Process {
         folder.put("vell.ini",
                    "[Host]\r\nHost=service.example\r\nUid=ann\r\nRetryOnFailure=3\r\nRetryDelay=49\r\n"
                    "[General]\r\nDebug=1\r\n[Download]\r\n" +
-                       more + "LocalDir=" + localDir + "\r\n");
+                       more + "AutoUpdateCheck=0\r\nLocalDir=" + localDir + "\r\n");
     }
     bool runToday() {
         const bool started = program.Form_Load(frmMain::Start::Alone);
@@ -70,13 +71,15 @@ struct ProgramRig : Process {
     ScriptedBoxes boxes;
     RecordingShell shell;
     RecordingPrinters printers;
+    SystemSignatures signatures{files};
+    ScriptedInstallation installation;
     Translations english;
     RecordingView view;
     bool anotherRuns = false;
-    frmMain program{
-        {clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell, printers, english},
-        view,
-        "2.1.37"};
+    frmMain program{{clock, loop, files, iniFile, internet, sockets, connection, ras, boxes, *this, shell, printers,
+                     signatures, installation, english},
+                    view,
+                    {"2.1.37", VELL_DEMO_UPDATE_KEY}};
 };
 
 }  // namespace vell::test

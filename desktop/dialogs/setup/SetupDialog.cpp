@@ -96,10 +96,11 @@ void SetupDialog::addConnection(const std::vector<std::string>& dialUps) {
 void SetupDialog::addAutoUpdate() {
     SetupPage* page = addPage(_("Auto Update"));
     page->addFlag(&Settings::AutoUpdateCheck, _("&Look for a newer version after each download"));
-    page->addFlag(&Settings::AutoUpdateServer, _("&Fetch updates for the other computers, too"));
-    page->addFlag(&Settings::AutoUpdateNotify, _("&Tell me of a newer version"));
-    page->addRemark(
-        _("This version does not look for updates yet. What you choose here is kept for the one that does."));
+    page->addRemark(_("What the service offers is taken only when the program's maker has signed it."));
+    page->addFlag(&Settings::AutoUpdateServer, _("&Share newer versions through the download folder"));
+    page->addRemark(_("Of several computers with one download folder, only the first has to fetch a version."));
+    page->addFlag(&Settings::AutoUpdateNotify, _("&Ask me before a newer version is fetched"));
+    page->addRemark(_("It is installed when the program starts the next time."));
 }
 
 void SetupDialog::begin() {
