@@ -25,6 +25,14 @@ function(vell_options target)
   endif()
 endfunction()
 
+# Has the compiler read these headers once for the whole target, where that is asked for. Every unit sees them then, so a
+# build without it (the release) tells what a unit has forgotten to include.
+function(vell_read_once target)
+  if(VELL_PCH)
+    target_precompile_headers(${target} PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # A program of ours, and what it says of itself where the system shows that.
 #   vell_program(NAME vell-console SAYS "Vell in the terminal" SOURCES main.cpp ... LINKS vell_core)
 function(vell_program)
