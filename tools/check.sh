@@ -48,7 +48,7 @@ if command -v shellcheck >/dev/null; then shellcheck demo.sh test.sh packaging/*
 echo "== headers compile alone"
 cmake --preset debug >/dev/null
 # What the build tells the tests: where programs and scripts are.
-places="-DVELL_CONSOLE=__FILE__ -DVELL_REAL_SERVER=__FILE__ -DVELL_NETWORK_MANAGER_PY=__FILE__"
+places="-DVELL_CONSOLE=__FILE__ -DVELL_REAL_SERVER=__FILE__ -DVELL_NETWORK_MANAGER_PY=__FILE__ -DVELL_DEMO_UPDATE_KEY=__FILE__"
 flags="-std=c++20 -fsyntax-only -I. -DASIO_STANDALONE -DASIO_NO_DEPRECATED $places $(pkg-config --cflags gio-2.0) $(wx-config --cxxflags)"
 # A header that its own .cpp includes first has shown it in every build; the others are shown here.
 lone_headers() {

@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 
 keywords=(--keyword=_ "--keyword=wxPLURAL:1,2" --keyword=menuEntry:3 --keyword=toolEntry:3 --keyword=translatable
   "--keyword=wxGETTEXT_IN_CONTEXT:1c,2"
-  "--keyword=translate:1,1t" "--keyword=translate:1,2,3t" --keyword=numberedText:2,3)
+  "--keyword=translate:1,1t" "--keyword=translate:1,2,3t" "--keyword=numberedText:2,3")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::string_view updateScript = "/vell/vellUpdate.asp";
 constexpr std::string_view updateAddress = "/vell/update/";
-constexpr std::size_t copyStep = 256U * 1024;
+constexpr std::size_t copyStep{262'144};
 
 // A part that has not become a file goes with what has come of it.
 class Arrival {

@@ -122,7 +122,7 @@ std::optional<std::string> ScheduleDialog::InputBox(std::string_view prompt, std
     wxTextEntryDialog box(this, shownText(prompt), shownLine(title), shownLine(offered));
     nameButtons(box);
     for (wxWindow* child : box.GetChildren())
-        if (wxDynamicCast(child, wxTextCtrl)) setAccessibleName(*child, shownLine(title));
+        if (dynamic_cast<wxTextCtrl*>(child) != nullptr) setAccessibleName(*child, shownLine(title));
     return box.ShowModal() == wxID_OK ? std::optional(typedText(box.GetValue())) : std::nullopt;
 }
 

@@ -30,9 +30,9 @@ class UpdateEndToEndTest : public testing::Test {
         fs::copy_file(VELL_CONSOLE, made_->path() / "vell-" VELL_VERSION "/bin/vell-console");
         made_->put("vell-" VELL_VERSION "/share/vell/Vellhelp.htm", "new");
         const auto archive = made_->path() / "a.tar.gz";
-        ASSERT_EQ(ChildProcess({"strip", "-g", made_->text() + "/vell-" VELL_VERSION "/bin/vell-console"}).end().Code,
-                  0);
-        ASSERT_EQ(ChildProcess({"tar", "-C", made_->text(), "-czf", archive, "vell-" VELL_VERSION}).end().Code, 0);
+        const std::string set = "vell-" VELL_VERSION, program = made_->text() + '/' + set + "/bin/vell-console";
+        ASSERT_EQ(ChildProcess({"strip", "-g", program}).end().Code, 0);
+        ASSERT_EQ(ChildProcess({"tar", "-C", made_->text(), "-czf", archive, set}).end().Code, 0);
         archive_ = made_->get("a.tar.gz");
     }
     static void TearDownTestSuite() { made_.reset(); }

@@ -213,7 +213,7 @@ class WindowTest(WindowCase):
             self.assertEqual(window.close(), 0)
 
     def test_a_run_is_seen_and_stopped(self):
-        window = self.start(**self.serve("--rate", "60", "--latency", "20"))
+        window = self.start(**self.serve("--rate", "20", "--latency", "20"))
         window.press("F9")
         window.find("push button", "Stop download")
         wait(lambda: window.row_count() >= 2)
@@ -260,7 +260,7 @@ class WindowTest(WindowCase):
         self.assertEqual(window.close(), 0)
 
     def test_a_download_goes_on_behind_a_dialog(self):
-        window = self.start(**self.serve("--rate", "60", "--latency", "20"))
+        window = self.start(**self.serve("--rate", "20", "--latency", "20"))
         window.press("F9")
         wait(lambda: window.row_count() >= 1)
         for keys, role, name in (("ctrl+shift+f", "label", "Types"), ("ctrl+comma", "page tab", "Connection")):

@@ -14,8 +14,6 @@ namespace vell::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::Field;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 class PosixFilesTest : public testing::Test, protected FolderRig {

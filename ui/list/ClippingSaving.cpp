@@ -43,6 +43,7 @@ void ClippingSaving::saveAs(const std::string& clipping, const std::string& plac
 
 void ClippingSaving::saveAll(const std::vector<std::string>& clippings, const std::string& folder) {
     std::vector<Copy> copies;
+    copies.reserve(clippings.size());
     std::set<std::string> used;
     for (const std::string& clipping : clippings)
         copies.push_back({clipping, folder + '/' + utf8FromCodePage(uniqueName(nameOf(clipping), used))});

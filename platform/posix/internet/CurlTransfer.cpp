@@ -176,8 +176,7 @@ void CurlTransfer::end(CURLcode result) {
 }
 
 std::string CurlTransfer::unreachedProxy() const {
-    using namespace internet_error;
-    const auto numbers = {CannotConnect, NameNotResolved, Timeout};
+    const auto numbers = {internet_error::CannotConnect, internet_error::NameNotResolved, internet_error::Timeout};
     if (std::ranges::find(numbers, error()) == numbers.end()) return {};
     curl_off_t connected = 0;
     curl_easy_getinfo(easy_.get(), CURLINFO_CONNECT_TIME_T, &connected);
