@@ -13,7 +13,6 @@
 namespace vell::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 class PosixFilesTest : public testing::Test, protected FolderRig {
